@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "app/compile.h"
+
+#include "app/syncsingleton.h"
+#include "app/ztconfiguration.h"
+#include "render/companyprinterdriver.h"
+#include "render/nestinglimit.h"
+#include "text/standardoutput.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+#include <QTranslator>
+#include <QXmlInputSource>
+#include <QXmlSimpleReader>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The toolkit warns on standard error, where the till expects nothing.
+void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+/// The file name whose bytes are the characters of a setting.
+QString fileNameOf(const QString &setting)
+{
+    return QFile::decodeName(setting.toLatin1());
+}
+
+void loadTranslation(QTranslator &translator, const ZTConfiguration &config)
+{
+    const QString base = config.getStrValue(u"zentaro.language.basedir"_s);
+    const QString file = config.getStrValue(u"zentaro.language.file"_s);
+    bool loaded = false; // a missing translation leaves the texts as they are
+    if (file == "/"_L1)
+        loaded =
+            translator.load(fileNameOf(base) + "/zentaro_"_L1 + QLocale::system().name(), u"."_s);
+    else if (const QString name = base + file; !name.isEmpty())
+        loaded = translator.load(fileNameOf(name));
+    Q_UNUSED(loaded)
+}
+
+void printRequest(const QString &requestName, const QString &printName)
+{
+    CompanyPrinterDriver driver(printName);
+    NestingLimit handler(driver);
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&handler);
+    QFile request(requestName);
+    QXmlInputSource source(&request);
+    reader.parse(source);
+}
+
+} // namespace
+
+void compile(int argc, char **argv)
+{
+    if (argc != 3 && argc != 4) {
+        const QByteArray program(argc > 0 ? argv[0] : "");
+        text::printLine("Usage: " + program + " input_file output_file");
+        return;
+    }
+    // A reader of the diagnostics or of a piped print file that goes away must not end the run.
+    std::signal(SIGPIPE, SIG_IGN);
+    qInstallMessageHandler(dropMessage);
+
+    const QString requestName = QFile::decodeName(argv[1]);
+    const QString printName = QFile::decodeName(argv[2]);
+    const QCoreApplication application(argc, argv);
+    QTranslator translator;
+    loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
+    QCoreApplication::installTranslator(&translator);
+    printRequest(requestName, printName);
+}

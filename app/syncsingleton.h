@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMutex>
+
+#include <atomic>
+
+/// The one object of a class in this process: created on first use, deleted at exit. Any thread may
+/// ask for it; `T` needs a default constructor.
+template <typename T>
+class SyncSingleton
+{
+public:
+    /// The object; the first call creates it.
+    static T *instance()
+    {
+        if (T *const present = instance_pointer.load(std::memory_order_acquire))
+            return present;
+        createInstance();
+        return instance_pointer.load(std::memory_order_acquire);
+    }
+
+    /// Creates the object unless another thread has done so.
+    static void createInstance()
+    {
+        const QMutexLocker lock(&instance_mutex);
+        if (instance_pointer.load(std::memory_order_relaxed))
+            return;
+        T *const created = new T;
+        instance_destroyer.instance = created;
+        instance_pointer.store(created, std::memory_order_release);
+    }
+
+    static inline std::atomic<T *> instance_pointer = nullptr; ///< null before first use
+
+private:
+    /// Deletes the object when the process's static objects go.
+    struct Destroyer
+    {
+        ~Destroyer() { delete instance; }
+        T *instance;
+    };
+
+    static inline QMutex instance_mutex;
+    static inline Destroyer instance_destroyer{nullptr};
+};

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "app/ztconfiguration.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString inLatin1(const QString &text)
+{
+    return QString::fromLatin1(text.toLatin1());
+}
+
+} // namespace
+
+ZTConfiguration::ZTConfiguration()
+{
+    readFile(QDir::homePath() + "/.zentaro/conf/zentaro.conf"_L1, u"cfg"_s);
+}
+
+QString ZTConfiguration::getStrValue(const QString &key) const
+{
+    return inLatin1(lookup(inLatin1(key)));
+}

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "render/printerdriver.h"
+
+#include "render/attributes.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A label line of the order block: printed under its switch, with the value of its attribute.
+struct LabelRow
+{
+    bool DocumentSettings::*printed;
+    const char *label;
+    QLatin1StringView attribute;
+};
+
+using S = DocumentSettings;
+
+constexpr std::array<LabelRow, 6> orderRows = {{
+    {&S::printDate, QT_TRANSLATE_NOOP("PrinterDriver", "Date:"), "date"_L1},
+    {&S::printTime, QT_TRANSLATE_NOOP("PrinterDriver", "Time:"), "time"_L1},
+    {&S::printTable, QT_TRANSLATE_NOOP("PrinterDriver", "Table:"), "table"_L1},
+    {&S::printWaiter, QT_TRANSLATE_NOOP("PrinterDriver", "Waiter:"), "waiter"_L1},
+    {&S::printNote, QT_TRANSLATE_NOOP("PrinterDriver", "Note:"), "note"_L1},
+    {&S::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), "credit"_L1},
+}};
+
+constexpr std::array<LabelRow, 3> customerRows = {{
+    {&S::printTelephone, QT_TRANSLATE_NOOP("PrinterDriver", "Telephone:"), "telephone"_L1},
+    {&S::printLicenseNumber, QT_TRANSLATE_NOOP("PrinterDriver", "License Number:"),
+     "licensenumber"_L1},
+    {&S::printFiscalCode, QT_TRANSLATE_NOOP("PrinterDriver", "Fiscal Code:"), "fiscalcode"_L1},
+}};
+
+} // namespace
+
+/// A blank, the label, a blank, the value.
+void PrinterDriver::printLabelLine(const QString &label, const QString &value)
+{
+    print(1, label);
+    println(1, value);
+}
+
+void PrinterDriver::printGeometry(const QXmlAttributes &)
+{
+    constexpr int MaxTopMargin = 1'000; // more is a typing error, and would only cost paper
+    if (!settings.printGeometry)
+        return;
+    const int lines = qMin(numberSetting("topMargin"_L1), MaxTopMargin);
+    for (int i = 0; i < lines; ++i)
+        println(u""_s);
+}
+
+void PrinterDriver::printPrinterInfo()
+{
+    setCenterJustify();
+    println(printerInfo);
+    printSeparatorLine();
+}
+
+void PrinterDriver::printHeaders(const QXmlAttributes &atts)
+{
+    if (!settings.printHeader)
+        return;
+    for (int i = 0; i < atts.count(); ++i)
+        println(atts.value(i));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printCompanyHeader(const QXmlAttributes &atts)
+{
+    if (!settings.printCompany)
+        return;
+    setCharSize();
+    setCenterJustify();
+    for (int i = 0; i < atts.count(); ++i)
+        println(atts.value(i));
+    setCharSize();
+    printSeparatorLine();
+}
+
+void PrinterDriver::printReceiptHeader(const QXmlAttributes &atts)
+{
+    println(1, tr("Serial Number: ") + valueOf(atts, "serialnumber"_L1));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printInvoiceHeader(const QXmlAttributes &atts)
+{
+    printLabelLine(tr("Invoice Number:"), valueOf(atts, "serialnumber"_L1));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printDeliveryHeader(const QXmlAttributes &atts)
+{
+    printLabelLine(tr("Delivery Number:"), valueOf(atts, "serialnumber"_L1));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printOrderInfo(const QXmlAttributes &atts)
+{
+    setCharSize();
+    for (const LabelRow &row : orderRows) {
+        if (settings.*row.printed)
+            printLabelLine(tr(row.label), valueOf(atts, row.attribute));
+    }
+    if (settings.printCredit)
+        credit = valueOf(atts, "credit"_L1);
+    printSeparatorLine();
+}
+
+void PrinterDriver::printCustomerHeader(const QXmlAttributes &atts)
+{
+    if (!settings.printCustomer)
+        return;
+    println(tr("CUSTOMER"));
+    println(1, valueOf(atts, "name"_L1));
+    if (settings.printBillingAddress)
+        printAddress(valueOf(atts, "billingaddress"_L1));
+    if (settings.printDeliveryAddress)
+        printAddress(valueOf(atts, "deliveryaddress"_L1));
+    for (const LabelRow &row : customerRows) {
+        if (settings.*row.printed)
+            printLabelLine(tr(row.label), valueOf(atts, row.attribute));
+    }
+    printSeparatorLine();
+}
+
+/// A line for each part between commas, up to the first empty one. A part of blanks is a line too.
+void PrinterDriver::printAddress(const QString &address)
+{
+    for (const QStringView part : qTokenize(address, u',')) {
+        if (part.isEmpty())
+            return;
+        println(1, part.trimmed().toString());
+    }
+}

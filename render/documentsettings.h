@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+/// The settings of one type of document. Each bears the name of the key word that fills it.
+struct DocumentSettings
+{
+    int quantityFieldWidth = 0;   ///< columns
+    int priceFieldWidth = 0;      ///< columns
+    int totalPriceFieldWidth = 0; ///< columns
+    int paperWidth = 0;           ///< characters in a line
+    int paperRows = 0;            ///< lines on a page; no document reads it
+
+    QString style; ///< free text; no document reads it
+
+    bool printGeometry = false;
+    bool printHeader = false;
+    bool printLogo = false;
+    bool printCompany = false;
+    bool printDeliveryAddress = false;
+    bool printTelephone = false;
+    bool printDate = false;
+    bool printTime = false;
+    bool printTable = false;
+    bool printCustomer = false;
+    bool printBillingAddress = false;
+    bool printLicenseNumber = false;
+    bool printFiscalCode = false;
+    bool printCredit = false;
+    bool printWaiter = false;
+    bool printNote = false;
+    bool openCashDrawer = false;
+};
+
+/// A key word of the configuration and the member that it fills.
+template <typename T>
+struct SettingKey
+{
+    QLatin1StringView keyWord;
+    T DocumentSettings::*member;
+};
+
+/// The whole numbers, in the order in which they are read.
+std::span<const SettingKey<int>> numberSettings();
+
+/// The switches, in the order in which they are read (not that of the members).
+std::span<const SettingKey<bool>> switchSettings();

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "render/printerdriver.h"
+
+#include "render/attributes.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a variant does to the item before it: "-" takes something away, "+" adds it, any other
+/// quantity stands as it is. Text that is no number counts as 0.
+QString variantSign(const QString &quantity)
+{
+    bool isNumber = false;
+    const double value = quantity.toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(value) || value == 0 || value == -1)
+        return u"-"_s;
+    return value == 1 ? u"+"_s : quantity;
+}
+
+QString variantText(const QXmlAttributes &atts)
+{
+    return variantSign(valueOf(atts, "quantity"_L1)) + u' ' + valueOf(atts, "name"_L1);
+}
+
+} // namespace
+
+bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &atts)
+{
+    if (name == "printers"_L1) {
+        printerInfo = valueOf(atts, "name"_L1);
+        charsize = valueOf(atts, "charsize"_L1);
+        ipaddress = valueOf(atts, "ipaddress"_L1);
+        port = valueOf(atts, "port"_L1);
+        initPrinter();
+    } else if (name == "geometry"_L1) {
+        printGeometry(atts);
+    } else if (name == "headers"_L1) {
+        printHeaders(atts);
+        printPrinterInfo();
+    } else if (name == "logo"_L1) {
+        printLogo();
+    } else if (name == "company"_L1) {
+        printCompanyHeader(atts);
+    } else if (name == "receipt"_L1) {
+        printReceiptHeader(atts);
+    } else if (name == "invoice"_L1) {
+        printInvoiceHeader(atts);
+    } else if (name == "delivery"_L1) {
+        printDeliveryHeader(atts);
+    } else if (name == "orderinfo"_L1) {
+        printOrderInfo(atts);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    const auto printItem = [&](const QString &description) {
+        println(descriptionRow(valueOf(atts, "number"_L1), description, {}, {}, u'.', u"qd"_s));
+    };
+    if (qName == "customer"_L1) {
+        printCustomerHeader(atts);
+    } else if (qName == "receipe"_L1) {
+        setCharSize();
+        printItem(valueOf(atts, "name"_L1));
+    } else if (qName == "otherreceipe"_L1) {
+        setCharSize(1);
+        printItem(valueOf(atts, "name"_L1));
+    } else if (qName == "variant"_L1) {
+        printItem(variantText(atts));
+    }
+}
+
+void PrinterDriver::printFullOrder(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    if (qName == "customer"_L1) {
+        printCustomerHeader(atts);
+    } else if (qName == "receipe"_L1) {
+        if (!valueOf(atts, "name"_L1).startsWith(u'=')) // such an item is never printed
+            printPricedItem(atts, u"qdpt"_s);
+    } else if (qName == "variant"_L1) {
+        println(descriptionRow(valueOf(atts, "number"_L1), variantText(atts),
+                               valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
+                               u"qdpt"_s));
+    } else if (qName == "total"_L1) {
+        println(u""_s);
+        setBold();
+        printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+    }
+}

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "render/printerdriver.h"
+
+#include "render/attributes.h"
+#include "render/rowlayout.h"
+
+using namespace Qt::StringLiterals;
+
+/// One item of a full document, below the column titles when it is the first.
+void PrinterDriver::printPricedItem(const QXmlAttributes &atts, const QString &layout)
+{
+    printColumnsHeader(tr("Num"), tr("Description"), tr("Price"), tr("Amount"));
+    println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1),
+                           valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
+                           layout));
+}
+
+/// One item type of an abstract document. Its amount stands in the total column, under "Price".
+void PrinterDriver::printItemType(const QXmlAttributes &atts)
+{
+    printColumnsHeader(tr("Num"), tr("Description"), {}, tr("Price"));
+    println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1), {},
+                           valueOf(atts, "price"_L1), u'.', u"qxdpt"_s));
+}
+
+/// A title and the amount that belongs to it, with dots between them.
+void PrinterDriver::printTitledRow(const QString &title, const QString &amount)
+{
+    println(descriptionRow({}, title, {}, amount, u'.', u"qdpt"_s));
+}
+
+void PrinterDriver::printInvoiceTotals(const QXmlAttributes &atts)
+{
+    setBold();
+    println(u""_s);
+    printTitledRow(tr("Taxable"), valueOf(atts, "taxable"_L1));
+    printTitledRow(tr("TaxRate"), valueOf(atts, "taxrate"_L1));
+    printTitledRow(tr("Tax"), valueOf(atts, "tax"_L1));
+    printTitledRow(tr("TOTAL"), valueOf(atts, "total"_L1));
+    setCharSize();
+}
+
+void PrinterDriver::printFullOrderReceipt(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    if (qName == "customer"_L1) {
+        printCustomerHeader(atts);
+    } else if (qName == "receipe"_L1) {
+        printPricedItem(atts, u"qxdpt"_s);
+    } else if (qName == "total"_L1) {
+        println(u""_s);
+        printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+    } else if (qName == "notPaid"_L1) {
+        println(u""_s);
+        println(tr("    Amount not paid: ") + valueOf(atts, "price"_L1));
+    }
+}
+
+void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    if (qName == "customer"_L1)
+        printCustomerHeader(atts);
+    else if (qName == "receipe"_L1)
+        printPricedItem(atts, u"qdpt"_s);
+    else if (qName == "totals"_L1)
+        printInvoiceTotals(atts);
+}
+
+void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttributes &atts)
+{
+    if (qName == "customer"_L1)
+        printCustomerHeader(atts);
+    else
+        printPartialOrder(qName, atts);
+}
+
+void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &atts)
+{
+    if (qName == "receipe"_L1) {
+        const int setWidth = numberSetting("descriptionWidth"_L1);
+        const qint64 width = setWidth == 0 ? qint64(getPaperWidth()) : setWidth;
+        const QString name = valueOf(atts, "name"_L1);
+        printRowFiscal(valueOf(atts, "department"_L1), valueOf(atts, "number"_L1),
+                       rowlayout::cut(name, width).toString(), valueOf(atts, "price"_L1));
+    } else if (qName == "total"_L1) {
+        printRowFiscal(qName, atts);
+    }
+}
+
+void PrinterDriver::printAbstractOrder(const QString &, const QXmlAttributes &) {}
+
+void PrinterDriver::printAbstractOrderReceipt(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    if (qName == "receipe_type"_L1) {
+        printItemType(atts);
+    } else if (qName == "total"_L1) {
+        println(u""_s);
+        printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+    } else if (qName == "notPaid"_L1) {
+        println(u""_s);
+        // This title is Italian in every language.
+        println("   Corrispettivo non pagato: "_L1 + valueOf(atts, "price"_L1));
+    }
+}
+
+void PrinterDriver::printAbstractOrderInvoice(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    if (qName == "customer"_L1)
+        printCustomerHeader(atts);
+    else if (qName == "receipe_type"_L1)
+        printItemType(atts);
+    else if (qName == "totals"_L1)
+        printInvoiceTotals(atts);
+}
+
+void PrinterDriver::printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &atts)
+{
+    if (qName == "receipe_type"_L1)
+        printRowFiscal(valueOf(atts, "department"_L1), u"1"_s, valueOf(atts, "name"_L1),
+                       valueOf(atts, "price"_L1));
+    else if (qName == "total"_L1)
+        printRowFiscal(qName, atts);
+}

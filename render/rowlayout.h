@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// The helpers that every column of a document is made with. Widths are in characters (units of
+/// the toolkit's string); a width that the text has or exceeds leaves the text whole, and none pads
+/// a text to more than MaxPaddedWidth.
+namespace rowlayout {
+
+/// What exceeds it is a typing error in the configuration, and must not cost memory or paper.
+constexpr qint64 MaxPaddedWidth = 65'535;
+
+/// `text` with copies of `fill` in front of it up to `width`.
+QString rightJustified(QStringView text, qint64 width, QChar fill);
+
+/// `text` with copies of `fill` behind it up to `width`.
+QString leftJustified(QStringView text, qint64 width, QChar fill);
+
+/// The first `width` characters of `text`, one fewer where the cut would halve a surrogate pair;
+/// all of them when `width` is negative.
+QStringView cut(QStringView text, qint64 width);
+
+/// A line that grows column by column.
+class Line
+{
+public:
+    /// `expectedWidth` is what memory is set aside for.
+    explicit Line(qint64 expectedWidth);
+
+    Line &text(QStringView text);
+    /// A column aligned to the right: padded, never cut.
+    Line &right(QStringView text, qint64 width, QChar fill);
+    /// A column aligned to the left: padded, never cut.
+    Line &left(QStringView text, qint64 width, QChar fill);
+    /// A column exactly `width` wide: padded and cut. A negative width, which columns wider than
+    /// the paper leave, neither pads nor cuts: nothing the customer pays for is lost to a bad
+    /// setting.
+    Line &exact(QStringView text, qint64 width, QChar fill);
+
+    QString take() { return std::move(line); }
+
+private:
+    void pad(qint64 count, QChar fill);
+
+    QString line;
+};
+
+} // namespace rowlayout

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "render/printerdriver.h"
+
+#include "render/attributes.h"
+
+using namespace Qt::StringLiterals;
+
+void PrinterDriver::printSold(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts) || qName != "receipe"_L1)
+        return;
+    setBold();
+    println(descriptionRow(valueOf(atts, "quantity"_L1), valueOf(atts, "description"_L1), {},
+                           valueOf(atts, "amount"_L1), u'.', u"qxdpt"_s));
+    setCharSize();
+}
+
+void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    const auto layout = u"date-amount-type"_s;
+    if (qName == "statement_list"_L1) {
+        setBold();
+        println(descriptionRow(tr("Date"), tr("Description"), tr("Amount"), {}, u' ', layout));
+        reset();
+    } else if (qName == "statement"_L1) {
+        // The request sends the type of a movement as a source text of the translation.
+        const QByteArray type = valueOf(atts, "type"_L1).toUtf8();
+        println(descriptionRow(valueOf(atts, "date"_L1) + ": "_L1, tr(type.constData()),
+                               valueOf(atts, "amount"_L1), {}, u'.', layout));
+    }
+}

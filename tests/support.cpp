@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace support {
+
+QString sourceDir()
+{
+    return QStringLiteral(ZENTARO_SOURCE_DIR);
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    EXPECT_EQ(file.write(content), content.size());
+}
+
+Home::Home(const QByteArray &configuration)
+{
+    if (!configuration.isNull())
+        writeFile(configurationPath(), configuration);
+}
+
+QString Home::configurationPath() const
+{
+    return path(u".zentaro/conf/zentaro.conf"_s);
+}
+
+Outcome run(const QString &program, const QStringList &words, const Home &home,
+            const QStringList &variables)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, home.path());
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    for (const QString &variable : variables)
+        environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, words);
+    Outcome outcome;
+    if (process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit)
+        outcome.exitStatus = process.exitCode();
+    else
+        process.kill();
+    process.waitForFinished(1'000);
+    outcome.output = process.readAllStandardOutput();
+    outcome.errors = process.readAllStandardError();
+    return outcome;
+}
+
+Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables)
+{
+    return run(QStringLiteral(ZENTARO_PRINT_PROGRAM), words, home, variables);
+}
+
+QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables)
+{
+    const Folder folder;
+    writeFile(folder.path(u"request.xml"_s), request);
+    const QString printFile = folder.path(u"print.out"_s);
+    const Outcome outcome =
+        zentaroPrint({folder.path(u"request.xml"_s), printFile}, home, variables);
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "");
+    return readFile(printFile);
+}
+
+} // namespace support
+
+void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+void PrintTo(const QByteArray &bytes, std::ostream *out)
+{
+    *out << '"' << bytes.toStdString() << '"';
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+class QTextCodec;
+
+namespace text {
+
+/// The codec of the user's locale, as the environment (LC_ALL, LC_CTYPE, LANG) names it; the
+/// toolkit itself switches every process to UTF-8 and is not asked. Answers null for UTF-8, and so
+/// for the "C" locale, for a locale that is not installed and for an unknown codeset.
+/// The codec belongs to the toolkit.
+QTextCodec *localeCodec();
+
+/// `text` in the encoding of the user's locale. A character that the encoding lacks becomes one
+/// `?`, also where the character is a surrogate pair.
+QByteArray toLocale(QStringView text);
+
+/// As toLocale(text), with `codec` in place of the locale's; null means UTF-8.
+QByteArray encoded(QStringView text, QTextCodec *codec);
+
+} // namespace text
