@@ -4,15 +4,13 @@
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "render/companyprinterdriver.h"
-#include "render/nestinglimit.h"
+#include "render/requestreader.h"
 #include "text/standardoutput.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
 #include <QTranslator>
-#include <QXmlInputSource>
-#include <QXmlSimpleReader>
 
 #include <csignal>
 
@@ -45,12 +43,8 @@ void loadTranslation(QTranslator &translator, const ZTConfiguration &config)
 void printRequest(const QString &requestName, const QString &printName)
 {
     CompanyPrinterDriver driver(printName);
-    NestingLimit handler(driver);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&handler);
     QFile request(requestName);
-    QXmlInputSource source(&request);
-    reader.parse(source);
+    requestreader::read(request, driver); // a fault ends the document where it stands
 }
 
 } // namespace

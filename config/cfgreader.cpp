@@ -34,17 +34,12 @@ QDomElement newElement(QDomDocument &document, const QString &name)
     return element;
 }
 
-/// A group whose body is being read, and the node that it joins with its first member.
+/// A group whose body is being read. It joins the tree when the body ends, if it has a member: the
+/// toolkit walks up to the root of the tree for every node that joins it.
 struct OpenGroup
 {
     QDomElement element;
-    QDomNode parent;
-
-    void attach()
-    {
-        if (element.parentNode().isNull())
-            parent.appendChild(element);
-    }
+    bool hasMember = false;
 };
 
 } // namespace
@@ -110,22 +105,28 @@ void Config::loadFile(QString const &name, QDomNode parent)
 /// list of their own, not on the call stack.
 bool Config::loadBody(QDomElement element, QDomNode parent)
 {
-    std::vector<OpenGroup> open{{std::move(element), std::move(parent)}};
+    std::vector<OpenGroup> open{{std::move(element)}};
+    const auto closeGroup = [&] {
+        const OpenGroup group = open.back();
+        open.pop_back();
+        if (group.hasMember)
+            (open.empty() ? parent : open.back().element).appendChild(group.element);
+    };
     std::string text; // read since the last structural character
     for (char read; stream.get(read);) {
         switch (read) {
         case ':':
-            open.back().attach();
+            open.back().hasMember = true; // also where the nested group turns out empty
             jump('{');
-            open.push_back({newElement(*document, trimmed(text)), open.back().element});
+            open.push_back({newElement(*document, trimmed(text))});
             break;
         case '=':
+            open.back().hasMember = true;
             open.back().element.setAttribute(trimmed(text), readValue());
-            open.back().attach();
             break;
         case '}':
             jump(';');
-            open.pop_back();
+            closeGroup();
             if (open.empty())
                 return true;
             break;
@@ -135,6 +136,8 @@ bool Config::loadBody(QDomElement element, QDomNode parent)
         }
         text.clear();
     }
+    while (!open.empty())
+        closeGroup();
     return false;
 }
 

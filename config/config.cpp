@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 namespace libconfig {
 
 using namespace Qt::StringLiterals;
@@ -69,20 +71,22 @@ void Config::newDocument()
     document = new QDomDocument;
 }
 
-/// Takes the tree apart leaf by leaf: the toolkit deletes nested nodes by recursion, and a file may
+/// Takes the tree apart from the top: the toolkit deletes nested nodes by recursion, and a file may
 /// nest its groups deeper than the stack reaches.
 void Config::deleteDocument()
 {
-    QDomNode node = document ? document->firstChildElement() : QDomElement();
-    while (!node.isNull()) {
-        QDomNode next = node.lastChild();
-        if (next.isNull()) {
-            next = node.parentNode();
-            next.removeChild(node);
-            if (next.isDocument())
-                next = next.firstChildElement();
-        }
-        node = next;
+    std::vector<QDomNode> loose;
+    const auto loosen = [&loose](QDomNode parent, QDomNode child) {
+        loose.push_back(parent.removeChild(child));
+    };
+    const QDomNode top = document ? document->firstChildElement() : QDomNode();
+    if (!top.isNull())
+        loosen(*document, top);
+    while (!loose.empty()) {
+        const QDomNode node = loose.back();
+        loose.pop_back();
+        for (QDomNode child = node.firstChild(); !child.isNull(); child = node.firstChild())
+            loosen(node, child);
     }
     delete document;
     document = nullptr;
