@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "render/companyprinterdriver.h"
+#include "render/requestreader.h"
+#include "tests/recordingdevice.h"
+#include "text/localeencoding.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTextCodec>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using support::Home;
+using support::Outcome;
+
+namespace {
+
+constexpr char noConfiguration[] = "";
+
+TEST(CommandLine, TakesTwoFilesAndOneWordMore)
+{
+    const Home home(noConfiguration);
+    support::writeFile(home.path(u"in"_s), "<p><method name=\"printPartialOrder\"/></p>");
+    const QString in = home.path(u"in"_s);
+    const QString out = home.path(u"out"_s);
+    for (const QStringList &words : {QStringList{}, {in}, {in, out, u"x"_s, u"y"_s}}) {
+        const Outcome outcome = support::zentaroPrint(words, home);
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_TRUE(outcome.output.startsWith("Usage: "));
+        EXPECT_TRUE(outcome.output.endsWith("/zentaro-print input_file output_file\n"));
+        EXPECT_EQ(outcome.errors, "");
+        EXPECT_FALSE(QFileInfo::exists(out));
+    }
+    for (const QStringList &words : {QStringList{in, out}, {in, out, u"ignored"_s}}) {
+        const Outcome outcome = support::zentaroPrint(words, home);
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.output + outcome.errors, "");
+        EXPECT_EQ(support::readFile(out), "\nj\nJ\n");
+        QFile::remove(out);
+    }
+}
+
+/// What a request leaves in the print file and on standard output, faults included.
+TEST(PrintRun, EndsNormallyWhateverTheRequest)
+{
+    const QByteArray deep = QByteArray("<a>").repeated(998);
+    const QByteArray start = "<p><method name=\"printPartialOrder\"/>";
+    const QByteArray item = "<receipe number=\"1\" name=\"x\"/>";
+    const QByteArray printedItem = "\"1 x                            \"@\n"; // 32 columns, less 2
+    const struct
+    {
+        const char *what;
+        QByteArray request, printed, output;
+    } rows[] = {
+        {"no method", "<p><receipe/></p>", "J\n", ""},
+        {"unknown method", "<p><method name=\"printfullorder\"/>" + item + "</p>", "",
+         "File Format Not Supported\n"},
+        {"method without a name", "<p><method/></p>", "", "File Format Not Supported\n"},
+        {"unknown second method", start + "<method name=\"x\"/>" + item + "</p>", "\nj\n",
+         "File Format Not Supported\n"},
+        {"empty file", "", "", ""},
+        {"no XML", "receipe", "", ""},
+        {"malformed halfway", start + item + "<receipe number=></p>", "\nj\n" + printedItem, ""},
+        {"cut off", start + item, "\nj\n" + printedItem, ""},
+        {"unclosed", start + item + "</q>", "\nj\n" + printedItem, ""},
+        {"1,000 deep", start + deep + item + QByteArray("</a>").repeated(998) + "</p>",
+         "\nj\n" + printedItem + "J\n", ""},
+        {"1,001 deep", start + deep + "<a>" + item, "\nj\n", ""},
+        {"100,000 deep", start + QByteArray("<a>").repeated(100'000), "\nj\n", ""},
+        {"entities",
+         "<!DOCTYPE p [<!ENTITY e SYSTEM \"/etc/passwd\"><!ENTITY n \"y\">]>" + start
+             + "&e;<receipe number=\"1\" name=\"&n;\"/></p>",
+         QByteArray("\nj\n" + printedItem + "J\n").replace('x', 'y'), ""},
+        {"endless prolog", "<!--" + QByteArray(100'000, 'x') + "-->" + start + item + "</p>", "",
+         ""},
+        {"deep content model", "<!DOCTYPE p [<!ELEMENT p " + QByteArray(1'000'000, '('), "", ""},
+    };
+    const Home home(noConfiguration);
+    for (const auto &row : rows) {
+        support::writeFile(home.path(u"in"_s), row.request);
+        const Outcome outcome =
+            support::zentaroPrint({home.path(u"in"_s), home.path(u"out"_s)}, home);
+        EXPECT_EQ(outcome.exitStatus, 0) << row.what;
+        EXPECT_EQ(outcome.output, row.output) << row.what;
+        EXPECT_EQ(outcome.errors, "") << row.what;
+        EXPECT_EQ(support::readFile(home.path(u"out"_s)), row.printed) << row.what;
+    }
+}
+
+TEST(PrintRun, TellsWhatItCannotOpen)
+{
+    const Home home;
+    const QByteArray noSettings = "Error in the method FileReader::open( "
+                                  + home.configurationPath().toUtf8() + " ): File Not Found\n";
+    support::writeFile(home.path(u"out"_s), "old");
+    Outcome outcome = support::zentaroPrint({u"missing.xml"_s, home.path(u"out"_s)}, home);
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.output, noSettings);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(support::readFile(home.path(u"out"_s)), "");
+
+    const QString sample = support::sourceDir() + u"/samples/printFullOrderFiscal.xml"_s;
+    outcome = support::zentaroPrint({sample, home.path(u"no/folder"_s)}, home,
+                                    {u"LC_ALL=C"_s}); // of which the toolkit would warn
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.output,
+              noSettings + "PrintManager::printAbstractOrder(...): Unable To Open File\n");
+    EXPECT_EQ(outcome.errors, "");
+}
+
+/// A locale of the given codeset, built for the test alone.
+class Locale : public support::Folder
+{
+public:
+    explicit Locale(const QString &codeset)
+        : name(u"xx_XX."_s + codeset)
+    {
+        QProcess localedef;
+        localedef.start(u"localedef"_s, {u"-f"_s, codeset, u"-i"_s, u"POSIX"_s, path(name)});
+        localedef.waitForFinished();
+        EXPECT_TRUE(QFileInfo(path(name)).isDir());
+    }
+
+    /// The C library itself leaks the search path, which is no finding of ours.
+    QStringList variables() const
+    {
+        return {u"LOCPATH="_s + path(), u"LC_ALL="_s + name, u"ASAN_OPTIONS=detect_leaks=0"_s};
+    }
+
+private:
+    QString name;
+};
+
+TEST(PrintRun, WritesInTheEncodingOfTheLocale)
+{
+    const QByteArray request = "<p><method name=\"printFullOrderFiscal\"/><receipe "
+                               "name=\"caff\u00E8 \u20AC \U0001F355.\u0416\" number=\"1\"/></p>";
+    const auto row = [](const QByteArray &name) { return "\n\"" + name + "\"1*HR\r\n1T\n"; };
+    const Home home(noConfiguration);
+    const QByteArray utf8 = row("caff\u00E8 \u20AC \U0001F355.\u0416");
+    EXPECT_EQ(support::printed(request, home), utf8);
+    EXPECT_EQ(support::printed(request, home, {u"LC_ALL=C"_s}), utf8);
+    EXPECT_EQ(support::printed(request, home, {u"LC_ALL=xx_XX.ISO-8859-1"_s}), utf8);
+    const Locale latin9(u"ISO-8859-15"_s);
+    EXPECT_EQ(support::printed(request, home, latin9.variables()), row("caff\xE8 \xA4 ?.?"));
+    const Locale latin1(u"ISO-8859-1"_s);
+    EXPECT_EQ(support::printed(request, home, latin1.variables()), row("caff\xE8 ? ?.?"));
+    const Locale cyrillic(u"CP1251"_s);
+    EXPECT_EQ(support::printed(request, home, cyrillic.variables()), row("caff? \x88 ?.\xC6"));
+}
+
+TEST(LocaleEncoding, KeepsPairsThatTheEncodingHas)
+{
+    EXPECT_EQ(text::encoded(u"\u00E8\U0001F355\u0416", QTextCodec::codecForName("GB18030")),
+              "\xA8\xA8\x94\x39\xB8\x33\xA7\xA8");
+    EXPECT_EQ(text::encoded(u"a\U0001F355", QTextCodec::codecForName("ISO-8859-1")), "a?");
+    EXPECT_EQ(text::encoded(u"a\U0001F355", nullptr), "a\U0001F355");
+}
+
+/// Requests and configurations with bytes changed, lost and doubled at random.
+TEST(PrintRun, SurvivesAnyBytes)
+{
+    QRandomGenerator random(20'261'121);
+    const auto damaged = [&random](QByteArray bytes) {
+        for (int changes = random.bounded(1, 12); changes > 0 && !bytes.isEmpty(); --changes) {
+            const int at = random.bounded(int(bytes.size()));
+            switch (random.bounded(4)) {
+            case 0:
+                bytes[at] = char(random.bounded(256));
+                break;
+            case 1:
+                bytes.remove(at, random.bounded(1, 40));
+                break;
+            case 2:
+                bytes.insert(at, bytes.mid(random.bounded(int(bytes.size())), 60));
+                break;
+            default:
+                bytes[at] = "<>&\"'=:;{}\0\n"[random.bounded(12)];
+                break;
+            }
+        }
+        return bytes;
+    };
+    const QDir samples(support::sourceDir() + u"/samples"_s);
+    const QByteArray settings = support::readFile(samples.filePath(u"zentaro-40.conf"_s));
+    const support::Folder folder;
+    testing::internal::CaptureStdout();
+    for (const QString &name : samples.entryList({u"*.xml"_s})) {
+        const QByteArray request = support::readFile(samples.filePath(name));
+        for (int round = 0; round < 60; ++round) {
+            support::writeFile(folder.path(u"conf"_s), round % 2 ? settings : damaged(settings));
+            SyncSingleton<ZTConfiguration>::instance()->readFile(folder.path(u"conf"_s), u"cfg"_s);
+            QByteArray bytes = damaged(request);
+            QBuffer buffer(&bytes);
+            CompanyPrinterDriver device(folder.path(u"out"_s));
+            requestreader::read(buffer, device);
+        }
+    }
+    testing::internal::GetCapturedStdout();
+    EXPECT_LT(QFileInfo(folder.path(u"out"_s)).size(), 1'000'000);
+}
+
+} // namespace
