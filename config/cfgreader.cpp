@@ -21,8 +21,8 @@ QString trimmed(std::string_view text)
     const size_t first = text.find_first_not_of(whiteSpace);
     if (first == text.npos)
         return QLatin1String("");
-    const size_t last = text.find_last_not_of(whiteSpace);
-    return QString::fromLatin1(text.data() + first, qsizetype(last - first + 1));
+    const size_t end = text.find_last_not_of(whiteSpace) + 1;
+    return QString::fromLatin1(QByteArrayView(text.substr(first, end - first)));
 }
 
 /// An element of any name: the toolkit creates none without a name, but holds one. A new document
@@ -88,8 +88,8 @@ void Config::loadFile()
     if (!document)
         newDocument();
     openFile();
-    QDomElement fileElement = newElement(*document, fileName);
-    if (!loadBody(std::move(fileElement), *document))
+    const QDomElement fileElement = newElement(*document, fileName);
+    if (!loadBody(fileElement, *document))
         closeFile();
 }
 
@@ -97,15 +97,15 @@ void Config::loadFile(QString const &name, QDomNode parent)
 {
     if (!document)
         newDocument();
-    loadBody(newElement(*document, name), std::move(parent));
+    loadBody(newElement(*document, name), parent);
 }
 
 /// Reads the body of `element`'s group, which joins `parent`. Answers true at the `}` that closes
 /// the body, false at the end of the file. Groups nest to any depth: those that are open stand in a
 /// list of their own, not on the call stack.
-bool Config::loadBody(QDomElement element, QDomNode parent)
+bool Config::loadBody(const QDomElement &element, QDomNode &parent)
 {
-    std::vector<OpenGroup> open{{std::move(element)}};
+    std::vector<OpenGroup> open{{element}};
     const auto closeGroup = [&] {
         const OpenGroup group = open.back();
         open.pop_back();

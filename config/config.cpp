@@ -75,15 +75,16 @@ void Config::newDocument()
 /// nest its groups deeper than the stack reaches.
 void Config::deleteDocument()
 {
+    if (!document)
+        return;
     std::vector<QDomNode> loose;
-    const auto loosen = [&loose](QDomNode parent, QDomNode child) {
+    const auto loosen = [&loose](QDomNode &parent, const QDomNode &child) {
         loose.push_back(parent.removeChild(child));
     };
-    const QDomNode top = document ? document->firstChildElement() : QDomNode();
-    if (!top.isNull())
+    if (const QDomElement top = document->firstChildElement(); !top.isNull())
         loosen(*document, top);
     while (!loose.empty()) {
-        const QDomNode node = loose.back();
+        QDomNode node = loose.back();
         loose.pop_back();
         for (QDomNode child = node.firstChild(); !child.isNull(); child = node.firstChild())
             loosen(node, child);

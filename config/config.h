@@ -66,7 +66,7 @@ protected:
     QDomDocument *document = nullptr; ///< the tree, owned; null until a file is read
 
 private:
-    bool loadBody(QDomElement element, QDomNode parent);
+    bool loadBody(const QDomElement &element, QDomNode &parent);
     QString readValue();
     void newDocument();
     void deleteDocument();

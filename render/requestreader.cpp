@@ -15,7 +15,8 @@ class NestingLimit : public QXmlDefaultHandler
 public:
     explicit NestingLimit(QXmlContentHandler &target)
         : target(target)
-    {}
+    {
+    }
 
     bool rootHasBegun() const { return begun; }
 
@@ -58,8 +59,8 @@ public:
     void fetchData() override
     {
         const bool tooLate = bytesRead >= MaxPrologBytes && !progress.rootHasBegun();
-        const qint64 size
-            = request.isOpen() && !tooLate ? request.read(piece.data(), PieceBytes) : 0;
+        const qint64 size =
+            request.isOpen() && !tooLate ? request.read(piece.data(), PieceBytes) : 0;
         if (size <= 0) {
             setData(QString());
             return;

@@ -230,6 +230,7 @@ TEST(SyncSingleton, IsCreatedOnceByManyThreads)
     };
     std::array<Counted *, 8> seen{};
     std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (Counted *&one : seen)
         threads.emplace_back([&one] { one = SyncSingleton<Counted>::instance(); });
     for (std::thread &thread : threads)
