@@ -5,6 +5,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The types of movement that the suite sends, named here for the translators.
+[[maybe_unused]] constexpr const char *movementTypes[] = {
+    QT_TRANSLATE_NOOP("PrinterDriver", "Payment"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Receipt"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Invoice"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Credit note"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Opening balance"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Balance"),
+};
+
+} // namespace
+
 void PrinterDriver::printSold(const QString &qName, const QXmlAttributes &atts)
 {
     if (printSections(qName, atts) || qName != "receipe"_L1)
