@@ -139,6 +139,7 @@ void PrinterDriver::loadValues(const QString &type)
         settings.*number.member = numberSetting(number.keyWord);
     if (settings.paperWidth == 0)
         settings.paperWidth = int(getPaperWidth());
+    settings.style = setting("style"_L1);
     for (const SettingKey<bool> &aSwitch : switchSettings())
         settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
 }

@@ -85,15 +85,30 @@ INSTANTIATE_TEST_SUITE_P(Odd, GoldenTest,
                                                    u"tests/golden/odd"_s)),
                          nameOf);
 
-TEST(Golden, CoversEveryMethod)
+/// The samples' page shows what each request prints; as text, without the fiscal carriage returns.
+TEST(Golden, ShowsEveryMethodInTheSamplesPage)
 {
     const QDir root(support::sourceDir());
+    const QString pageName = root.filePath(u"samples/README.md"_s);
+    QByteArray page = support::readFile(pageName);
     for (const DocumentMethod &method : documentMethods()) {
-        const QString sample = u"samples/%1.xml"_s.arg(method.name);
-        EXPECT_TRUE(support::readFile(root.filePath(sample))
-                        .contains("<method name=\"" + QByteArray(method.name.data()) + "\"/>"))
-            << sample.toStdString();
+        const QByteArray name(method.name.data(), method.name.size());
+        const QString sample = root.filePath(u"samples/"_s + method.name + u".xml"_s);
+        EXPECT_TRUE(support::readFile(sample).contains("<method name=\"" + name + "\"/>"));
+
+        const QString reference = u"tests/golden/paper40/"_s + method.name + u".prn"_s;
+        const QByteArray printed =
+            support::readFile(root.filePath(reference)).replace("\r", QByteArray());
+        const qsizetype section = page.indexOf("\n## " + name + "\n");
+        const qsizetype begin = page.indexOf("```\n", section) + 4;
+        const qsizetype end = page.indexOf("```", begin);
+        ASSERT_LT(section, begin) << name.data();
+        if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
+            page.replace(begin, end - begin, printed);
+        EXPECT_EQ(page.mid(begin, end - begin), printed) << name.data();
     }
+    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
+        support::writeFile(pageName, page);
 }
 
 } // namespace

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "app/compile.h"
+#include "app/ztconfiguration.h"
+#include "tests/support.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+// This program has a configuration of its own, in place of the library's: it notes the keys that
+// it is asked for, and switches everything on.
+
+namespace {
+
+QSet<QString> &keysAsked()
+{
+    static QSet<QString> keys;
+    return keys;
+}
+
+} // namespace
+
+ZTConfiguration::ZTConfiguration() = default;
+
+QString ZTConfiguration::getStrValue(const QString &key) const
+{
+    keysAsked() += key;
+    return key.contains(u".print") ? u"true"_s : u""_s;
+}
+
+namespace {
+
+/// The first cells of the table rows of a section of the page, without their backquotes.
+QStringList firstCells(const QString &page, const QString &heading)
+{
+    const QString section = page.section(u"\n## "_s + heading + u'\n', 1).section(u"\n## "_s, 0, 0);
+    static const QRegularExpression row(u"^\\| `([^`]+)` \\|"_s,
+                                        QRegularExpression::MultilineOption);
+    QStringList cells;
+    for (const auto &match : row.globalMatch(section))
+        cells += match.captured(1);
+    return cells;
+}
+
+/// Every key that the page promises to be read by the print run.
+QSet<QString> keysOfThePage()
+{
+    const QString page =
+        QString::fromUtf8(support::readFile(support::sourceDir() + u"/doc/configuration.md"_s));
+    const QStringList language = firstCells(page, u"Language"_s);
+    QSet<QString> keys(language.begin(), language.end());
+    const QStringList documents = firstCells(page, u"Documents"_s);
+    for (const QString &prefix : documents.filter(u"zentaro."_s)) {
+        for (const QString &keyWord : documents) {
+            const bool fiscal = prefix == "zentaro.fiscaldoc."_L1;
+            if (keyWord.startsWith(u"zentaro.") || (keyWord == "descriptionWidth"_L1 && !fiscal))
+                continue;
+            keys += prefix + keyWord;
+        }
+    }
+    // Fiscal documents print no margin, and nobody reads what is only kept for other printers.
+    keys -= u"zentaro.fiscaldoc.topMargin"_s;
+    return keys;
+}
+
+TEST(ConfigurationPage, ListsTheKeysThatThePrintRunAsksFor)
+{
+    const support::Folder folder;
+    QByteArray program = "zentaro-print";
+    QByteArray output = folder.path(u"out"_s).toLocal8Bit();
+    const QDir samples(support::sourceDir() + u"/samples"_s);
+    for (const QString &name : samples.entryList({u"*.xml"_s})) {
+        QByteArray request = samples.filePath(name).toLocal8Bit();
+        char *words[] = {program.data(), request.data(), output.data(), nullptr};
+        compile(3, words);
+    }
+    const QSet<QString> page = keysOfThePage();
+    EXPECT_EQ((keysAsked() - page).values(), QStringList()) << "asked for, and not on the page";
+    EXPECT_EQ((page - keysAsked()).values(), QStringList()) << "on the page, and never asked for";
+}
+
+} // namespace
