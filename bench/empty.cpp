@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    return 0;
+}
