@@ -5,6 +5,7 @@
 #include "app/ztconfiguration.h"
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
+#include "text/filename.h"
 #include "text/standardoutput.h"
 
 #include <QCoreApplication>
@@ -21,22 +22,16 @@ namespace {
 /// The toolkit warns on standard error, where the till expects nothing.
 void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
 
-/// The file name whose bytes are the characters of a setting.
-QString fileNameOf(const QString &setting)
-{
-    return QFile::decodeName(setting.toLatin1());
-}
-
 void loadTranslation(QTranslator &translator, const ZTConfiguration &config)
 {
     const QString base = config.getStrValue(u"zentaro.language.basedir"_s);
     const QString file = config.getStrValue(u"zentaro.language.file"_s);
     bool loaded = false; // a missing translation leaves the texts as they are
     if (file == "/"_L1)
-        loaded =
-            translator.load(fileNameOf(base) + "/zentaro_"_L1 + QLocale::system().name(), u"."_s);
+        loaded = translator.load(text::fileNameOf(base) + "/zentaro_"_L1 + QLocale::system().name(),
+                                 u"."_s);
     else if (const QString name = base + file; !name.isEmpty())
-        loaded = translator.load(fileNameOf(name));
+        loaded = translator.load(text::fileNameOf(name));
     Q_UNUSED(loaded)
 }
 

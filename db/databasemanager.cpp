@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: MIT
+#include "db/databasemanager.h"
+
+#include "app/syncsingleton.h"
+#include "log/hlogmanager.h"
+
+#include <QScopeGuard>
+#include <QSqlError>
+#include <QSqlRecord>
+#include <QSqlTableModel>
+#include <QVariant>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString defaultName()
+{
+    return QLatin1StringView(QSqlDatabase::defaultConnection);
+}
+
+/// The toolkit knows this driver by one name only.
+QString toolkitDriver(const QString &driver)
+{
+    return driver == "QPSQL7"_L1 ? u"QPSQL"_s : driver;
+}
+
+/// A value as text; empty for NULL, which the toolkit has as "0" in a column of numbers.
+QString valueOf(const QSqlQuery &query, int column)
+{
+    return query.isNull(column) ? QString() : query.value(column).toString();
+}
+
+/// The text of an error: the database's, or the driver's where the database had nothing to say,
+/// which the PostgreSQL driver writes as an empty error code.
+QString textOf(const QSqlError &error)
+{
+    const QString text = error.databaseText();
+    return text.isEmpty() || text == "()"_L1 ? error.driverText() : text;
+}
+
+} // namespace
+
+DatabaseManager::DatabaseManager()
+    : logger(SyncSingleton<HLogManager>::instance()->getLog({}))
+{
+}
+
+DatabaseManager::~DatabaseManager()
+{
+    closeConnections();
+}
+
+void DatabaseManager::closeConnections()
+{
+    for (auto &[name, connection] : connections)
+        connection.close();
+    connections.clear();
+}
+
+void DatabaseManager::closeConnectionsAtExit()
+{
+    // Made after the toolkit's own record of connections, and so gone before that: even a
+    // connection that is not open needs it.
+    static const auto closer = qScopeGuard([] {
+        if (DatabaseManager *const manager = SyncSingleton<DatabaseManager>::instance_pointer)
+            manager->closeConnections();
+    });
+}
+
+QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QString &dbname,
+                                                const QString &username, const QString &password,
+                                                const QString &hostname,
+                                                const QString &connectionName)
+{
+    const QString name = connectionName.isEmpty() ? defaultName() : connectionName;
+    QSqlDatabase &connection = connections[name];
+    connection = QSqlDatabase(); // the toolkit complains when it removes a connection in use
+    QSqlDatabase::removeDatabase(name);
+    closeConnectionsAtExit();
+
+    const QString toolkitName = toolkitDriver(driver);
+    QSqlDatabase added;
+    if (QSqlDatabase::isDriverAvailable(toolkitName))
+        added = QSqlDatabase::addDatabase(toolkitName, name);
+    if (!added.isValid()) {
+        error(u"Failed to connect to driver"_s);
+        return nullptr;
+    }
+    added.setDatabaseName(dbname);
+    added.setUserName(username);
+    added.setPassword(password);
+    added.setHostName(hostname);
+    if (!added.open()) {
+        error("Failed to open database: "_L1 + added.lastError().driverText());
+        error(added.lastError().databaseText());
+        return nullptr;
+    }
+    debug("Connection With "_L1 + dbname + " DB established"_L1);
+    connection = added;
+    return &connection;
+}
+
+/// Runs and reports a query. One that cannot be sent is not handed to the toolkit, which would tell
+/// of it on standard error only.
+QSqlQuery DatabaseManager::run(const QString &method, const QString &text, QSqlDatabase *db)
+{
+    const QSqlDatabase connection = db ? *db : QSqlDatabase::database(defaultName(), false);
+    QSqlQuery query(connection);
+    if (!connection.isOpen() || text.isEmpty()) {
+        logQuery(method, text, query.numRowsAffected());
+        logError(method, "query: "_L1 + text,
+                 text.isEmpty() ? u"Empty query"_s : u"Database not open"_s);
+        return query;
+    }
+    query.setNumericalPrecisionPolicy(QSql::HighPrecision);
+    query.exec(text);
+    showQueryError(method, query);
+    return query;
+}
+
+QString DatabaseManager::firstText(const QString &method, const QString &text, QSqlDatabase *db)
+{
+    QSqlQuery query = run(method, text, db);
+    return query.next() ? valueOf(query, 0) : QString();
+}
+
+QString DatabaseManager::getField(const QString &table, const QString &field, const QString &id,
+                                  QSqlDatabase *db)
+{
+    return firstText(u"DatabaseManager::getField(...)"_s,
+                     "select "_L1 + field + " from "_L1 + table + " where id = "_L1 + id, db);
+}
+
+int DatabaseManager::removeRecord(const QString &table, const QString &id, QSqlDatabase *db)
+{
+    const QString text = "delete from "_L1 + table + " where ID = "_L1 + id;
+    return qMax(0, run(u"removeRecord"_s, text, db).numRowsAffected());
+}
+
+bool DatabaseManager::existRecord(const QString &table, const QString &id, QSqlDatabase *db)
+{
+    const QString text = "select * from "_L1 + table + " where ID = "_L1 + id;
+    return run(u"DatabaseManager::existRecord(...)"_s, text, db).next();
+}
+
+qint64 DatabaseManager::numRecords(const QString &table, const QString &condition, QSqlDatabase *db)
+{
+    // Reported under the name of the operation above: logs are searched for it.
+    const QString text = "select count(*) from "_L1 + table + " where "_L1 + condition;
+    return firstText(u"DatabaseManager::existRecord(...)"_s, text, db).toLongLong();
+}
+
+QString DatabaseManager::executeSelectQuery(const QString &query, QSqlDatabase *db)
+{
+    return firstText(u"executeSelectQuery(...)"_s, query, db);
+}
+
+QStringList DatabaseManager::executeSelectQuery2(const QString &query, QSqlDatabase *db)
+{
+    QStringList values;
+    QSqlQuery result = run(u"executeSelectQuery2(...)"_s, query, db);
+    while (result.next())
+        values += valueOf(result, 0);
+    return values;
+}
+
+QStringList DatabaseManager::executeSelectQuery3(const QString &query, int n, QSqlDatabase *db)
+{
+    QStringList values;
+    QSqlQuery result = run(u"executeSelectQuery3(...)"_s, query, db);
+    const int columns = qMin(n, result.record().count());
+    while (result.next()) {
+        for (int column = 0; column < columns; ++column)
+            values += valueOf(result, column);
+    }
+    return values;
+}
+
+int DatabaseManager::executeQuery(const QString &query, QSqlDatabase *db)
+{
+    return qMax(0, run(u"executeQuery(...)"_s, query, db).numRowsAffected());
+}
+
+QString DatabaseManager::sequenceValue(const QString &sequence, QSqlDatabase *db)
+{
+    return SyncSingleton<DatabaseManager>::instance()->executeSelectQuery(
+        "select last_value from "_L1 + sequence, db);
+}
+
+QString DatabaseManager::setSequence(const QString &sequence, qint64 value, QSqlDatabase *db)
+{
+    return SyncSingleton<DatabaseManager>::instance()->executeSelectQuery(
+        "SELECT setval('"_L1 + sequence + "', "_L1 + QString::number(value) + u')', db);
+}
+
+QString DatabaseManager::incrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db)
+{
+    QString before = sequenceValue(sequence, db);
+    if (qint64 after = 0; qAddOverflow(before.toLongLong(), n, &after))
+        error("incrementSequence( "_L1 + sequence + " ): the value leaves the 64-bit range"_L1);
+    else
+        setSequence(sequence, after, db);
+    return before;
+}
+
+QString DatabaseManager::decrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db)
+{
+    constexpr qint64 Lowest = std::numeric_limits<qint64>::min(); // has no negative
+    return incrementSequence(sequence, n == Lowest ? -(Lowest + 1) : -n, db);
+}
+
+bool DatabaseManager::decrementSequenceIfPositive(const QString &sequence, qint64 n,
+                                                  QSqlDatabase *db)
+{
+    if (sequenceValue(sequence).toLongLong() < n) // on the default connection, by contract
+        return false;
+    decrementSequence(sequence, n, db);
+    return true;
+}
+
+void DatabaseManager::control(const QString &statement, bool (QSqlDatabase::*operation)(),
+                              QSqlDatabase *db)
+{
+    if (!db)
+        executeQuery(statement);
+    else if (!db->isOpen())
+        logError(statement.toLower(), "query: "_L1 + statement, u"Database not open"_s);
+    else if (!(db->*operation)())
+        logError(statement.toLower(), "query: "_L1 + statement, textOf(db->lastError()));
+    debug(statement + "\n\n"_L1);
+}
+
+void DatabaseManager::begin(QSqlDatabase *db)
+{
+    control(u"BEGIN"_s, &QSqlDatabase::transaction, db);
+}
+
+void DatabaseManager::commit(QSqlDatabase *db)
+{
+    control(u"COMMIT"_s, &QSqlDatabase::commit, db);
+}
+
+void DatabaseManager::rollback(QSqlDatabase *db)
+{
+    control(u"ROLLBACK"_s, &QSqlDatabase::rollback, db);
+}
+
+QString DatabaseManager::getLastId(const QString &table, QSqlDatabase *db)
+{
+    const QString text = "select max(ID) from "_L1 + table;
+    QSqlQuery query = run(u"getLastId"_s, text, db);
+    if (query.next())
+        return valueOf(query, 0);
+    error("getLastId( "_L1 + table + " ): "_L1 + text + " return empty result"_L1);
+    return u"Error"_s;
+}
+
+QString DatabaseManager::newRecord(const QString &table, QSqlDatabase *db)
+{
+    run(u"newRecord"_s, "insert into "_L1 + table + " values(default)"_L1, db);
+    return getLastId(table, db);
+}
+
+QString DatabaseManager::safeNewRecord(const QString &table, QSqlDatabase *db)
+{
+    begin(db);
+    QString id = newRecord(table, db);
+    commit(db);
+    return id;
+}
+
+void DatabaseManager::showQueryError(const QString &method, const QSqlQuery &query)
+{
+    logQuery(method, query.lastQuery(), query.numRowsAffected());
+    if (query.lastError().type() != QSqlError::NoError)
+        logError(method, "query: "_L1 + query.lastQuery(), query.lastError().databaseText());
+}
+
+void DatabaseManager::showCursorError(const QString &method, const QSqlTableModel &cursor)
+{
+    if (cursor.lastError().type() != QSqlError::NoError)
+        logError(method, "cursor: "_L1 + cursor.tableName(), cursor.lastError().databaseText());
+}
+
+void DatabaseManager::logQuery(const QString &method, const QString &text, int rowsAffected)
+{
+    debug("Query called from method "_L1 + method + ": "_L1 + text);
+    debug("    numRowsAffected: "_L1 + QString::number(rowsAffected));
+}
+
+void DatabaseManager::logError(const QString &method, const QString &subject,
+                               const QString &databaseText)
+{
+    error("Error in the method "_L1 + method + ", to "_L1 + subject);
+    error(databaseText);
+}
+
+void DatabaseManager::debug(const QString &text)
+{
+    if (logger)
+        logger->debug(text);
+}
+
+void DatabaseManager::error(const QString &text)
+{
+    if (logger)
+        logger->error(text);
+}

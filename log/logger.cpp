@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "log/logger.h"
+
+#include "app/syncsingleton.h"
+#include "app/ztconfiguration.h"
+#include "text/filename.h"
+#include "text/localefile.h"
+#include "text/standardoutput.h"
+
+#include <QDateTime>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The printed names, by level.
+constexpr std::array levelNames = {"DEBUG"_L1, "INFO"_L1, "WARNING"_L1, "ERROR"_L1, "FATAL"_L1};
+
+QLatin1StringView nameOf(Logger::Level level)
+{
+    const bool known = level >= Logger::DEBUG && level <= Logger::FATAL;
+    return known ? levelNames[size_t(level)] : QLatin1StringView();
+}
+
+bool isWord(const QString &text, QLatin1StringView word)
+{
+    return text.compare(word, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+Logger::Logger(QString const &)
+{
+    const ZTConfiguration &config = *SyncSingleton<ZTConfiguration>::instance();
+    setLevel(config.getStrValue(u"zentaro.logger.level"_s));
+    fileName = config.getStrValue(u"zentaro.logger.basedir"_s) + u'/'
+               + config.getStrValue(u"zentaro.logger.filename"_s);
+    file = std::make_unique<text::LocaleFile>(text::fileNameOf(fileName));
+    setType(config.getStrValue(u"zentaro.logger.type"_s));
+    stream = std::make_unique<QTextStream>(file.get());
+    debug(u"Start Logger"_s);
+}
+
+Logger::~Logger() = default;
+
+void Logger::setLevel(QString const &levelName)
+{
+    level = DEBUG;
+    for (size_t i = 0; i < levelNames.size(); ++i) {
+        if (isWord(levelName, levelNames[i]))
+            level = Level(i);
+    }
+}
+
+void Logger::setType(QString const &type)
+{
+    const bool append = isWord(type, "APPEND"_L1);
+    if (!append && !isWord(type, "OVERWRITE"_L1))
+        return;
+    file->close();
+    if (!file->open(append ? QIODevice::Append : QIODevice::WriteOnly))
+        text::printLine("Error in the method Logger::setType(" + type.toLatin1() + ")");
+}
+
+void Logger::write(Logger::Level lvl, QString const &text)
+{
+    if (level > lvl || !file->isOpen())
+        return;
+    const QString time = QDateTime::currentDateTime().toString(u"MM-dd-yyyy hh:mm:ss:zzz");
+    stream->resetStatus(); // a stream that failed once, on a full disk, would write no more
+    *stream << u'[' + time + "] "_L1 + nameOf(lvl) + ": "_L1 + text + u'\n';
+    stream->flush();
+}
+
+void Logger::fatal(QString const &text)
+{
+    write(FATAL, text);
+}
+
+void Logger::error(QString const &text)
+{
+    write(ERROR, text);
+}
+
+void Logger::warning(QString const &text)
+{
+    write(WARNING, text);
+}
+
+void Logger::info(QString const &text)
+{
+    write(INFO, text);
+}
+
+void Logger::debug(QString const &text)
+{
+    write(DEBUG, text);
+}

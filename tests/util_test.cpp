@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+#include "app/syncsingleton.h"
+#include "app/ztconfiguration.h"
+#include "tests/support.h"
+#include "util/hlibrary.h"
+#include "util/sleepthread.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <pty.h>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray request = "PaperWindow: Insert a new sheet";
+const QByteArray sevenLines = "1\n2\n3\n4\n5\n6\n7\n";
+const QByteArray longLine =
+    QByteArray(127, 'a') + QByteArray(127, 'b') + QByteArray(46, 'c') + '\n';
+
+class Copy : public testing::Test
+{
+protected:
+    Copy() { std::freopen("/dev/null", "r", stdin); } // nobody presses Enter
+
+    const support::Folder folder;
+    const QString source = folder.path(u"source"_s);
+    const QString target = folder.path(u"target"_s);
+};
+
+/// truncateDecimal() in whole numbers, from the bits of the amount.
+QString exactly(double value)
+{
+    int exponent = 0;
+    const auto bits = quint64(std::ldexp(std::frexp(std::fabs(value), &exponent), 53));
+    // The conversion rounds the exact product once, as the processor's multiplication has to.
+    const auto thousandths = qint64(std::ldexp(double(bits * 1000), exponent - 53));
+    const qint64 hundredths = (thousandths + (value > 0 ? 5 : 0)) / 10;
+    QString digits = QString::number(hundredths).rightJustified(3, u'0');
+    digits.insert(digits.size() - 2, u'.');
+    return value < 0 && hundredths > 0 ? u'-' + digits : digits;
+}
+
+} // namespace
+
+TEST(TruncateDecimal, RoundsOnTheThirdDecimalAndCutsTheRest)
+{
+    const QString cases =
+        u"1.2349:1.23 1.2351:1.24 1.235:1.24 3:3.00 12.5:12.50 0.29:0.29 1.005:1.00 -1.239:-1.23"
+        " -1.235:-1.23 0:0.00 -0:0.00 -0.009:0.00 -0.5:-0.50 0.005:0.01 0.0049:0.00 0.999:1.00"
+        " 2147483.647:2147483.65 2147483.648:2147483.65 1e300:2147483.65 inf:2147483.65"
+        " -2147483.7:-2147483.64 -inf:-2147483.64 nan:0.00"_s;
+    for (const QString &row : cases.split(u' ')) {
+        const double value = row.section(u':', 0, 0).toDouble();
+        EXPECT_EQ(HLibrary::truncateDecimal(value), row.section(u':', 1));
+    }
+}
+
+TEST(TruncateDecimal, AgreesWithExactArithmetic)
+{
+    std::mt19937_64 random(7);
+    for (int i = 0; i < 60'000; ++i) {
+        const double range = std::pow(10, i % 7);
+        const double any = std::uniform_real_distribution(-range, range)(random);
+        const double value = i % 2 == 0 ? any : std::round(any * 1000) / 1000; // between two texts
+        ASSERT_EQ(HLibrary::truncateDecimal(value), exactly(value)) << std::hexfloat << value;
+    }
+}
+
+TEST_F(Copy, AsksForPaperAfterEverySheet)
+{
+    const std::tuple<QByteArray, QString, int> cases[] = {
+        {sevenLines, u"2"_s, 3},
+        {sevenLines, u"6"_s, 1},
+        {sevenLines, u"7"_s, 0},
+        {sevenLines, u"0"_s, 0},
+        {sevenLines, u"two"_s, 0},
+        {sevenLines, u"-2"_s, 0},
+        {longLine + longLine, u"5"_s, 1},
+        {longLine, u"2"_s, 1},
+        {"", u"1"_s, 0},
+        {QByteArray("\0\xff\r\n\0no end", 11), u"1"_s, 1}};
+    for (const auto &[content, linesPerSheet, requests] : cases) {
+        support::writeFile(source, content);
+        support::writeFile(target, "longer than what comes" + longLine + longLine);
+        testing::internal::CaptureStdout();
+        EXPECT_TRUE(HLibrary::copy(source, target, linesPerSheet, {}));
+        EXPECT_EQ(testing::internal::GetCapturedStdout(),
+                  (request + '\n').repeated(requests).toStdString());
+        EXPECT_EQ(support::readFile(target), content);
+    }
+}
+
+TEST_F(Copy, TakesOnePage)
+{
+    const unsigned most = std::numeric_limits<unsigned>::max();
+    const std::tuple<QByteArray, unsigned, unsigned, bool, QByteArray> cases[] = {
+        {sevenLines, 3, 0, true, "1\n2\n3\n"},
+        {sevenLines, 3, 1, true, "4\n5\n6\n"},
+        {sevenLines, 3, 2, true, "7\n"},
+        {sevenLines, 3, 3, false, ""},
+        {sevenLines, 7, 0, true, sevenLines},
+        {sevenLines, 7, 1, false, ""},
+        {sevenLines, 0, 5, true, sevenLines},
+        {sevenLines, most, most, false, ""},
+        {"1\n2", 1, 1, true, "2"},
+        {"", 2, 0, true, ""},
+        {"", 2, 1, false, ""},
+        {longLine, 1, 1, true, longLine.mid(127, 127)}};
+    for (const auto &[content, linesPerPage, page, copied, result] : cases) {
+        support::writeFile(source, content);
+        EXPECT_EQ(HLibrary::copy(source, target, linesPerPage, 0, page), copied);
+        EXPECT_EQ(support::readFile(target), result);
+    }
+}
+
+TEST_F(Copy, TellsFailureAndLosesNothing)
+{
+    support::writeFile(source, sevenLines);
+    QFile::link(source, folder.path(u"link"_s));
+    testing::internal::CaptureStderr();
+    const std::tuple<QString, QString, bool> cases[] = {
+        {folder.path(u"missing"_s), target, false},
+        {u""_s, target, false},
+        {folder.path(), target, false},
+        {source, u""_s, false},
+        {source, folder.path(u"no/folder"_s), false},
+        {source, folder.path(), false},
+        {source, source, false},
+        {source, folder.path(u"link"_s), false},
+        {source, u"/dev/full"_s, false},
+        {source, u"/dev/null"_s, true},
+        {u"/proc/self/mem"_s, target, false}, // opens, and does not read
+        {u"/proc/version"_s, target, true}};  // has no size beforehand
+    for (const auto &[from, to, copied] : cases) {
+        EXPECT_EQ(HLibrary::copy(from, to, 0U, 0U), copied) << from.toStdString();
+        EXPECT_EQ(HLibrary::copy(from, to, 9U, 0U, 0U), copied) << from.toStdString();
+    }
+    EXPECT_EQ(support::readFile(source), sevenLines);
+    EXPECT_EQ(support::readFile(target), support::readFile(u"/proc/version"_s));
+
+    HLibrary::touch(target);
+    EXPECT_EQ(support::readFile(target), "");
+    HLibrary::touch(folder.path(u"no/folder"_s));
+    HLibrary::touch({});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(Copy, WaitsForEnterOnATerminal)
+{
+    support::writeFile(source, sevenLines);
+    int terminal = -1;
+    const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child == 0)
+        _exit(HLibrary::copy(source, target, 2U, 0U) ? 0 : 1);
+    for (const char *const copied : {"1\n2\n3\n", "1\n2\n3\n4\n5\n", "1\n2\n3\n4\n5\n6\n7\n"}) {
+        QByteArray shown;
+        char c = 0;
+        while (!shown.endsWith(request + "\r\n") && ::read(terminal, &c, 1) == 1)
+            shown += c;
+        EXPECT_EQ(support::readFile(target), copied);
+        EXPECT_EQ(::waitpid(child, nullptr, WNOHANG), 0);
+        EXPECT_EQ(::write(terminal, "\n", 1), 1);
+    }
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    ::close(terminal);
+}
+
+TEST_F(Copy, ShowsAMessageBoxInAProgramWithWindows)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argc = 1;
+    char name[] = "till";
+    char *argv[] = {name, nullptr};
+    QApplication application(argc, argv);
+    support::writeFile(source, sevenLines);
+    QString shown;
+    QTimer watcher;
+    QObject::connect(&watcher, &QTimer::timeout, [&] {
+        if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            shown += box->windowTitle() + u'|' + box->text() + u'|'
+                     + QString::number(box->buttons().size()) + u'|'
+                     + QString::fromUtf8(support::readFile(target));
+            box->accept();
+        }
+    });
+    watcher.start(1);
+    const QString box = u"PaperWindow|Insert a new sheet|1|1\n2\n3\n4\n5\n"_s;
+    EXPECT_TRUE(HLibrary::copy(source, target, 4U, 0U));
+    EXPECT_EQ(shown, box);
+
+    // Another thread's copy waits for the box, which belongs to this one.
+    bool copied = false;
+    const std::unique_ptr<QThread> worker(
+        QThread::create([&] { copied = HLibrary::copy(source, target, 4U, 0U); }));
+    QObject::connect(worker.get(), &QThread::finished, &application, &QCoreApplication::quit);
+    worker->start();
+    QApplication::exec();
+    worker->wait();
+    EXPECT_TRUE(copied);
+    EXPECT_EQ(shown, box + box);
+
+    QComboBox drinks;
+    drinks.addItems({u"tea"_s, u"Tea time"_s, u"Tea"_s, u"Tea"_s, u""_s});
+    for (const auto &[text, index] : {std::pair{u"Tea"_s, 2}, {u""_s, 4}, {u"Te"_s, -1}})
+        EXPECT_EQ(HLibrary::comboBoxIndexOf(&drinks, text), index);
+}
+
+TEST_F(Copy, PausesLastAtLeastTheirTime)
+{
+    support::writeFile(source, "1\n2\n3\n");
+    const auto lasts = [](qint64 milliseconds, auto &&operation) {
+        QElapsedTimer timer;
+        timer.start();
+        operation();
+        EXPECT_GE(timer.elapsed(), milliseconds);
+    };
+    lasts(30, [] { const SleepThread pause(30); });
+    lasts(1000, [] { HLibrary::hsleep(1); });
+    lasts(60, [&] { HLibrary::copy(source, target, u"0"_s, u"20"_s); });
+    lasts(40, [&] { HLibrary::copy(source, target, 3U, 20U, 0U); });
+}
+
+TEST(Settings, ComeFromTheConfiguration)
+{
+    const support::Home home(
+        "zentaro : { doc : { copyNumber = 1; }; prefiscaldoc : { copyNumber = 2; };"
+        " fiscaldoc : { copyNumber = 3; }; receiptdoc : { copyNumber = 4; };"
+        " invoicedoc : { copyNumber = 5; }; deliverydoc : { copyNumber = six; };"
+        " bin : { path = \"/opt/till/\"; }; };");
+    SyncSingleton<ZTConfiguration>::instance()->readFile(home.configurationPath(), u"cfg"_s);
+    testing::internal::CaptureStdout();
+    QStringList numbers;
+    for (const QString &type : {u"order"_s, u"prefiscal"_s, u"fiscal"_s, u"RECEIPT"_s, u"Invoice"_s,
+                                u"delivery"_s, u"report"_s, u"Receiptdoc"_s, u""_s})
+        numbers += HLibrary::copyNumber(type);
+    EXPECT_EQ(numbers.join(u','), u"1,2,3,4,5,six,,2,2"_s);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Error into HLibrary::copyNumber::documentPath: receiptdoc\n"
+              "Error into HLibrary::copyNumber::documentPath: \n");
+    EXPECT_EQ(HLibrary::pathWithBinaryFile(u"zentaro-print"_s), u"/opt/till//zentaro-print"_s);
+}
+
+TEST(CoreFile, IsTheFirstFileOfTheCurrentFolder)
+{
+    const support::Folder folder;
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    for (const QString &name : {u"CORE.1"_s, u"score"_s, u"core.d/x"_s, u".core"_s})
+        support::writeFile(name, "");
+    EXPECT_EQ(HLibrary::getCoreFile(), QString());
+    for (const QString &name : {u"core.B"_s, u"core.a"_s, u"core.c"_s})
+        support::writeFile(name, "");
+    EXPECT_EQ(HLibrary::getCoreFile(), u"core.a"_s);
+    QDir::setCurrent(before);
+}
