@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Inserte una hoja nueva</translation>
+    </message>
+</context>
+<context>
     <name>PrinterDriver</name>
     <message>
         <source>Date:</source>

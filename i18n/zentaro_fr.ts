@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Insérer une nouvelle feuille</translation>
+    </message>
+</context>
+<context>
     <name>PrinterDriver</name>
     <message>
         <source>Date:</source>

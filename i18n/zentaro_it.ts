@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Inserire un nuovo foglio</translation>
+    </message>
+</context>
+<context>
     <name>PrinterDriver</name>
     <message>
         <source>Date:</source>

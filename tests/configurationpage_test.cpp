@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "app/compile.h"
 #include "app/ztconfiguration.h"
+#include "log/logger.h"
+#include "render/documentmethod.h"
 #include "tests/support.h"
+#include "util/hlibrary.h"
 
 #include <QDir>
 #include <QRegularExpression>
 #include <QSet>
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +39,11 @@ QString ZTConfiguration::getStrValue(const QString &key) const
 
 namespace {
 
+QString pageText()
+{
+    return QString::fromUtf8(support::readFile(support::sourceDir() + u"/doc/configuration.md"_s));
+}
+
 /// The first cells of the table rows of a section of the page, without their backquotes.
 QStringList firstCells(const QString &page, const QString &heading)
 {
@@ -49,8 +59,7 @@ QStringList firstCells(const QString &page, const QString &heading)
 /// Every key that the page promises to be read by the print run.
 QSet<QString> keysOfThePage()
 {
-    const QString page =
-        QString::fromUtf8(support::readFile(support::sourceDir() + u"/doc/configuration.md"_s));
+    const QString page = pageText();
     const QStringList language = firstCells(page, u"Language"_s);
     QSet<QString> keys(language.begin(), language.end());
     const QStringList documents = firstCells(page, u"Documents"_s);
@@ -81,6 +90,27 @@ TEST(ConfigurationPage, ListsTheKeysThatThePrintRunAsksFor)
     const QSet<QString> page = keysOfThePage();
     EXPECT_EQ((keysAsked() - page).values(), QStringList()) << "asked for, and not on the page";
     EXPECT_EQ((page - keysAsked()).values(), QStringList()) << "on the page, and never asked for";
+}
+
+TEST(ConfigurationPage, ListsTheKeysThatTheLibrariesAskFor)
+{
+    keysAsked().clear();
+    const Logger logger(u"any"_s);
+    const std::array read = {&HLibrary::dbname, &HLibrary::username, &HLibrary::password,
+                             &HLibrary::hostname};
+    for (const auto setting : read)
+        setting();
+    HLibrary::pathWithBinaryFile(u"program"_s);
+    for (const DocumentMethod &method : documentMethods()) {
+        if (method.settingsType != "sold"_L1) // the list of sold items has no copy number
+            HLibrary::copyNumber(method.settingsType);
+    }
+    const QStringList cells = firstCells(pageText(), u"Shared libraries"_s);
+    QSet<QString> page(cells.begin(), cells.end());
+    const QString prefixes = pageText().section(u"behind it |"_s, 1).section(u"copyNumber"_s, 0, 0);
+    for (const QString &prefix : prefixes.split(u'`').filter(u"zentaro."_s))
+        page += prefix + "copyNumber"_L1;
+    EXPECT_EQ(keysAsked(), page);
 }
 
 } // namespace
