@@ -5,6 +5,24 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr QStringView center = u"center";
+constexpr QStringView replacedWord = u"TOTALE";
+
+/// Most lines do not even hold the word's first letter, which the toolkit looks for much faster.
+bool holdsReplacedWord(QStringView text)
+{
+    const QChar letter = replacedWord.front();
+    for (qsizetype at = text.indexOf(letter); at >= 0; at = text.indexOf(letter, at + 1)) {
+        if (text.sliced(at).startsWith(replacedWord))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName)
     : PrinterDriver(fileName, false)
     , line(u""_s)
@@ -67,21 +85,24 @@ void CompanyPrinterDriver::endSection()
 
 void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {
-    QString copy = text;
-    copy.replace("TOTALE"_L1, "SOMMA"_L1);
-    line += rowlayout::leftJustified({}, indent, u' ') + copy;
+    rowlayout::pad(line, indent, u' ');
+    if (holdsReplacedWord(text))
+        line += QString(text).replace(replacedWord.toString(), u"SOMMA"_s);
+    else
+        line += text;
 }
 
 void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
 {
     constexpr int Slack = 7; // counts the frame, and gives half of itself away to the right
     print(indent, text);
-    print(0, u"\"@\n"_s);
+    line += u"\"@\n";
     const qsizetype room = qsizetype(getPaperWidth()) - line.size() + Slack;
-    if (justify == "center"_L1 && room > 1)
+    if (justify == center && room > 1)
         line.insert(1, QString(room / 2, u' '));
     write(line);
-    line = u"\""_s;
+    line.truncate(0); // its memory serves the next line
+    line += u'"';
 }
 
 void CompanyPrinterDriver::println(const QString &text)

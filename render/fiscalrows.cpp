@@ -2,6 +2,7 @@
 #include "render/companyprinterdriver.h"
 
 #include "render/attributes.h"
+#include "render/elements.h"
 
 #include <array>
 #include <cmath>
@@ -54,7 +55,7 @@ QString fiscalItem(const QString &department, const QString &quantity, const QSt
 
 void CompanyPrinterDriver::printRowFiscal(const QString &name, const QXmlAttributes &atts)
 {
-    if (name != "totals"_L1)
+    if (name != element::totals)
         return;
     for (const PaymentLine &payment : paymentLines) {
         const QString value = withDecimalComma(valueOf(atts, payment.attribute));

@@ -2,6 +2,7 @@
 #include "render/printerdriver.h"
 
 #include "render/attributes.h"
+#include "render/elements.h"
 
 #include <cmath>
 
@@ -29,28 +30,28 @@ QString variantText(const QXmlAttributes &atts)
 
 bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &atts)
 {
-    if (name == "printers"_L1) {
+    if (name == element::printers) {
         printerInfo = valueOf(atts, "name"_L1);
         charsize = valueOf(atts, "charsize"_L1);
         ipaddress = valueOf(atts, "ipaddress"_L1);
         port = valueOf(atts, "port"_L1);
         initPrinter();
-    } else if (name == "geometry"_L1) {
+    } else if (name == element::geometry) {
         printGeometry(atts);
-    } else if (name == "headers"_L1) {
+    } else if (name == element::headers) {
         printHeaders(atts);
         printPrinterInfo();
-    } else if (name == "logo"_L1) {
+    } else if (name == element::logo) {
         printLogo();
-    } else if (name == "company"_L1) {
+    } else if (name == element::company) {
         printCompanyHeader(atts);
-    } else if (name == "receipt"_L1) {
+    } else if (name == element::receipt) {
         printReceiptHeader(atts);
-    } else if (name == "invoice"_L1) {
+    } else if (name == element::invoice) {
         printInvoiceHeader(atts);
-    } else if (name == "delivery"_L1) {
+    } else if (name == element::delivery) {
         printDeliveryHeader(atts);
-    } else if (name == "orderinfo"_L1) {
+    } else if (name == element::orderInfo) {
         printOrderInfo(atts);
     } else {
         return false;
@@ -65,15 +66,15 @@ void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes
     const auto printItem = [&](const QString &description) {
         println(descriptionRow(valueOf(atts, "number"_L1), description, {}, {}, u'.', u"qd"_s));
     };
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(atts);
-    } else if (qName == "receipe"_L1) {
+    } else if (qName == element::receipe) {
         setCharSize();
         printItem(valueOf(atts, "name"_L1));
-    } else if (qName == "otherreceipe"_L1) {
+    } else if (qName == element::otherReceipe) {
         setCharSize(1);
         printItem(valueOf(atts, "name"_L1));
-    } else if (qName == "variant"_L1) {
+    } else if (qName == element::variant) {
         printItem(variantText(atts));
     }
 }
@@ -82,16 +83,16 @@ void PrinterDriver::printFullOrder(const QString &qName, const QXmlAttributes &a
 {
     if (printSections(qName, atts))
         return;
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(atts);
-    } else if (qName == "receipe"_L1) {
+    } else if (qName == element::receipe) {
         if (!valueOf(atts, "name"_L1).startsWith(u'=')) // such an item is never printed
             printPricedItem(atts, u"qdpt"_s);
-    } else if (qName == "variant"_L1) {
+    } else if (qName == element::variant) {
         println(descriptionRow(valueOf(atts, "number"_L1), variantText(atts),
                                valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
                                u"qdpt"_s));
-    } else if (qName == "total"_L1) {
+    } else if (qName == element::total) {
         println(u""_s);
         setBold();
         printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));

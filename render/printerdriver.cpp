@@ -5,6 +5,7 @@
 #include "app/ztconfiguration.h"
 #include "render/attributes.h"
 #include "render/documentmethod.h"
+#include "render/elements.h"
 #include "text/localeencoding.h"
 #include "text/localefile.h"
 #include "text/standardoutput.h"
@@ -72,7 +73,7 @@ bool PrinterDriver::endDocument()
 bool PrinterDriver::startElement(const QString &, const QString &, const QString &qName,
                                  const QXmlAttributes &atts)
 {
-    if (qName == "method"_L1)
+    if (qName == element::method)
         return startMethod(valueOf(atts, "name"_L1));
     if (method)
         (this->*method->print)(qName, atts);

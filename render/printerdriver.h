@@ -9,6 +9,7 @@
 #include <QXmlDefaultHandler>
 
 #include <memory>
+#include <optional>
 
 class ZTConfiguration;
 struct DocumentMethod;
@@ -145,6 +146,12 @@ protected:
     QString credit; ///< the order's credit, when it is printed
 
 private:
+    struct ColumnTitles
+    {
+        QString number, description, price, amount;
+    };
+
+    const ColumnTitles &columnTitles();
     bool startMethod(const QString &name);
     QString setting(QLatin1StringView keyWord) const;
     int numberSetting(QLatin1StringView keyWord) const;
@@ -165,4 +172,5 @@ private:
     void printCancelledSummary(const QXmlAttributes &atts);
 
     const DocumentMethod *method = nullptr; ///< the chosen one, by whose name currentMethod goes
+    std::optional<ColumnTitles> translatedTitles; ///< once they were needed
 };

@@ -2,14 +2,25 @@
 #include "render/printerdriver.h"
 
 #include "render/attributes.h"
+#include "render/elements.h"
 #include "render/rowlayout.h"
 
 using namespace Qt::StringLiterals;
 
+/// The titles are handed over with every item and printed with the first: translating the four
+/// each time would cost more than laying out the item.
+const PrinterDriver::ColumnTitles &PrinterDriver::columnTitles()
+{
+    if (!translatedTitles)
+        translatedTitles = {tr("Num"), tr("Description"), tr("Price"), tr("Amount")};
+    return *translatedTitles;
+}
+
 /// One item of a full document, below the column titles when it is the first.
 void PrinterDriver::printPricedItem(const QXmlAttributes &atts, const QString &layout)
 {
-    printColumnsHeader(tr("Num"), tr("Description"), tr("Price"), tr("Amount"));
+    const ColumnTitles &titles = columnTitles();
+    printColumnsHeader(titles.number, titles.description, titles.price, titles.amount);
     println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1),
                            valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
                            layout));
@@ -18,7 +29,8 @@ void PrinterDriver::printPricedItem(const QXmlAttributes &atts, const QString &l
 /// One item type of an abstract document. Its amount stands in the total column, under "Price".
 void PrinterDriver::printItemType(const QXmlAttributes &atts)
 {
-    printColumnsHeader(tr("Num"), tr("Description"), {}, tr("Price"));
+    const ColumnTitles &titles = columnTitles();
+    printColumnsHeader(titles.number, titles.description, {}, titles.price);
     println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1), {},
                            valueOf(atts, "price"_L1), u'.', u"qxdpt"_s));
 }
@@ -44,14 +56,14 @@ void PrinterDriver::printFullOrderReceipt(const QString &qName, const QXmlAttrib
 {
     if (printSections(qName, atts))
         return;
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(atts);
-    } else if (qName == "receipe"_L1) {
+    } else if (qName == element::receipe) {
         printPricedItem(atts, u"qxdpt"_s);
-    } else if (qName == "total"_L1) {
+    } else if (qName == element::total) {
         println(u""_s);
         printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
-    } else if (qName == "notPaid"_L1) {
+    } else if (qName == element::notPaid) {
         println(u""_s);
         println(tr("    Amount not paid: ") + valueOf(atts, "price"_L1));
     }
@@ -61,17 +73,17 @@ void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttrib
 {
     if (printSections(qName, atts))
         return;
-    if (qName == "customer"_L1)
+    if (qName == element::customer)
         printCustomerHeader(atts);
-    else if (qName == "receipe"_L1)
+    else if (qName == element::receipe)
         printPricedItem(atts, u"qdpt"_s);
-    else if (qName == "totals"_L1)
+    else if (qName == element::totals)
         printInvoiceTotals(atts);
 }
 
 void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttributes &atts)
 {
-    if (qName == "customer"_L1)
+    if (qName == element::customer)
         printCustomerHeader(atts);
     else
         printPartialOrder(qName, atts);
@@ -79,13 +91,13 @@ void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttri
 
 void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &atts)
 {
-    if (qName == "receipe"_L1) {
+    if (qName == element::receipe) {
         const int setWidth = numberSetting("descriptionWidth"_L1);
         const qint64 width = setWidth == 0 ? qint64(getPaperWidth()) : setWidth;
         const QString name = valueOf(atts, "name"_L1);
         printRowFiscal(valueOf(atts, "department"_L1), valueOf(atts, "number"_L1),
                        rowlayout::cut(name, width).toString(), valueOf(atts, "price"_L1));
-    } else if (qName == "total"_L1) {
+    } else if (qName == element::total) {
         printRowFiscal(qName, atts);
     }
 }
@@ -96,12 +108,12 @@ void PrinterDriver::printAbstractOrderReceipt(const QString &qName, const QXmlAt
 {
     if (printSections(qName, atts))
         return;
-    if (qName == "receipe_type"_L1) {
+    if (qName == element::receipeType) {
         printItemType(atts);
-    } else if (qName == "total"_L1) {
+    } else if (qName == element::total) {
         println(u""_s);
         printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
-    } else if (qName == "notPaid"_L1) {
+    } else if (qName == element::notPaid) {
         println(u""_s);
         // This title is Italian in every language.
         println("   Corrispettivo non pagato: "_L1 + valueOf(atts, "price"_L1));
@@ -112,19 +124,19 @@ void PrinterDriver::printAbstractOrderInvoice(const QString &qName, const QXmlAt
 {
     if (printSections(qName, atts))
         return;
-    if (qName == "customer"_L1)
+    if (qName == element::customer)
         printCustomerHeader(atts);
-    else if (qName == "receipe_type"_L1)
+    else if (qName == element::receipeType)
         printItemType(atts);
-    else if (qName == "totals"_L1)
+    else if (qName == element::totals)
         printInvoiceTotals(atts);
 }
 
 void PrinterDriver::printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &atts)
 {
-    if (qName == "receipe_type"_L1)
+    if (qName == element::receipeType)
         printRowFiscal(valueOf(atts, "department"_L1), u"1"_s, valueOf(atts, "name"_L1),
                        valueOf(atts, "price"_L1));
-    else if (qName == "total"_L1)
+    else if (qName == element::total)
         printRowFiscal(qName, atts);
 }

@@ -2,6 +2,7 @@
 #include "render/printerdriver.h"
 
 #include "render/attributes.h"
+#include "render/elements.h"
 #include "render/rowlayout.h"
 
 #include <array>
@@ -43,20 +44,20 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &atts
 {
     if (printSections(qName, atts))
         return;
-    if (qName == "date"_L1)
+    if (qName == element::date)
         printReportDates(atts);
-    else if (qName == "prefiscalssummary"_L1)
+    else if (qName == element::prefiscalsSummary)
         printPrefiscalsSummary(atts);
-    else if (qName == "receiptssummary"_L1)
+    else if (qName == element::receiptsSummary)
         printReceiptsSummary(atts);
-    else if (qName == "taxrate_item"_L1)
+    else if (qName == element::taxRateItem)
         // The rate is followed by one character more than in the heading, and the row by a blank.
         println(taxRow(valueOf(atts, "taxrate"_L1), "% "_L1, valueOf(atts, "taxable"_L1),
                        valueOf(atts, "tax"_L1), valueOf(atts, "amount"_L1))
                 + u' ');
-    else if (qName == "invoicessummary"_L1)
+    else if (qName == element::invoicesSummary)
         printInvoicesSummary(atts);
-    else if (qName == "cancelledsummary"_L1)
+    else if (qName == element::cancelledSummary)
         printCancelledSummary(atts);
 }
 

@@ -7,6 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace rowlayout {
 
+void pad(QString &line, qint64 count, QChar fill)
+{
+    if (count > 0)
+        line.resize(line.size() + qMin(count, MaxPaddedWidth), fill);
+}
+
 QString rightJustified(QStringView text, qint64 width, QChar fill)
 {
     return Line(width).right(text, width, fill).take();
@@ -39,26 +45,20 @@ Line &Line::text(QStringView text)
 
 Line &Line::right(QStringView text, qint64 width, QChar fill)
 {
-    pad(qMin(width, MaxPaddedWidth) - text.size(), fill);
+    pad(line, qMin(width, MaxPaddedWidth) - text.size(), fill);
     return this->text(text);
 }
 
 Line &Line::left(QStringView text, qint64 width, QChar fill)
 {
     line.append(text);
-    pad(qMin(width, MaxPaddedWidth) - text.size(), fill);
+    pad(line, qMin(width, MaxPaddedWidth) - text.size(), fill);
     return *this;
 }
 
 Line &Line::exact(QStringView text, qint64 width, QChar fill)
 {
     return left(cut(text, width), width, fill);
-}
-
-void Line::pad(qint64 count, QChar fill)
-{
-    if (count > 0)
-        line.resize(line.size() + count, fill);
 }
 
 } // namespace rowlayout

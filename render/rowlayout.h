@@ -11,6 +11,9 @@ namespace rowlayout {
 /// What exceeds it is a typing error in the configuration, and must not cost memory or paper.
 constexpr qint64 MaxPaddedWidth = 65'535;
 
+/// Appends `count` copies of `fill`, none for a negative count and at most MaxPaddedWidth.
+void pad(QString &line, qint64 count, QChar fill);
+
 /// `text` with copies of `fill` in front of it up to `width`.
 QString rightJustified(QStringView text, qint64 width, QChar fill);
 
@@ -41,8 +44,6 @@ public:
     QString take() { return std::move(line); }
 
 private:
-    void pad(qint64 count, QChar fill);
-
     QString line;
 };
 

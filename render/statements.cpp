@@ -2,6 +2,7 @@
 #include "render/printerdriver.h"
 
 #include "render/attributes.h"
+#include "render/elements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +22,7 @@ namespace {
 
 void PrinterDriver::printSold(const QString &qName, const QXmlAttributes &atts)
 {
-    if (printSections(qName, atts) || qName != "receipe"_L1)
+    if (printSections(qName, atts) || qName != element::receipe)
         return;
     setBold();
     println(descriptionRow(valueOf(atts, "quantity"_L1), valueOf(atts, "description"_L1), {},
@@ -34,11 +35,11 @@ void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttr
     if (printSections(qName, atts))
         return;
     const auto layout = u"date-amount-type"_s;
-    if (qName == "statement_list"_L1) {
+    if (qName == element::statementList) {
         setBold();
         println(descriptionRow(tr("Date"), tr("Description"), tr("Amount"), {}, u' ', layout));
         reset();
-    } else if (qName == "statement"_L1) {
+    } else if (qName == element::statement) {
         // The request sends the type of a movement as a source text of the translation.
         const QByteArray type = valueOf(atts, "type"_L1).toUtf8();
         println(descriptionRow(valueOf(atts, "date"_L1) + ": "_L1, tr(type.constData()),
