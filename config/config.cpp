@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
-#include <QStringList>
+#include <QStringTokenizer>
+#include <QVarLengthArray>
 
 #include <vector>
 
@@ -11,30 +12,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The settings of one dotted key, split once: the group names from the top down and the name of
-/// the setting in the last of them.
+/// A dotted key, split once: the group names from the top down and the name of the setting in the
+/// last of them. The names are views of the key.
 struct KeyPath
 {
-    explicit KeyPath(const QString &key)
-        : groups(key.split(u'.'))
+    explicit KeyPath(QStringView key)
     {
+        for (const QStringView field : qTokenize(key, u'.'))
+            groups.append(field);
         // An empty field after a setting's name ends the key there.
         qsizetype last = 2;
         while (last < groups.size() && !groups[last].isEmpty())
             ++last;
         if (groups.size() > 1)
-            setting = groups[last - 1];
+            setting = groups[last - 1].toString();
         groups.resize(qMax(last - 1, qsizetype(1)));
     }
 
-    QStringList groups;
+    QVarLengthArray<QStringView, 8> groups;
     QString setting;
 };
-
-QString attributeOf(const QDomNode &node, const QString &name)
-{
-    return node.attributes().namedItem(name).nodeValue();
-}
 
 } // namespace
 
@@ -109,7 +106,7 @@ QString Config::lookup(QDomNode node, QString const &key) const
             if (depth + 1 < path.groups.size()) {
                 next = node.firstChild();
                 depth += next.isNull() ? 0 : 1;
-            } else if (QString value = attributeOf(node, path.setting); !value.isEmpty()) {
+            } else if (QString value = node.toElement().attribute(path.setting); !value.isEmpty()) {
                 return value;
             }
         }
