@@ -51,6 +51,7 @@ void compile(int argc, char **argv)
         text::printLine("Usage: " + program + " input_file output_file");
         return;
     }
+    text::reserveStandardStreams();
     // A reader of the diagnostics or of a piped print file that goes away must not end the run.
     std::signal(SIGPIPE, SIG_IGN);
     qInstallMessageHandler(dropMessage);

@@ -114,6 +114,21 @@ TEST(PrintRun, TellsWhatItCannotOpen)
     EXPECT_EQ(outcome.errors, "");
 }
 
+TEST(PrintRun, KeepsDiagnosticsOutOfThePrintFile)
+{
+    const Home home(noConfiguration);
+    support::writeFile(home.path(u"in"_s), "<p><method name=\"printPartialOrder\"/><method/></p>");
+    const QString command = u"exec \"$0\" \"$1/in\" \"$1/out\" "_s;
+    for (const QString &closed : {u"<&- >&- 2>&-"_s, u">&-"_s, u"| true"_s}) {
+        const Outcome outcome = support::run(
+            u"sh"_s, {u"-c"_s, command + closed, support::zentaroPrintProgram(), home.path()},
+            home);
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.errors, "");
+        EXPECT_EQ(support::readFile(home.path(u"out"_s)), "\nj\n") << closed.toStdString();
+    }
+}
+
 /// A locale of the given codeset, built for the test alone.
 class Locale : public support::Folder
 {

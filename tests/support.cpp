@@ -66,9 +66,14 @@ Outcome run(const QString &program, const QStringList &words, const Home &home,
     return outcome;
 }
 
+QString zentaroPrintProgram()
+{
+    return QStringLiteral(ZENTARO_PRINT_PROGRAM);
+}
+
 Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables)
 {
-    return run(QStringLiteral(ZENTARO_PRINT_PROGRAM), words, home, variables);
+    return run(zentaroPrintProgram(), words, home, variables);
 }
 
 QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables)

@@ -53,6 +53,9 @@ struct Outcome
 Outcome run(const QString &program, const QStringList &words, const Home &home,
             const QStringList &variables = {});
 
+/// The path of the print compiler.
+QString zentaroPrintProgram();
+
 /// Runs the print compiler.
 Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables = {});
 

@@ -9,4 +9,8 @@ namespace text {
 /// A standard output that takes nothing is no failure: the line is lost.
 void printLine(QByteArrayView line);
 
+/// Opens the standard streams that whoever started the process has closed, on the null device: a
+/// file opened later would take the place of standard output and get the diagnostic lines.
+void reserveStandardStreams();
+
 } // namespace text
