@@ -22,6 +22,13 @@ public:
     }
 
     bool rootHasBegun() const { return begun; }
+    bool entitiesAreDeclared() const { return declared; }
+
+    bool internalEntityDecl(const QString &, const QString &) override
+    {
+        declared = true;
+        return true;
+    }
 
     void setDocumentLocator(QXmlLocator *locator) override { target.setDocumentLocator(locator); }
     bool startDocument() override { return target.startDocument(); }
@@ -64,6 +71,7 @@ private:
 
     QXmlContentHandler &target;
     bool begun = false;
+    bool declared = false;
     int depth = 0; // of the element that is being read; the root has 1
 };
 
@@ -117,8 +125,7 @@ private:
     [[gnu::noinline]] QChar firstOfNextPiece()
     {
         do {
-            const bool tooLate = bytesRead >= MaxPrologBytes && !progress.rootHasBegun();
-            const bool readable = request.isOpen() && !ended && !tooLate;
+            const bool readable = request.isOpen() && !ended && !exceedsLimits();
             const qint64 size = readable ? request.read(piece.data(), PieceBytes) : 0;
             ended = size <= 0;
             if (ended)
@@ -126,9 +133,18 @@ private:
             decodePiece(QByteArrayView(piece).first(size));
             bytesRead += size;
         } while (text.isEmpty());
+        if (!progress.rootHasBegun() || progress.entitiesAreDeclared())
+            references += text.count(u'&');
         at = text.cbegin();
         end = text.cend();
         return next();
+    }
+
+    bool exceedsLimits() const
+    {
+        return progress.rootHasBegun()
+                   ? progress.entitiesAreDeclared() && references > MaxEntityReferences
+                   : bytesRead >= MaxPrologBytes;
     }
 
     void decodePiece(QByteArrayView bytes)
@@ -149,7 +165,8 @@ private:
     bool utf8 = false; // of the request, known with its first piece
     bool ended = false;
     qint64 bytesRead = 0;
-    QString text; // of the present piece
+    qsizetype references = 0; // counted where they may be to entities of the request's own
+    QString text;             // of the present piece
     QString::const_iterator at = text.cbegin();
     QString::const_iterator end = text.cend();
 };
@@ -161,6 +178,7 @@ bool read(QIODevice &request, QXmlContentHandler &handler)
     ElementFilter filter(handler);
     QXmlSimpleReader reader;
     reader.setContentHandler(&filter);
+    reader.setDeclHandler(&filter);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
     RequestSource source(request, filter);

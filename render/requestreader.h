@@ -16,6 +16,11 @@ constexpr int MaxDepth = 1'000;
 /// time that grows with the square of their number.
 constexpr int MaxPrologBytes = 32 * 1'024;
 
+/// References with which a request that declares entities of its own may go on, counted by pieces
+/// of 16 KiB; more stop the reading as at a fault. The reader expands each to up to 4,096
+/// characters: a small request would take gigabytes and minutes.
+constexpr int MaxEntityReferences = 1'000;
+
 /// Hands the elements of a request to `handler` until its end, the first fault in the XML, or the
 /// first event that the handler answers with false. `request` need not be open; one that cannot be
 /// opened or read is an empty request. Answers whether the end was reached.

@@ -79,6 +79,10 @@ TEST(PrintRun, EndsNormallyWhateverTheRequest)
          QByteArray("\nj\n" + printedItem + "J\n").replace('x', 'y'), ""},
         {"endless prolog", "<!--" + QByteArray(100'000, 'x') + "-->" + start + item + "</p>", "",
          ""},
+        {"entities by the million",
+         "<!DOCTYPE p [<!ENTITY e '" + QByteArray(4'000, 'y') + "'>]>" + start + "<a b='"
+             + QByteArray("&e;").repeated(1'000'000) + "'/>" + item + "</p>",
+         "\nj\n", ""},
         {"deep content model", "<!DOCTYPE p [<!ELEMENT p " + QByteArray(1'000'000, '('), "", ""},
     };
     const Home home(noConfiguration);
