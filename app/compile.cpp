@@ -28,10 +28,11 @@ void loadTranslation(QTranslator &translator, const ZTConfiguration &config)
     const QString file = config.getStrValue(u"zentaro.language.file"_s);
     bool loaded = false; // a missing translation leaves the texts as they are
     if (file == "/"_L1)
-        loaded = translator.load(text::fileNameOf(base) + "/zentaro_"_L1 + QLocale::system().name(),
+        loaded = translator.load(text::nameOfFile(text::bytesOf(base)) + "/zentaro_"_L1
+                                     + QLocale::system().name(),
                                  u"."_s);
     else if (const QString name = base + file; !name.isEmpty())
-        loaded = translator.load(text::fileNameOf(name));
+        loaded = translator.load(text::nameInFolder(text::bytesOf(name)));
     Q_UNUSED(loaded)
 }
 
@@ -42,22 +43,29 @@ void printRequest(const QString &requestName, const QString &printName)
     requestreader::read(request, driver); // a fault ends the document where it stands
 }
 
+/// What must not end the run, or reach the print file, from outside of it.
+void shieldFromEnvironment()
+{
+    text::reserveStandardStreams();
+    std::signal(SIGPIPE, SIG_IGN); // whoever reads the diagnostics or a piped print file is gone
+    std::signal(SIGXFSZ, SIG_IGN); // the print file grows past a limit
+    qunsetenv("QT_FATAL_WARNINGS");
+    qunsetenv("QT_FATAL_CRITICALS");
+    qInstallMessageHandler(dropMessage);
+}
+
 } // namespace
 
 void compile(int argc, char **argv)
 {
+    shieldFromEnvironment();
     if (argc != 3 && argc != 4) {
         const QByteArray program(argc > 0 ? argv[0] : "");
         text::printLine("Usage: " + program + " input_file output_file");
         return;
     }
-    text::reserveStandardStreams();
-    // A reader of the diagnostics or of a piped print file that goes away must not end the run.
-    std::signal(SIGPIPE, SIG_IGN);
-    qInstallMessageHandler(dropMessage);
-
-    const QString requestName = QFile::decodeName(argv[1]);
-    const QString printName = QFile::decodeName(argv[2]);
+    const QString requestName = text::nameOfFile(argv[1]);
+    const QString printName = text::nameOfNewFile(argv[2]);
     const QCoreApplication application(argc, argv);
     QTranslator translator;
     loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ztconfiguration.h"
 
-#include <QDir>
+#include "text/filename.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ QString inLatin1(const QString &text)
 
 ZTConfiguration::ZTConfiguration()
 {
-    readFile(QDir::homePath() + "/.zentaro/conf/zentaro.conf"_L1, u"cfg"_s);
+    readFile(text::nameInFolder(text::homeFolder() + "/.zentaro/conf/zentaro.conf"), u"cfg"_s);
 }
 
 QString ZTConfiguration::getStrValue(const QString &key) const

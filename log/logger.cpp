@@ -37,7 +37,7 @@ Logger::Logger(QString const &)
     setLevel(config.getStrValue(u"zentaro.logger.level"_s));
     fileName = config.getStrValue(u"zentaro.logger.basedir"_s) + u'/'
                + config.getStrValue(u"zentaro.logger.filename"_s);
-    file = std::make_unique<text::LocaleFile>(text::fileNameOf(fileName));
+    file = std::make_unique<text::LocaleFile>(text::nameOfNewFile(text::bytesOf(fileName)));
     setType(config.getStrValue(u"zentaro.logger.type"_s));
     stream = std::make_unique<QTextStream>(file.get());
     debug(u"Start Logger"_s);

@@ -160,6 +160,7 @@ private:
     void printAddress(const QString &address);
     void printPricedItem(const QXmlAttributes &atts, const QString &layout);
     void printItemType(const QXmlAttributes &atts);
+    void printTotal(const QXmlAttributes &atts);
     void printInvoiceTotals(const QXmlAttributes &atts);
     void printReportTitle(const QString &title);
     void printDottedLabel(const QString &label);

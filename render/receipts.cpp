@@ -41,6 +41,13 @@ void PrinterDriver::printTitledRow(const QString &title, const QString &amount)
     println(descriptionRow({}, title, {}, amount, u'.', u"qdpt"_s));
 }
 
+/// The total of a receipt, below an empty line.
+void PrinterDriver::printTotal(const QXmlAttributes &atts)
+{
+    println(u""_s);
+    printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+}
+
 void PrinterDriver::printInvoiceTotals(const QXmlAttributes &atts)
 {
     setBold();
@@ -61,8 +68,7 @@ void PrinterDriver::printFullOrderReceipt(const QString &qName, const QXmlAttrib
     } else if (qName == element::receipe) {
         printPricedItem(atts, u"qxdpt"_s);
     } else if (qName == element::total) {
-        println(u""_s);
-        printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+        printTotal(atts);
     } else if (qName == element::notPaid) {
         println(u""_s);
         println(tr("    Amount not paid: ") + valueOf(atts, "price"_L1));
@@ -111,8 +117,7 @@ void PrinterDriver::printAbstractOrderReceipt(const QString &qName, const QXmlAt
     if (qName == element::receipeType) {
         printItemType(atts);
     } else if (qName == element::total) {
-        println(u""_s);
-        printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+        printTotal(atts);
     } else if (qName == element::notPaid) {
         println(u""_s);
         // This title is Italian in every language.

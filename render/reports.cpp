@@ -73,8 +73,8 @@ void PrinterDriver::printReportTitle(const QString &title)
 /// The label with dots up to the value, which begins 15 characters before the end of the paper.
 void PrinterDriver::printDottedLabel(const QString &label)
 {
-    constexpr int ValueWidth = 15; // paper narrower than that counts as that wide
-    print(0, leftJustified(label, qMax(settings.paperWidth, ValueWidth) - ValueWidth, u'.'));
+    constexpr qint64 ValueWidth = 15; // paper that is narrower leaves no room for dots
+    print(0, leftJustified(label, settings.paperWidth - ValueWidth, u'.'));
 }
 
 void PrinterDriver::printDottedLine(const QString &label, const QString &value)

@@ -21,13 +21,25 @@ public:
     {
     }
 
-    bool rootHasBegun() const { return begun; }
+    bool isInDocumentType() const { return inDocumentType; }
     bool entitiesAreDeclared() const { return declared; }
 
-    bool internalEntityDecl(const QString &, const QString &) override
+    bool startDTD(const QString &, const QString &, const QString &) override
+    {
+        inDocumentType = true;
+        return true;
+    }
+    bool endDTD() override
+    {
+        inDocumentType = false;
+        return true;
+    }
+    /// False, which is a fault, for an entity that is long or holds others.
+    bool internalEntityDecl(const QString &, const QString &value) override
     {
         declared = true;
-        return true;
+        const bool holdsOthers = value.contains(u'%') || value.count(u'&') != value.count(QStringView(u"&#"));
+        return value.size() <= MaxEntitySize && !holdsOthers;
     }
 
     void setDocumentLocator(QXmlLocator *locator) override { target.setDocumentLocator(locator); }
@@ -36,7 +48,6 @@ public:
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
                       const QXmlAttributes &atts) override
     {
-        begun = true;
         if (++depth > MaxDepth)
             return false;
         for (int i = 0; i < atts.count(); ++i) {
@@ -70,7 +81,7 @@ private:
     }
 
     QXmlContentHandler &target;
-    bool begun = false;
+    bool inDocumentType = false;
     bool declared = false;
     int depth = 0; // of the element that is being read; the root has 1
 };
@@ -91,7 +102,7 @@ bool isUtf8(QByteArrayView piece)
     return !text.isEmpty() && (encoding < 0 || text.sliced(encoding).toLower().contains("utf-8"));
 }
 
-/// Feeds the reader piece by piece, until the request ends or its prolog is too long. Pieces of
+/// Feeds the reader piece by piece, until the request ends or exceeds a limit. Pieces of
 /// this size, and the toolkit's decoder in place of a codec where the request is in UTF-8, make
 /// reading faster than the reader alone; any other encoding is left to the toolkit's own way.
 class RequestSource : public QXmlInputSource
@@ -133,18 +144,18 @@ private:
             decodePiece(QByteArrayView(piece).first(size));
             bytesRead += size;
         } while (text.isEmpty());
-        if (!progress.rootHasBegun() || progress.entitiesAreDeclared())
-            references += text.count(u'&');
         at = text.cbegin();
         end = text.cend();
         return next();
     }
 
-    bool exceedsLimits() const
+    /// Counts what the present piece uses of the limits, and tells whether one is exceeded.
+    bool exceedsLimits()
     {
-        return progress.rootHasBegun()
-                   ? progress.entitiesAreDeclared() && references > MaxEntityReferences
-                   : bytesRead >= MaxPrologBytes;
+        documentTypeBytes = progress.isInDocumentType() ? documentTypeBytes + PieceBytes : 0;
+        if (progress.entitiesAreDeclared())
+            references += text.count(u'&');
+        return documentTypeBytes > MaxDocumentTypeBytes || references > MaxEntityReferences;
     }
 
     void decodePiece(QByteArrayView bytes)
@@ -165,8 +176,9 @@ private:
     bool utf8 = false; // of the request, known with its first piece
     bool ended = false;
     qint64 bytesRead = 0;
-    qsizetype references = 0; // counted where they may be to entities of the request's own
-    QString text;             // of the present piece
+    qint64 documentTypeBytes = 0; // of the one being read
+    qsizetype references = 0;     // counted where they may be to entities of the request's own
+    QString text;                 // of the present piece
     QString::const_iterator at = text.cbegin();
     QString::const_iterator end = text.cend();
 };
@@ -179,6 +191,7 @@ bool read(QIODevice &request, QXmlContentHandler &handler)
     QXmlSimpleReader reader;
     reader.setContentHandler(&filter);
     reader.setDeclHandler(&filter);
+    reader.setLexicalHandler(&filter);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
     RequestSource source(request, filter);

@@ -11,14 +11,15 @@ namespace requestreader {
 /// recurses for every level, and a hostile request would overflow its stack.
 constexpr int MaxDepth = 1'000;
 
-/// Bytes within which the root element has to begin, or the reading stops as at a fault: the
-/// toolkit's reader also recurses in a document type's content models, and its entity checks take
-/// time that grows with the square of their number.
-constexpr int MaxPrologBytes = 32 * 1'024;
+/// A longer document type stops the reading as a fault does, give or take a piece of 16 KiB: the
+/// reader also recurses in content models, and its checks of entities take time that grows with the
+/// square of their number.
+constexpr int MaxDocumentTypeBytes = 16 * 1'024;
 
-/// References with which a request that declares entities of its own may go on, counted by pieces
-/// of 16 KiB; more stop the reading as at a fault. The reader expands each to up to 4,096
-/// characters: a small request would take gigabytes and minutes.
+/// An entity that is longer than these characters, or holds other entities, is a fault too, and so
+/// are more references, counted by pieces, in a request that declares entities: expanded, a small
+/// request would take gigabytes and minutes.
+constexpr int MaxEntitySize = 1'024;
 constexpr int MaxEntityReferences = 1'000;
 
 /// Hands the elements of a request to `handler` until its end, the first fault in the XML, or the

@@ -77,12 +77,18 @@ TEST(PrintRun, EndsNormallyWhateverTheRequest)
          "<!DOCTYPE p [<!ENTITY e SYSTEM \"/etc/passwd\"><!ENTITY n \"y\">]>" + start
              + "&e;<receipe number=\"1\" name=\"&n;\"/></p>",
          QByteArray("\nj\n" + printedItem + "J\n").replace('x', 'y'), ""},
-        {"endless prolog", "<!--" + QByteArray(100'000, 'x') + "-->" + start + item + "</p>", "",
-         ""},
+        {"a long way to the root",
+         "<!--" + QByteArray(100'000, 'x') + "--><p a='" + QByteArray(100'000, 'x') + "'>"
+             + start.sliced(3) + item + "</p>",
+         "\nj\n" + printedItem + "J\n", ""},
         {"entities by the million",
-         "<!DOCTYPE p [<!ENTITY e '" + QByteArray(4'000, 'y') + "'>]>" + start + "<a b='"
+         "<!DOCTYPE p [<!ENTITY e '" + QByteArray(1'000, 'y') + "'>]>" + start + "<a b='"
              + QByteArray("&e;").repeated(1'000'000) + "'/>" + item + "</p>",
          "\nj\n", ""},
+        {"entities in entities",
+         "<!DOCTYPE p [<!ENTITY d 'y'><!ENTITY e '&d;&d;'>]>" + start + item + "</p>", "", ""},
+        {"a long entity", "<!DOCTYPE p [<!ENTITY d '" + QByteArray(2'000, 'y') + "'>]>" + start, "",
+         ""},
         {"deep content model", "<!DOCTYPE p [<!ELEMENT p " + QByteArray(1'000'000, '('), "", ""},
     };
     const Home home(noConfiguration);
@@ -109,12 +115,31 @@ TEST(PrintRun, TellsWhatItCannotOpen)
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(support::readFile(home.path(u"out"_s)), "");
 
+    // The toolkit itself would complain of the empty name.
     const QString sample = support::sourceDir() + u"/samples/printFullOrderFiscal.xml"_s;
-    outcome = support::zentaroPrint({sample, home.path(u"no/folder"_s)}, home,
-                                    {u"LC_ALL=C"_s}); // of which the toolkit would warn
-    EXPECT_EQ(outcome.exitStatus, 0);
-    EXPECT_EQ(outcome.output,
-              noSettings + "PrintManager::printAbstractOrder(...): Unable To Open File\n");
+    for (const QString &unwritable : {home.path(u"no/folder"_s), home.path(), u""_s}) {
+        outcome = support::zentaroPrint({sample, unwritable}, home, {u"QT_FATAL_WARNINGS=1"_s});
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.output,
+                  noSettings + "PrintManager::printAbstractOrder(...): Unable To Open File\n");
+        EXPECT_EQ(outcome.errors, "");
+    }
+}
+
+/// File names are bytes: those of a Latin-1 system, and what the toolkit takes for its own.
+TEST(PrintRun, OpensFilesOfAnyName)
+{
+    const Home home(noConfiguration);
+    const QString script =
+        uR"sh(cd "$1" && mkdir "h$(printf '\350')" && cd h* && mkdir -p .zentaro/conf
+        printf 'zentaro:{doc:{printGeometry=true; topMargin=1;};};' >.zentaro/conf/zentaro.conf
+        printf '<p><method name="printPartialOrder"/><geometry/></p>' >"$(printf 'in\350')"
+        cp in* :in
+        HOME=$PWD "$0" in* "$(printf 'out\350')" && cat "$(printf 'out\350')"
+        HOME=$PWD "$0" :in :out && cat :out && cd .. && rm -r h*)sh"_s;
+    const Outcome outcome =
+        support::run(u"sh"_s, {u"-c"_s, script, support::zentaroPrintProgram(), home.path()}, home);
+    EXPECT_EQ(outcome.output, "\nj\n\"\"@\nJ\n\nj\n\"\"@\nJ\n");
     EXPECT_EQ(outcome.errors, "");
 }
 
@@ -123,13 +148,27 @@ TEST(PrintRun, KeepsDiagnosticsOutOfThePrintFile)
     const Home home(noConfiguration);
     support::writeFile(home.path(u"in"_s), "<p><method name=\"printPartialOrder\"/><method/></p>");
     const QString command = u"exec \"$0\" \"$1/in\" \"$1/out\" "_s;
-    for (const QString &closed : {u"<&- >&- 2>&-"_s, u">&-"_s, u"| true"_s}) {
+    for (const QString &closed : {u"<&- >&- 2>&-"_s, u">&-"_s}) {
         const Outcome outcome = support::run(
             u"sh"_s, {u"-c"_s, command + closed, support::zentaroPrintProgram(), home.path()},
             home);
         EXPECT_EQ(outcome.exitStatus, 0);
         EXPECT_EQ(outcome.errors, "");
         EXPECT_EQ(support::readFile(home.path(u"out"_s)), "\nj\n") << closed.toStdString();
+    }
+}
+
+TEST(PrintRun, OutlivesSignalsOfItsStreams)
+{
+    const Home home(noConfiguration);
+    support::writeFile(home.path(u"in"_s), "<p><method/></p>");
+    for (const QString &command : {u"\"$0\""_s, u"\"$0\" \"$1/in\" \"$1/out\""_s,
+                                   u"ulimit -f 0; \"$0\" \"$1/in\" \"$1/out\" >/dev/null"_s}) {
+        const QString script =
+            u"{ sleep 0.2; "_s + command + u"; echo $? >&2; } | true; sleep 0.3"_s;
+        const Outcome outcome = support::run(
+            u"sh"_s, {u"-c"_s, script, support::zentaroPrintProgram(), home.path()}, home);
+        EXPECT_EQ(outcome.errors, "0\n") << command.toStdString();
     }
 }
 
@@ -174,11 +213,13 @@ TEST(PrintRun, WritesInTheEncodingOfTheLocale)
     EXPECT_EQ(support::printed(request, home, cyrillic.variables()), row("caff? \x88 ?.\xC6"));
 }
 
-TEST(LocaleEncoding, KeepsPairsThatTheEncodingHas)
+TEST(LocaleEncoding, LosesNoCharacter)
 {
     EXPECT_EQ(text::encoded(u"\u00E8\U0001F355\u0416", QTextCodec::codecForName("GB18030")),
               "\xA8\xA8\x94\x39\xB8\x33\xA7\xA8");
     EXPECT_EQ(text::encoded(u"a\U0001F355", QTextCodec::codecForName("ISO-8859-1")), "a?");
+    EXPECT_EQ(text::encoded(u"\u200B\uFE0F\uFEFF|", QTextCodec::codecForName("ISO-8859-15")),
+              "???|");
     EXPECT_EQ(text::encoded(u"a\U0001F355", nullptr), "a\U0001F355");
 }
 

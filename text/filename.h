@@ -1,15 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFile>
+#include <QByteArray>
+#include <QString>
 
+/// File names as the system has them, bytes, in a form that the toolkit opens: it takes every name
+/// for UTF-8, and one that begins with ":" for a resource of its own. A name that is not UTF-8 is
+/// opened here and stands as the path of its descriptor, which stays open until the process ends.
 namespace text {
 
-/// The name of the file whose bytes are the characters of a setting: the configuration reads every
-/// byte as one ISO 8859-1 character.
-inline QString fileNameOf(const QString &setting)
+/// The name of a file or folder that is there; of one that is not, a name that is not there either.
+QString nameOfFile(const QByteArray &bytes);
+
+/// The name of a file to be written, which is created where it would otherwise be out of reach.
+QString nameOfNewFile(const QByteArray &bytes);
+
+/// A name whose last part the toolkit will add to or shorten: only the folder may be any bytes.
+QString nameInFolder(const QByteArray &bytes);
+
+/// The bytes that a setting has in the configuration file: each is one ISO 8859-1 character.
+inline QByteArray bytesOf(const QString &setting)
 {
-    return QFile::decodeName(setting.toLatin1());
+    return setting.toLatin1();
 }
+
+/// The user's home folder: `HOME`, or the user database's where that is not set; "/" without both.
+QByteArray homeFolder();
 
 } // namespace text

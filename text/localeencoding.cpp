@@ -32,20 +32,24 @@ QTextCodec *codecOfEnvironment()
     return codec && codec->mibEnum() != Utf8Mib ? codec : nullptr;
 }
 
-/// Single `?` for each surrogate pair that `codec` lacks: the toolkit's codecs write one per unit.
-QString withoutUnknownPairs(QStringView text, const QTextCodec *codec)
+/// The text with a `?` for each character that `codec` lacks. The toolkit's codecs write one for
+/// each half of a surrogate pair, and drop invisible characters without a trace.
+QString withoutUnknown(QStringView text, const QTextCodec *codec)
 {
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool pair =
             text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-        if (!pair)
-            result += text[i];
-        else if (const QStringView both = text.mid(i++, 2); codec->canEncode(both))
-            result += both;
+        const QStringView character = text.sliced(i, pair ? 2 : 1);
+        i += pair ? 1 : 0;
+        const bool ascii = character.front().unicode() < 0x80;
+        const bool known =
+            ascii || (codec->canEncode(character) && !codec->fromUnicode(character).isEmpty());
+        if (known)
+            result += character;
         else
-            result += QLatin1Char('?');
+            result += u'?';
     }
     return result;
 }
@@ -68,7 +72,7 @@ QByteArray encoded(QStringView text, QTextCodec *codec)
     if (!codec)
         return text.toUtf8();
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString known = withoutUnknownPairs(text, codec);
+    const QString known = withoutUnknown(text, codec);
     return codec->fromUnicode(known.constData(), int(known.size()), &state);
 }
 

@@ -6,7 +6,7 @@
 namespace text {
 
 /// Writes one diagnostic line, `line` and a line end, to standard output and lets it out at once.
-/// A standard output that takes nothing is no failure: the line is lost.
+/// Where standard output takes nothing the line is lost, which is no failure.
 void printLine(QByteArrayView line);
 
 /// Opens the standard streams that whoever started the process has closed, on the null device: a

@@ -4,6 +4,7 @@
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "db/databasemanager.h"
+#include "text/filename.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
 
@@ -54,7 +55,7 @@ QString HLibrary::programFiles()
 
 QString HLibrary::dataPath()
 {
-    return QDir::homePath();
+    return QFile::decodeName(text::homeFolder());
 }
 
 QString HLibrary::psql()
