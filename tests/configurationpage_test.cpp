@@ -71,7 +71,7 @@ QSet<QString> keysOfThePage()
             keys += prefix + keyWord;
         }
     }
-    // Fiscal documents print no margin, and nobody reads what is only kept for other printers.
+    // Fiscal documents print no margin.
     keys -= u"zentaro.fiscaldoc.topMargin"_s;
     return keys;
 }

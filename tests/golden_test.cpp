@@ -85,6 +85,21 @@ INSTANTIATE_TEST_SUITE_P(Odd, GoldenTest,
                                                    u"tests/golden/odd"_s)),
                          nameOf);
 
+/// References and requests belong together, one to one, in every folder.
+TEST(Golden, HasNoReferenceWithoutARequest)
+{
+    const QDir root(support::sourceDir());
+    const std::pair<QString, QString> folders[] = {{u"samples"_s, u"tests/golden/paper40"_s},
+                                                   {u"samples"_s, u"tests/golden/paper32"_s},
+                                                   {u"tests/golden/odd"_s, u"tests/golden/odd"_s}};
+    for (const auto &[requests, references] : folders) {
+        QStringList wanted = QDir(root.filePath(requests)).entryList({u"*.xml"_s});
+        EXPECT_GE(wanted.size(), 5);
+        EXPECT_EQ(QDir(root.filePath(references)).entryList({u"*.prn"_s}),
+                  wanted.replaceInStrings(u".xml"_s, u".prn"_s));
+    }
+}
+
 /// The samples' page shows what each request prints; as text, without the fiscal carriage returns.
 TEST(Golden, ShowsEveryMethodInTheSamplesPage)
 {

@@ -82,8 +82,11 @@ public:
     }
     void printLogo() override { note("logo"); }
 
+    using PrinterDriver::charsize;
     using PrinterDriver::credit;
     using PrinterDriver::currentMethod;
+    using PrinterDriver::ipaddress;
+    using PrinterDriver::port;
     using PrinterDriver::printerInfo;
     using PrinterDriver::settings;
 

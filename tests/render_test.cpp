@@ -172,119 +172,120 @@ TEST(Driver, ReadsSettingsAsTextSaysThem)
               "Error into PrinterDriver::documentPath:  bill\n");
 }
 
-TEST(Driver, EverySwitchIsFilledByItsOwnKey)
+TEST(Driver, KeepsThePrinterAndTheFirstOfTwoAttributes)
 {
-    for (const SettingKey<bool> &row : switchSettings()) {
-        configure("doc:{" + QByteArray(row.keyWord.data(), row.keyWord.size()) + "=true;};");
-        RecordingDevice device;
-        device.loadValues(u"order"_s);
-        for (const SettingKey<bool> &other : switchSettings())
-            EXPECT_EQ(device.settings.*other.member, other.keyWord == row.keyWord);
-    }
-    EXPECT_EQ(switchSettings().size(), 17U);
+    configure("");
+    RecordingDevice device;
+    EXPECT_TRUE(device.startDocument());
+    EXPECT_EQ(device.takeCalls(), u"reset"_s);
+    device.method("printPartialOrder");
+    EXPECT_EQ(device.element("printers", attributes({{"name", "first"},
+                                                     {"name", "second"},
+                                                     {"charsize", "c"},
+                                                     {"ipaddress", "i"},
+                                                     {"port", "p"}})),
+              u"init"_s);
+    const QStringList kept{device.printerInfo, device.charsize, device.ipaddress, device.port};
+    EXPECT_EQ(kept, QStringList({u"first"_s, u"c"_s, u"i"_s, u"p"_s}));
 }
 
-/// What each element makes the driver ask of its device, in order.
-TEST(Documents, PrintWhatTheirElementsTell)
+const QString rule = u"|========================================|"_s;
+
+/// What each element of the top makes the driver ask of its device, with everything switched on and
+/// with everything switched off.
+TEST(Documents, PrintTheTopUnderItsSwitches)
 {
     const QByteArray on = columns40
                           + QByteArray("printGeometry=true; topMargin=2; printHeader=true;"
                                        "printCompany=true; printDate=true; printCredit=true;"
                                        "printCustomer=true; printBillingAddress=true;"
                                        "printTelephone=true; printFiscalCode=true;");
-    configure("doc:{" + on + "}; receiptdoc:{" + on + "}; invoicedoc:{" + on + "}; deliverydoc:{"
-              + on + "}; fiscaldoc:{descriptionWidth=4;}; reportdoc:{" + on + "}; prefiscaldoc:{"
-              + on + "};");
-    const QXmlAttributes item =
-        attributes({{"number", "2"}, {"name", "Tè"}, {"price", "1.50"}, {"totalPrice", "3.00"}});
-    const QXmlAttributes customer = attributes({{"name", "Zoë"},
+    configure("prefiscaldoc:{" + on
+              + "}; doc:{paperWidth=40;};"
+                "receiptdoc:{paperWidth=40; printCustomer=true;};");
+    const QXmlAttributes customer = attributes({{"name", "Zo\u00EB"},
                                                 {"billingaddress", "Via A, 1,  ,B,,C"},
                                                 {"deliveryaddress", "X"},
                                                 {"telephone", "5"}});
-    const QXmlAttributes totals =
-        attributes({{"taxable", "10.00"}, {"taxrate", "10"}, {"tax", "1.00"}, {"total", "11.00"}});
+    const struct
+    {
+        const char *element;
+        QXmlAttributes atts;
+        QString on, off;
+    } rows[] = {
+        {"geometry", {}, u"||\n||"_s, u""_s},
+        {"headers", attributes({{"b", "one"}, {"a", "two"}}),
+         u"|one|\n|two|\n"_s + rule + u"\ncenter\n||\n"_s + rule, u"center\n||\n"_s + rule},
+        {"logo", {}, u"logo"_s, u"logo"_s},
+        {"company", attributes({{"b", "one"}}), u"size\ncenter\n|one|\nsize\n"_s + rule, u""_s},
+        {"orderinfo", attributes({{"date", "d"}, {"time", "t"}, {"credit", "c"}}),
+         u"size\n+1|Date:|\n1|d|\n+1|Credit:|\n1|c|\n"_s + rule, u"size\n"_s + rule},
+        {"customer", customer,
+         u"|CUSTOMER|\n1|Zo\u00EB|\n1|Via A|\n1|1|\n1||\n1|B|\n+1|Telephone:|\n1|5|\n"
+         "+1|Fiscal Code:|\n1||\n"_s
+             + rule,
+         u""_s},
+    };
+    for (const auto &row : rows) {
+        RecordingDevice device;
+        device.method("printFullOrder");
+        EXPECT_EQ(device.element(row.element, row.atts), row.on) << row.element;
+        device.method("printPartialOrder");
+        EXPECT_EQ(device.element(row.element, row.atts), row.off) << row.element;
+    }
+    RecordingDevice receipt;
+    receipt.method("printFullOrderReceipt");
+    EXPECT_EQ(receipt.element("customer", customer), u"|CUSTOMER|\n1|Zo\u00EB|\n"_s + rule);
+}
+
+/// How the documents treat their elements, where the print file alone does not show it.
+TEST(Documents, TellTheirElementsApart)
+{
+    const QByteArray groups = QByteArray(columns40) + "printCustomer=true;";
+    configure("doc:{" + groups + "}; receiptdoc:{" + groups + "}; invoicedoc:{" + groups
+              + "}; prefiscaldoc:{" + groups + "};");
+    const QXmlAttributes item = attributes({{"department", "1"},
+                                            {"number", "2"},
+                                            {"name", "T\u00E8"},
+                                            {"price", "1.50"},
+                                            {"totalPrice", "3.00"}});
     const QXmlAttributes price = attributes({{"price", "9.00"}});
-    const QString rule = u"|========================================|"_s;
-    const QString block = u"|CUSTOMER|\n1|Zoë|\n1|Via A|\n1|1|\n1||\n1|B|\n+1|Telephone:|\n1|5|\n"
-                          "+1|Fiscal Code:|\n1||\n"_s
-                          + rule;
-    const QString titles = u"bold\n|Num Description           Price   Amount|\nsize\n"_s;
-    const QString typeTitles = u"bold\n|Num Description                    Price|\nsize\n"_s;
-    const QString total = u"|    TOTAL......................     9.00|"_s;
-    const QString taxRows = u"bold\n||\n|    Taxable....................    10.00|\n"
-                            "|    TaxRate....................       10|\n"
-                            "|    Tax........................     1.00|\n"
-                            "|    TOTAL......................    11.00|\nsize"_s;
     const struct
     {
         const char *method, *element;
         QXmlAttributes atts;
         QString calls;
     } rows[] = {
-        {"printFullOrder", "printers", attributes({{"name", "P"}, {"port", "1"}}), u"init"_s},
-        {"printFullOrder", "geometry", {}, u"||\n||"_s},
-        {"printFullOrder", "headers", attributes({{"b", "one"}, {"a", "two"}}),
-         u"|one|\n|two|\n"_s + rule + u"\ncenter\n||\n"_s + rule},
-        {"printFullOrder", "logo", {}, u"logo"_s},
-        {"printFullOrder", "company", attributes({{"b", "one"}}),
-         u"size\ncenter\n|one|\nsize\n"_s + rule},
-        {"printFullOrder", "receipt", attributes({{"serialnumber", "7"}}),
-         u"1|Serial Number: 7|\n"_s + rule},
-        {"printFullOrder", "invoice", attributes({{"serialnumber", "7"}}),
-         u"+1|Invoice Number:|\n1|7|\n"_s + rule},
-        {"printFullOrder", "delivery", {}, u"+1|Delivery Number:|\n1||\n"_s + rule},
-        {"printFullOrder", "orderinfo", attributes({{"date", "d"}, {"time", "t"}, {"credit", "c"}}),
-         u"size\n+1|Date:|\n1|d|\n+1|Credit:|\n1|c|\n"_s + rule},
-        {"printFullOrder", "customer", customer, block},
         {"printFullOrder", "receipe", item,
-         titles + u"|  2 Tè.....................1.50     3.00|"_s},
+         u"bold\n|Num Description           Price   Amount|\nsize\n"
+         "|  2 T\u00E8.....................1.50     3.00|"_s},
         {"printFullOrder", "receipe", attributes({{"name", "=Note"}}), u""_s},
-        {"printFullOrder", "variant", attributes({{"number", "1"}, {"name", "Oil"}}),
-         u"|  1 - Oil......................         |"_s},
-        {"printFullOrder", "total", price, u"||\nbold\n"_s + total},
+        {"printFullOrder", "total", price,
+         u"||\nbold\n|    TOTAL......................     9.00|"_s},
         {"printFullOrder", "notPaid", price, u""_s},
-        {"printPartialOrder", "customer", customer, block},
-        {"printPartialOrder", "receipe", item, u"size\n|  2 Tè                                |"_s},
+        {"printPartialOrder", "receipe", item,
+         u"size\n|  2 T\u00E8                                |"_s},
         {"printPartialOrder", "otherreceipe", item,
-         u"size 1\n|  2 Tè                                |"_s},
+         u"size 1\n|  2 T\u00E8                                |"_s},
         {"printPartialOrder", "total", price, u""_s},
-        {"printFullOrderReceipt", "customer", customer, block},
-        {"printFullOrderReceipt", "receipe", item,
-         titles + u"|  2 x Tè...................1.50     3.00|"_s},
+        {"printFullOrderReceipt", "total", price,
+         u"||\n|    TOTAL......................     9.00|"_s},
         {"printFullOrderReceipt", "variant", item, u""_s},
-        {"printFullOrderReceipt", "total", price, u"||\n"_s + total},
-        {"printFullOrderReceipt", "notPaid", price, u"||\n|    Amount not paid: 9.00|"_s},
-        {"printFullOrderInvoice", "customer", customer, block},
-        {"printFullOrderInvoice", "receipe", item,
-         titles + u"|  2 Tè.....................1.50     3.00|"_s},
-        {"printFullOrderInvoice", "totals", totals, taxRows},
+        {"printFullOrderReceipt", "totals", price, u""_s},
+        {"printFullOrderInvoice", "totals", attributes({{"tax", "1.00"}}),
+         u"bold\n||\n|    Taxable....................         |\n"
+         "|    TaxRate....................         |\n"
+         "|    Tax........................     1.00|\n"
+         "|    TOTAL......................         |\nsize"_s},
         {"printFullOrderInvoice", "notPaid", price, u""_s},
         {"printFullOrderInvoice", "total", price, u""_s},
-        {"printFullOrderDelivery", "customer", customer, block},
-        {"printFullOrderDelivery", "receipe", item,
-         u"size\n|  2 Tè                                |"_s},
-        {"printFullOrderDelivery", "logo", {}, u"logo"_s},
-        {"printFullOrderFiscal", "receipe",
-         attributes({{"department", "1"}, {"number", "2"}, {"name", "Pizza"}, {"price", "7.50"}}),
-         u"1/2/Pizz/7.50"_s},
         {"printFullOrderFiscal", "total", price, u"payments of total"_s},
-        {"printFullOrderFiscal", "totals", totals, u""_s},
+        {"printFullOrderFiscal", "totals", price, u""_s},
         {"printFullOrderFiscal", "logo", {}, u""_s},
-        {"printAbstractOrder", "receipe_type", item, u""_s},
         {"printAbstractOrder", "logo", {}, u""_s},
-        {"printAbstractOrderReceipt", "customer", customer, u""_s},
-        {"printAbstractOrderReceipt", "receipe_type", item,
-         typeTitles + u"|  2 x Tè.......................     1.50|"_s},
-        {"printAbstractOrderReceipt", "total", price, u"||\n"_s + total},
-        {"printAbstractOrderReceipt", "notPaid", price,
-         u"||\n|   Corrispettivo non pagato: 9.00|"_s},
-        {"printAbstractOrderInvoice", "customer", customer, block},
-        {"printAbstractOrderInvoice", "receipe_type", item,
-         typeTitles + u"|  2 x Tè.......................     1.50|"_s},
-        {"printAbstractOrderInvoice", "totals", totals, taxRows},
-        {"printAbstractOrderFiscal", "receipe_type",
-         attributes({{"department", "1"}, {"number", "2"}, {"name", "Pizza"}, {"price", "7.50"}}),
-         u"1/1/Pizza/7.50"_s},
+        {"printAbstractOrderReceipt", "customer", item, u""_s},
+        {"printAbstractOrderReceipt", "receipe", item, u""_s},
+        {"printAbstractOrderFiscal", "receipe_type", item, u"1/1/T\u00E8/1.50"_s},
         {"printAbstractOrderFiscal", "receipe", item, u""_s},
         {"printAbstractOrderFiscal", "total", price, u"payments of total"_s},
     };

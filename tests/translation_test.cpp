@@ -108,7 +108,9 @@ TEST(Translation, IsCompleteInEveryLanguage)
 {
     const QDir root(support::sourceDir());
     const support::Folder folder;
-    for (const QString &name : QDir(root.filePath(u"i18n"_s)).entryList({u"*.ts"_s})) {
+    const QStringList catalogues = QDir(root.filePath(u"i18n"_s)).entryList({u"*.ts"_s});
+    EXPECT_EQ(catalogues.size(), 4);
+    for (const QString &name : catalogues) {
         const QByteArray committed = support::readFile(root.filePath(u"i18n/"_s + name));
         support::writeFile(folder.path(name), committed);
         QProcess lupdate;
