@@ -76,6 +76,9 @@ void Logger::write(Logger::Level lvl, QString const &text)
     stream->resetStatus(); // a stream that failed once, on a full disk, would write no more
     *stream << u'[' + time + "] "_L1 + nameOf(lvl) + ": "_L1 + text + u'\n';
     stream->flush();
+    while (file->bytesToWrite() > 0 && file->flush()) {
+        // What a full disk has held up goes out in pieces.
+    }
 }
 
 void Logger::fatal(QString const &text)
