@@ -10,8 +10,6 @@
 #include <QSqlTableModel>
 #include <QVariant>
 
-#include <limits>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -208,8 +206,10 @@ QString DatabaseManager::incrementSequence(const QString &sequence, qint64 n, QS
 
 QString DatabaseManager::decrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db)
 {
-    constexpr qint64 Lowest = std::numeric_limits<qint64>::min(); // has no negative
-    return incrementSequence(sequence, n == Lowest ? -(Lowest + 1) : -n, db);
+    if (qint64 step = 0; !qSubOverflow(qint64(0), n, &step))
+        return incrementSequence(sequence, step, db);
+    error("decrementSequence( "_L1 + sequence + " ): the step leaves the 64-bit range"_L1);
+    return sequenceValue(sequence, db);
 }
 
 bool DatabaseManager::decrementSequenceIfPositive(const QString &sequence, qint64 n,

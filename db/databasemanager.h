@@ -67,8 +67,8 @@ public:
     QString sequenceValue(const QString &sequence, QSqlDatabase *db = nullptr);
     /// Sets a sequence and answers its new value; empty on failure.
     QString setSequence(const QString &sequence, qint64 value, QSqlDatabase *db = nullptr);
-    /// Moves a sequence by `n`, and answers the value from before. A sum beyond 64 bits is logged
-    /// as an error and changes nothing.
+    /// Moves a sequence by `n`, and answers the value from before. A step or a sum beyond 64 bits
+    /// is logged as an error and changes nothing.
     QString incrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
     QString decrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
     /// Moves a sequence down by `n` and answers true, unless its value is below `n`. That value is

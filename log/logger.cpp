@@ -8,6 +8,7 @@
 #include "text/standardoutput.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 
 #include <array>
 
@@ -60,7 +61,10 @@ void Logger::setType(QString const &type)
     if (!append && !isWord(type, "OVERWRITE"_L1))
         return;
     file->close();
-    if (!file->open(append ? QIODevice::Append : QIODevice::WriteOnly))
+    // A device or a pipe has no end to go on from: the toolkit complains of one on standard error.
+    const QFileInfo target(*file);
+    const bool hasEnd = target.isFile() || !target.exists();
+    if (!file->open(append && hasEnd ? QIODevice::Append : QIODevice::WriteOnly))
         text::printLine("Error in the method Logger::setType(" + type.toLatin1() + ")");
 }
 
@@ -72,6 +76,9 @@ void Logger::write(Logger::Level lvl, QString const &text)
     stream->resetStatus(); // a stream that failed once, on a full disk, would write no more
     *stream << u'[' + time + "] "_L1 + nameOf(lvl) + ": "_L1 + text + u'\n';
     stream->flush();
+    while (file->bytesToWrite() > 0 && file->flush()) {
+        // What a full disk has held up goes out in pieces.
+    }
 }
 
 void Logger::fatal(QString const &text)

@@ -4,12 +4,13 @@
 #include "log/hlogmanager.h"
 #include "tests/support.h"
 
+#include <QDateTime>
 #include <QRegularExpression>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <memory>
 #include <sys/resource.h>
 #include <thread>
 
@@ -17,65 +18,67 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Sets the configuration of every Logger from now on; a setting that is null is left out.
-void configure(const QByteArray &level, const QByteArray &basedir, const QByteArray &filename,
-               const QByteArray &type)
-{
-    QByteArray settings;
-    for (const auto &[key, value] : {std::pair("level = \"", level),
-                                     {"basedir = \"", basedir},
-                                     {"filename = \"", filename},
-                                     {"type = \"", type}})
-        settings += value.isNull() ? QByteArray() : key + value + "\"; ";
-    const support::Home home("zentaro : { logger : { " + settings + "}; };");
-    SyncSingleton<ZTConfiguration>::instance()->readFile(home.configurationPath(), u"cfg"_s);
-}
-
-/// The file without the time stamps, whose form every line must have.
-QByteArray lines(const QString &path)
-{
-    static const QRegularExpression stamp(
-        uR"(^\[(0\d|1[0-2])-([0-2]\d|3[01])-20\d\d ([01]\d|2[0-3]):[0-5]\d:[0-5]\d:\d{3}\] )"_s,
-        QRegularExpression::MultilineOption);
-    return QString::fromUtf8(support::readFile(path)).remove(stamp).toUtf8();
-}
-
 class Log : public testing::Test
 {
 protected:
     Log()
     {
         qputenv("LC_ALL", "C.UTF-8");
+        qputenv("TZ", "TILL-5:30"); // five hours and a half to the east
         testing::internal::CaptureStderr();
     }
     ~Log() override { EXPECT_EQ(testing::internal::GetCapturedStderr(), ""); }
 
+    /// Sets the configuration of every Logger from now on; "HERE" stands for the test's folder.
+    void configure(QByteArray settings = "level = info; type = append; basedir = \"HERE\";"
+                                         " filename = \"print.log\";")
+    {
+        settings.replace("HERE", folder.path().toUtf8());
+        const support::Home home("zentaro : { logger : { " + settings + " }; };");
+        SyncSingleton<ZTConfiguration>::instance()->readFile(home.configurationPath(), u"cfg"_s);
+    }
+
+    /// The log without its time stamps, which every line must have.
+    QByteArray lines() const
+    {
+        static const QRegularExpression stamp(uR"(^\[[-\d]{10} [:\d]{12}\] )"_s,
+                                              QRegularExpression::MultilineOption);
+        return QString::fromUtf8(support::readFile(file)).remove(stamp).toUtf8();
+    }
+
     const support::Folder folder;
-    const QByteArray base = folder.path().toUtf8();
     const QString file = folder.path(u"print.log"_s);
 };
 
 } // namespace
 
-TEST_F(Log, ThresholdAndTypeComeFromTheConfiguration)
+TEST_F(Log, IsWhatTheConfigurationSays)
 {
     const QByteArray all =
         "DEBUG: Start Logger\nDEBUG: d\nINFO: i\nWARNING: w\nERROR: e\nFATAL: f\n: ?\n";
     const auto from = [&](const char *name) { return all.mid(all.indexOf(name)); };
+    const QByteArray print = "basedir = \"HERE\"; filename = \"print.log\"; ";
+    const QByteArray error = "Error in the method Logger::setType(";
     const std::tuple<QByteArray, QByteArray, QByteArray> cases[] = {
-        {"debug", "append", "old\n" + all},
-        {"", "APPEND", "old\n" + all},
-        {"loud", "Overwrite", all},
-        {{}, "overwrite", all},
-        {"info", "append", "old\n" + from("INFO")},
-        {"wArNiNg", "append", "old\n" + from("WARNING")},
-        {"ERROR", "oVERWRITE", from("ERROR")},
-        {"Fatal", "append", "old\n" + from("FATAL")},
-        {"debug", "replace", "old\n"},
-        {"debug", {}, "old\n"}};
-    for (const auto &[level, type, content] : cases) {
+        {print + "level = debug; type = append;", "", "old\n" + all},
+        {print + "level = \"\"; type = APPEND;", "", "old\n" + all},
+        {print + "level = loud; type = Overwrite;", "", all},
+        {print + "type = overwrite;", "", all},
+        {print + "level = info; type = append;", "", "old\n" + from("INFO")},
+        {print + "level = wArNiNg; type = append;", "", "old\n" + from("WARNING")},
+        {print + "level = ERROR; type = oVERWRITE;", "", from("ERROR")},
+        {print + "level = Fatal; type = append;", "", "old\n" + from("FATAL")},
+        {print + "type = replace;", "", "old\n"},
+        {print, "", "old\n"},
+        {"type = append; basedir = \"\"; filename = \"./HERE/print.log\";", "", "old\n" + all},
+        {"type = Append; basedir = \"HERE/missing\"; filename = x;", error + "Append)\n", "old\n"},
+        {"type = OVERwrite; basedir = \"HERE\";", error + "OVERwrite)\n", "old\n"}, // the folder
+        {"type = append;", error + "append)\n", "old\n"},                           // "/"
+        {"type = append; basedir = \"/dev\"; filename = full;", "", "old\n"}};
+    for (const auto &[settings, output, content] : cases) {
         support::writeFile(file, "old\n");
-        configure(level, base, "print.log", type);
+        configure(settings);
+        testing::internal::CaptureStdout();
         Logger logger(u"any"_s);
         logger.debug(u"d"_s);
         logger.info(u"i"_s);
@@ -84,101 +87,86 @@ TEST_F(Log, ThresholdAndTypeComeFromTheConfiguration)
         logger.fatal(u"f"_s);
         logger.write(Logger::Level(5), u"?"_s);
         logger.write(Logger::Level(-1), u"below every threshold"_s);
-        EXPECT_EQ(lines(file), content) << level.toStdString() << ' ' << type.toStdString();
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), output.toStdString());
+        EXPECT_EQ(lines(), content) << settings.toStdString();
     }
 }
 
 TEST_F(Log, OnlyAKnownTypeOpensTheFileAnew)
 {
-    configure("info", base, "print.log", "append");
+    configure();
     Logger logger({});
     logger.info(u"two\nlines, \u00e0 1\u20ac"_s);
     logger.setType(u"other"_s);
     logger.info(u"still open"_s);
-    EXPECT_EQ(lines(file), "INFO: two\nlines, \u00e0 1\u20ac\nINFO: still open\n"_ba);
+    EXPECT_EQ(lines(), "INFO: two\nlines, \u00e0 1\u20ac\nINFO: still open\n"_ba);
     logger.setType(u"overwrite"_s);
     logger.setLevel(u"warning"_s);
     logger.info(u"dropped"_s);
-    logger.fatal(u"anew"_s);
-    EXPECT_EQ(lines(file), "FATAL: anew\n");
-}
 
-TEST_F(Log, AFileThatDoesNotOpenIsToldOnce)
-{
-    const std::tuple<QByteArray, QByteArray, QByteArray, QByteArray> cases[] = {
-        {base + "/missing", "x", "Append", "Error in the method Logger::setType(Append)\n"},
-        {base, "", "OVERwrite", "Error in the method Logger::setType(OVERwrite)\n"}, // the folder
-        {{}, {}, "append", "Error in the method Logger::setType(append)\n"},
-        {base + "/missing", "x", "replace", ""},
-        {"", base.mid(1) + "/print.log", "append", ""}, // under "/"
-        {base + "/", "/double.log", "append", ""}};
-    for (const auto &[basedir, filename, type, output] : cases) {
-        configure("debug", basedir, filename, type);
-        testing::internal::CaptureStdout();
-        Logger({}).fatal(u"lost, or not"_s);
-        EXPECT_EQ(testing::internal::GetCapturedStdout(), output.toStdString());
-    }
-    for (const QString &name : {u"print.log"_s, u"double.log"_s})
-        EXPECT_EQ(lines(folder.path(name)), "DEBUG: Start Logger\nFATAL: lost, or not\n");
+    const QDateTime before = QDateTime::currentDateTimeUtc();
+    logger.fatal(u"anew"_s);
+    EXPECT_EQ(lines(), "FATAL: anew\n");
+    auto stamp = QDateTime::fromString(QString::fromLatin1(support::readFile(file).mid(1, 23)),
+                                       u"MM-dd-yyyy hh:mm:ss:zzz"_s);
+    stamp.setTimeSpec(Qt::UTC);
+    EXPECT_GE(stamp, before.addSecs(19'800));
+    EXPECT_LE(stamp, QDateTime::currentDateTimeUtc().addSecs(19'800));
+    logger.setLevel(u"loud"_s);
+    logger.debug(u"everything"_s);
+    EXPECT_EQ(lines(), "FATAL: anew\nDEBUG: everything\n");
 }
 
 TEST_F(Log, AFullDiskLosesLinesAndNothingElse)
 {
-    configure("info", base, "print.log", "overwrite");
+    configure();
     Logger logger({});
-    logger.info(u"before"_s);
+    std::signal(SIGXFSZ, SIG_IGN);
     rlimit limit = {};
     getrlimit(RLIMIT_FSIZE, &limit);
-    const auto onSize = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit full = {40, limit.rlim_max};
     setrlimit(RLIMIT_FSIZE, &full);
     for (int i = 0; i < 1000; ++i)
         logger.error(QString(100, u'x'));
     setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, onSize);
     logger.info(u"after"_s);
-    const QByteArray written = lines(file);
-    EXPECT_TRUE(written.startsWith("INFO: before\n"));
-    EXPECT_TRUE(written.endsWith("\nINFO: after\n"));
-    EXPECT_LT(written.size(), 20'000);
+    EXPECT_TRUE(lines().endsWith("\nINFO: after\n"));
+    EXPECT_LT(lines().size(), 20'000);
 }
 
 TEST_F(Log, TheManagerKeepsLoggersByKey)
 {
     HLogManager manager;
-    EXPECT_EQ(manager.getLog({}), nullptr);
-    EXPECT_EQ(manager.getLog(u"default"_s), nullptr);
-    EXPECT_EQ(manager.getLog(u"sales"_s), nullptr);
-    configure("info", base, "print.log", "append");
-    manager.set(u"first"_s, {});
-    manager.set(u"sales"_s, u"sales"_s);
-    Logger *const first = manager.getLog(u"default"_s);
-    EXPECT_EQ(manager.getLog({}), first);
-    manager.set(u"second"_s, u"default"_s);
-    EXPECT_NE(manager.getLog({}), first);
-
-    first->info(u"replaced"_s); // each has the file open for itself
+    for (const QString &key : {u""_s, u"default"_s, u"sales"_s})
+        EXPECT_EQ(manager.getLog(key), nullptr);
+    configure();
+    manager.set({}, {});
+    manager.set({}, u"sales"_s);
+    Logger *const replaced = manager.getLog(u"default"_s);
+    EXPECT_NE(manager.getLog(u"sales"_s), replaced);
+    manager.set({}, u"default"_s);
+    replaced->info(u"replaced"_s); // each has the file open for itself
     manager.getLog(u"sales"_s)->info(u"sales"_s);
-    manager.getLog({})->info(u"second"_s);
-    EXPECT_EQ(lines(file), "INFO: replaced\nINFO: sales\nINFO: second\n");
+    manager.getLog({})->info(u"default"_s);
+    EXPECT_EQ(lines(), "INFO: replaced\nINFO: sales\nINFO: default\n");
+    EXPECT_NE(manager.getLog({}), replaced);
 }
 
-TEST(Singleton, ThreadsShareTheOneThatIsCreated)
+TEST(Singleton, IsCreatedOnceForAllThreadsAndGoneAtExit)
 {
     static std::atomic<int> created = 0;
     struct Probe
     {
-        Probe() { value = ++created; }
-        int value;
+        Probe() { QThread::msleep(20); } // the others come meanwhile
+        ~Probe() { std::fputs("gone\n", stderr); }
+        const int number = ++created;
     };
-    std::array<Probe *, 8> seen = {};
     {
-        std::vector<std::jthread> threads;
-        threads.reserve(seen.size());
-        for (Probe *&probe : seen)
-            threads.emplace_back([&probe] { probe = SyncSingleton<Probe>::instance(); });
+        std::jthread threads[8];
+        for (std::jthread &thread : threads)
+            thread = std::jthread([] { EXPECT_TRUE(SyncSingleton<Probe>::instance()); });
     }
-    for (const Probe *const probe : seen)
-        EXPECT_EQ(probe->value, 1);
+    EXPECT_EQ(SyncSingleton<Probe>::instance()->number, 1);
     EXPECT_EQ(created, 1);
+    EXPECT_EXIT(std::exit(0), testing::ExitedWithCode(0), "^gone\n$");
 }

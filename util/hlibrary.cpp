@@ -105,7 +105,13 @@ QString HLibrary::getNewRand()
 
 int HLibrary::comboBoxIndexOf(QComboBox *box, const QString &text)
 {
-    return box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    // The toolkit's own search compares values, not texts: a number equals several texts, and a
+    // separator none.
+    for (int index = 0; index < box->count(); ++index) {
+        if (box->itemText(index) == text)
+            return index;
+    }
+    return -1;
 }
 
 void HLibrary::hsleep(unsigned seconds)

@@ -37,8 +37,8 @@ public:
     /// `linesPerSheet` not 0 the first sheet takes one line more than that, and every later sheet
     /// that many; after each the user is asked for paper.
     ///
-    /// Asking is a message box in a program with windows; elsewhere it is a line on standard
-    /// output, and a wait for Enter if standard input is a terminal.
+    /// Asking is a message box in a program with windows; elsewhere, if standard input is a
+    /// terminal, a line on it and a wait for Enter; otherwise a line on standard output.
     ///
     /// Answers false when a file does not open, when reading or writing fails, and for a file on
     /// itself, which stays as it is.

@@ -78,6 +78,17 @@ void pauseFor(unsigned milliseconds)
         const SleepThread pause(milliseconds);
 }
 
+/// Shows a line to the person at standard input's terminal, also where standard output leads
+/// elsewhere.
+void showOnTerminal(const QByteArray &line)
+{
+    QFile terminal(u"/dev/tty"_s);
+    if (isatty(STDOUT_FILENO) == 0 && terminal.open(QIODevice::WriteOnly | QIODevice::ExistingOnly))
+        terminal.write(line + '\n');
+    else
+        text::printLine(line);
+}
+
 void waitForEnter()
 {
     std::clearerr(stdin); // an end of input typed at an earlier request
@@ -99,9 +110,13 @@ void HLibrary::askForSheet()
             QMetaObject::invokeMethod(application, ask, Qt::BlockingQueuedConnection);
         return;
     }
-    text::printLine(text::toLocale(caption + ": "_L1 + request));
-    if (isatty(STDIN_FILENO) != 0)
-        waitForEnter();
+    const QByteArray line = text::toLocale(caption + ": "_L1 + request);
+    if (isatty(STDIN_FILENO) == 0) {
+        text::printLine(line);
+        return;
+    }
+    showOnTerminal(line);
+    waitForEnter();
 }
 
 bool HLibrary::copy(const QString &src, const QString &dst, unsigned linesPerSheet,
