@@ -38,7 +38,8 @@ public:
     bool internalEntityDecl(const QString &, const QString &value) override
     {
         declared = true;
-        const bool holdsOthers = value.contains(u'%') || value.count(u'&') != value.count(QStringView(u"&#"));
+        const bool holdsOthers =
+            value.contains(u'%') || value.count(u'&') != value.count(QStringView(u"&#"));
         return value.size() <= MaxEntitySize && !holdsOthers;
     }
 
