@@ -45,7 +45,7 @@ QString nameInFolder(const QByteArray &bytes)
 
 QByteArray homeFolder()
 {
-    if (const QByteArray home = qgetenv("HOME"); !home.isEmpty())
+    if (QByteArray home = qgetenv("HOME"); !home.isEmpty())
         return home;
     const passwd *const user = getpwuid(getuid());
     return user && user->pw_dir ? QByteArray(user->pw_dir) : QByteArray("/");
