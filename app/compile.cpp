@@ -2,6 +2,7 @@
 #include "app/compile.h"
 
 #include "app/syncsingleton.h"
+#include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QLocale>
 #include <QTranslator>
 
 #include <csignal>
@@ -21,20 +21,6 @@ namespace {
 
 /// The toolkit warns on standard error, where the till expects nothing.
 void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
-
-void loadTranslation(QTranslator &translator, const ZTConfiguration &config)
-{
-    const QString base = config.getStrValue(u"zentaro.language.basedir"_s);
-    const QString file = config.getStrValue(u"zentaro.language.file"_s);
-    bool loaded = false; // a missing translation leaves the texts as they are
-    if (file == "/"_L1)
-        loaded = translator.load(text::nameOfFile(text::bytesOf(base)) + "/zentaro_"_L1
-                                     + QLocale::system().name(),
-                                 u"."_s);
-    else if (const QString name = base + file; !name.isEmpty())
-        loaded = translator.load(text::nameInFolder(text::bytesOf(name)));
-    Q_UNUSED(loaded)
-}
 
 void printRequest(const QString &requestName, const QString &printName)
 {
@@ -67,8 +53,10 @@ void compile(int argc, char **argv)
     const QString requestName = text::nameOfFile(argv[1]);
     const QString printName = text::nameOfNewFile(argv[2]);
     const QCoreApplication application(argc, argv);
-    QTranslator translator;
-    loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
+    const ZTConfiguration *const config = SyncSingleton<ZTConfiguration>::instance();
+    QTranslator translator; // without a translation the texts stay as they are
+    loadTranslation(translator, config->getStrValue(u"zentaro.language.basedir"_s),
+                    config->getStrValue(u"zentaro.language.file"_s));
     QCoreApplication::installTranslator(&translator);
     printRequest(requestName, printName);
 }

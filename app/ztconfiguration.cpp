@@ -16,7 +16,17 @@ QString inLatin1(const QString &text)
 
 ZTConfiguration::ZTConfiguration()
 {
-    readFile(text::nameInFolder(text::homeFolder() + "/.zentaro/conf/zentaro.conf"), u"cfg"_s);
+    readFile(userFile(), u"cfg"_s);
+}
+
+ZTConfiguration::ZTConfiguration(const QString &fileName, const QString &fileType)
+    : Config(fileName, fileType)
+{
+}
+
+QString ZTConfiguration::userFile()
+{
+    return text::nameInFolder(text::homeFolder() + "/.zentaro/conf/zentaro.conf");
 }
 
 QString ZTConfiguration::getStrValue(const QString &key) const

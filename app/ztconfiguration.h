@@ -10,8 +10,16 @@ class ZTConfiguration : public libconfig::Config
 public:
     /// Reads the user's file. A missing one leaves every setting empty.
     ZTConfiguration();
+    /// Another file in the user's place, in the format "cfg" or "xml".
+    ZTConfiguration(const QString &fileName, const QString &fileType);
+
+    /// The path of the user's own file.
+    static QString userFile();
 
     /// The setting of a dotted key, in ISO 8859-1: a character of the key or the value outside that
     /// set becomes `?`. Answers an empty, non-null text for a key that the file does not have.
     QString getStrValue(const QString &key) const;
+
+    /// As the store's; who calls it links zentaro_config_views.
+    QTreeWidget *newConfigListView() { return Config::newConfigListView(); }
 };

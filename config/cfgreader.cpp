@@ -1,38 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
+#include "config/cfgscanner.h"
 #include "text/standardoutput.h"
 
 #include <QFile>
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace libconfig {
 namespace {
-
-/// A name or a value as it is kept: up to the first NUL, without the white space at its ends. The
-/// white space is that of ISO 8859-1; the toolkit's own trimming would also take other characters.
-QString trimmed(std::string_view text)
-{
-    constexpr std::string_view whiteSpace = " \t\n\v\f\r\xA0";
-    text = text.substr(0, text.find('\0'));
-    const size_t first = text.find_first_not_of(whiteSpace);
-    if (first == text.npos)
-        return QLatin1String("");
-    const size_t end = text.find_last_not_of(whiteSpace) + 1;
-    return QString::fromLatin1(QByteArrayView(text.substr(first, end - first)));
-}
-
-/// An element of any name: the toolkit creates none without a name, but holds one. A new document
-/// comes to life with its first element, and is a null node before.
-QDomElement newElement(QDomDocument &document, const QString &name)
-{
-    QDomElement element = document.createElement(QStringLiteral("group"));
-    element.setTagName(name);
-    return element;
-}
 
 /// A group whose body is being read. It joins the tree when the body ends, if it has a member: the
 /// toolkit walks up to the root of the tree for every node that joins it.
@@ -76,11 +53,7 @@ void Config::closeFile()
 
 bool Config::jump(char c)
 {
-    for (char read; stream.get(read);) {
-        if (read == c)
-            return true;
-    }
-    return false;
+    return CfgScanner::skipPast(stream, c);
 }
 
 void Config::loadFile()
@@ -112,42 +85,39 @@ bool Config::loadBody(const QDomElement &element, QDomNode &parent)
         if (group.hasMember)
             (open.empty() ? parent : open.back().element).appendChild(group.element);
     };
-    std::string text; // read since the last structural character
-    for (char read; stream.get(read);) {
-        switch (read) {
-        case ':':
-            open.back().hasMember = true; // also where the nested group turns out empty
-            jump('{');
-            open.push_back({newElement(*document, trimmed(text))});
-            break;
-        case '=':
-            open.back().hasMember = true;
-            open.back().element.setAttribute(trimmed(text), readValue());
-            break;
-        case '}':
-            jump(';');
+    using Statement = CfgScanner::Statement;
+    CfgScanner scanner(stream);
+    for (Statement read = scanner.next(); read != Statement::EndOfFile; read = scanner.next()) {
+        if (read == Statement::GroupEnd) {
             closeGroup();
             if (open.empty())
                 return true;
-            break;
-        default:
-            text += read;
             continue;
         }
-        text.clear();
+        open.back().hasMember = true; // also where the nested group turns out empty
+        if (read == Statement::GroupBegin)
+            open.push_back({newElement(*document, scanner.name())});
+        else
+            addSetting(open.back().element, scanner.name(), scanner.value());
     }
     while (!open.empty())
         closeGroup();
     return false;
 }
 
-/// A value: all up to the next `;`, which is consumed, or the end of the file; without its double
-/// quotes, wherever they stand.
-QString Config::readValue()
+/// An element of any name: the toolkit creates none without a name, but holds one. A new document
+/// comes to life with its first element, and is a null node before.
+QDomElement Config::newElement(QDomDocument &document, const QString &name)
 {
-    std::string text;
-    std::getline(stream, text, ';');
-    return trimmed(text).remove(u'"');
+    QDomElement element = document.createElement(QStringLiteral("group"));
+    element.setTagName(name);
+    return element;
+}
+
+void Config::addSetting(QDomElement &element, const QString &name, const QString &value)
+{
+    element.setAttribute(name, value);
+    attributeOrder.append(element, name);
 }
 
 } // namespace libconfig

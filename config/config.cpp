@@ -88,6 +88,7 @@ void Config::deleteDocument()
     }
     delete document;
     document = nullptr;
+    attributeOrder.clear();
 }
 
 QString Config::lookup(QString const &key) const

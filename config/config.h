@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "config/attributeorder.h"
+
 #include <QDomDocument>
 #include <QString>
+#include <QTextStream>
 
 #include <fstream>
+#include <functional>
+
+class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace libconfig {
 
@@ -59,6 +66,55 @@ public:
     /// The same below `node`, whose tag name the first field must be.
     QString lookup(QDomNode node, QString const &key) const;
 
+    /// Visits every setting under its dotted name, in file order, the top-level groups after the
+    /// first and the settings outside any group included.
+    void forEachSetting(
+        const std::function<void(const QString &key, const QString &value)> &visit) const;
+
+    // The writers. An empty name means `fileName`. A file is replaced when the new one is complete,
+    // or stays as it was: what cannot be written is told in one line on standard output and answers
+    // false. An empty tree writes an empty file. Settings stand in file order.
+
+    /// Writes the "cfg" form in ISO 8859-1; a character that it lacks becomes `?`. Of the top-level
+    /// groups only the first is written.
+    bool buildConfigFile(QString name);
+    /// Writes one group and everything below it, in the encoding of the text stream.
+    void buildConfigFile(QDomNode node, QTextStream &ts);
+    /// Writes the XML form in UTF-8, the first top-level group only. Nothing is escaped, and
+    /// settings outside any group go before it in the "cfg" syntax.
+    bool buildConfigXmlFile(QString name);
+    /// Writes one group and everything below it, in the encoding of the text stream.
+    void buildConfigXmlFile(QDomNode node, QTextStream &ts);
+    /// Prints "Tree " and every group and setting on standard output, in ISO 8859-1.
+    void printConfigTree() const;
+    /// Prints one group and everything below it.
+    void printConfigTree(QDomNode node) const;
+    /// What printConfigTree(node) prints.
+    QString configTreeText(QDomNode node) const;
+    /// What printConfigTree() prints.
+    QString configTreeText() const;
+
+    // The tree views; who calls these links zentaro_config_views.
+
+    /// A new view of the tree in the one column "ConfigurationFile", owned by the caller: an item
+    /// per group, beginning with the file's, and in it an item `key = value` per setting before
+    /// those of the nested groups. Without a tree it has no items.
+    QTreeWidget *buildConfigListView();
+    /// As buildConfigListView().
+    QTreeWidget *newConfigListView();
+    /// Adds the items of `node` and everything below it to the view, or to an item.
+    void buildConfigListView(QDomNode node, QTreeWidget *view);
+    void buildConfigListView(QDomNode node, QTreeWidgetItem *item);
+    /// Rebuilds the tree from the view and saves it under `fileName` in its own format; answers
+    /// whether it was saved. A null view changes nothing. Items of the view's own making stay what
+    /// they are, groups or settings; of others, those with children are groups and so are those
+    /// without a `=` in their text. Of two settings of one name in a group the later counts.
+    bool loadListView(QTreeWidget *view);
+    /// Adds what `item` is, a group with everything below it or a setting, to `parent`. A document
+    /// takes groups only.
+    void loadListView(QTreeWidgetItem *item, QDomDocument *parent);
+    void loadListView(QTreeWidgetItem *item, QDomNode parent);
+
 protected:
     QString fileName;                 ///< as given
     QString fileType;                 ///< the format word as given
@@ -66,10 +122,24 @@ protected:
     QDomDocument *document = nullptr; ///< the tree, owned; null until a file is read
 
 private:
+    using TreeWriter = void (Config::*)(QTextStream &);
+
     bool loadBody(const QDomElement &element, QDomNode &parent);
-    QString readValue();
+    static QDomElement newElement(QDomDocument &document, const QString &name);
+    void addSetting(QDomElement &element, const QString &name, const QString &value);
+    void addSettingOf(const QTreeWidgetItem &item, QDomElement &group);
+    void noteAttributeOrder(const QByteArray &content);
     void newDocument();
     void deleteDocument();
+
+    bool replaceFile(QString path, const char *operation, QStringConverter::Encoding encoding,
+                     TreeWriter writeTree);
+    void writeCfgTree(QTextStream &ts);
+    void writeXmlTree(QTextStream &ts);
+    void writeFileSettings(QTextStream &ts);
+    void writeCfgSettings(const QDomElement &group, const QString &indentation, QTextStream &ts);
+
+    AttributeOrder attributeOrder; ///< of `document`
 };
 
 } // namespace libconfig

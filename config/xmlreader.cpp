@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
+#include "config/elementwalk.h"
+
 #include <QFile>
+#include <QXmlStreamReader>
 
 namespace libconfig {
 
@@ -12,16 +15,39 @@ void Config::loadXmlFile()
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    if (!document->setContent(&file, false)) {
+    const QByteArray content = file.readAll();
+    if (!document->setContent(content, false)) {
         newDocument(); // without what was read before the fault
         return;
     }
     // The root element moves under a file element, the shape of a "cfg" tree. A declaration or a
     // comment before it stays where it is.
-    QDomElement fileElement = document->createElement(QStringLiteral("file"));
-    fileElement.setTagName(fileName);
+    QDomElement fileElement = newElement(*document, fileName);
     fileElement.appendChild(document->documentElement());
     document->appendChild(fileElement);
+    noteAttributeOrder(content);
+}
+
+/// Reads a second time for the order of the attributes, which the tree does not keep. The elements
+/// of the tree stand in the order of their start tags.
+void Config::noteAttributeOrder(const QByteArray &content)
+{
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    const auto nextStartTag = [&reader] {
+        while (!reader.atEnd() && reader.readNext() != QXmlStreamReader::StartElement) {
+        }
+    };
+    const QDomNode root = document->firstChildElement().firstChild();
+    walkElements(
+        root,
+        [&](const QDomElement &element) {
+            nextStartTag();
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                attributeOrder.append(element, attribute.qualifiedName().toString());
+            return true;
+        },
+        [](const QDomElement &) {});
 }
 
 } // namespace libconfig

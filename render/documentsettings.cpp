@@ -7,6 +7,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::array<DocumentType, 8> types = {{
+    {"order"_L1, "zentaro.doc."_L1},
+    {"prefiscal"_L1, "zentaro.prefiscaldoc."_L1},
+    {"fiscal"_L1, "zentaro.fiscaldoc."_L1},
+    {"receipt"_L1, "zentaro.receiptdoc."_L1},
+    {"invoice"_L1, "zentaro.invoicedoc."_L1},
+    {"delivery"_L1, "zentaro.deliverydoc."_L1},
+    {"report"_L1, "zentaro.reportdoc."_L1},
+    {"sold"_L1, "zentaro.solddoc."_L1},
+}};
+
 using S = DocumentSettings;
 
 constexpr std::array numbers = {
@@ -38,6 +49,11 @@ constexpr std::array switches = {
 };
 
 } // namespace
+
+std::span<const DocumentType> documentTypes()
+{
+    return types;
+}
 
 std::span<const SettingKey<int>> numberSettings()
 {

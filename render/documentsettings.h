@@ -43,6 +43,16 @@ struct SettingKey
     T DocumentSettings::*member;
 };
 
+/// A type of document, as the method table names it, and the prefix of its configuration keys.
+struct DocumentType
+{
+    QLatin1StringView name;
+    QLatin1StringView keyPrefix;
+};
+
+/// The eight types.
+std::span<const DocumentType> documentTypes();
+
 /// The whole numbers, in the order in which they are read.
 std::span<const SettingKey<int>> numberSettings();
 

@@ -11,30 +11,8 @@
 #include "text/standardoutput.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct KeyPrefix
-{
-    QLatin1StringView type;
-    QLatin1StringView prefix;
-};
-
-constexpr std::array<KeyPrefix, 8> keyPrefixes = {{
-    {"order"_L1, "zentaro.doc."_L1},
-    {"prefiscal"_L1, "zentaro.prefiscaldoc."_L1},
-    {"fiscal"_L1, "zentaro.fiscaldoc."_L1},
-    {"receipt"_L1, "zentaro.receiptdoc."_L1},
-    {"invoice"_L1, "zentaro.invoicedoc."_L1},
-    {"delivery"_L1, "zentaro.deliverydoc."_L1},
-    {"report"_L1, "zentaro.reportdoc."_L1},
-    {"sold"_L1, "zentaro.solddoc."_L1},
-}};
-
-} // namespace
 
 PrinterDriver::PrinterDriver(const QString &fileName, bool append)
     : config(SyncSingleton<ZTConfiguration>::instance())
@@ -125,10 +103,10 @@ bool PrinterDriver::oneTime()
 QString PrinterDriver::documentPath(const QString &type)
 {
     const QString lowered = type.toLower();
-    const auto *const found = std::ranges::find_if(
-        keyPrefixes, [&lowered](const KeyPrefix &row) { return row.type == lowered; });
-    if (found != keyPrefixes.end())
-        return found->prefix;
+    const std::span<const DocumentType> types = documentTypes();
+    const auto found = std::ranges::find(types, lowered, &DocumentType::name);
+    if (found != types.end())
+        return found->keyPrefix;
     text::printLine("Error into PrinterDriver::documentPath:  " + text::toLocale(lowered));
     return u"zentaro.prefiscaldoc."_s;
 }

@@ -76,6 +76,11 @@ Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringLi
     return run(zentaroPrintProgram(), words, home, variables);
 }
 
+Outcome zentaro(const QStringList &words, const Home &home, const QStringList &variables)
+{
+    return run(QStringLiteral(ZENTARO_PROGRAM), words, home, variables);
+}
+
 QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables)
 {
     const Folder folder;

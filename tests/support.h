@@ -59,6 +59,9 @@ QString zentaroPrintProgram();
 /// Runs the print compiler.
 Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables = {});
 
+/// Runs the companion program.
+Outcome zentaro(const QStringList &words, const Home &home, const QStringList &variables = {});
+
 /// The print file of a request, printed by the real program; fails the test when the program says
 /// anything or its exit status is not 0.
 QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables = {});

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "config/configviews.h"
+
+#include "config/config.h"
+#include "config/elementwalk.h"
+
+#include <QTreeWidget>
+
+#include <utility>
+#include <vector>
+
+namespace libconfig {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Deletes an item that stands in no view, leaf by leaf: the toolkit deletes nested items by
+/// recursion.
+void takeApart(QTreeWidgetItem *item)
+{
+    while (item) {
+        QTreeWidgetItem *const parent = item->parent();
+        if (const int children = item->childCount()) {
+            item = item->child(children - 1);
+        } else {
+            delete (parent ? parent->takeChild(parent->childCount() - 1) : item);
+            item = parent;
+        }
+    }
+}
+
+class ConfigListView : public QTreeWidget
+{
+public:
+    ConfigListView()
+    {
+        setColumnCount(1);
+        setHeaderLabel(u"ConfigurationFile"_s);
+    }
+    ConfigListView(const ConfigListView &) = delete;
+    ConfigListView &operator=(const ConfigListView &) = delete;
+    ~ConfigListView() override
+    {
+        while (topLevelItemCount() > 0)
+            takeApart(takeTopLevelItem(topLevelItemCount() - 1));
+    }
+};
+
+/// A group's item that is being turned into an element.
+struct OpenItem
+{
+    QTreeWidgetItem *item;
+    QDomElement element;
+    int next = 0; ///< of the item's children
+};
+
+QTreeWidgetItem *newItem(ItemType type, const QString &text)
+{
+    auto *const item = new QTreeWidgetItem({text}, type);
+    item->setFlags(item->flags() | Qt::ItemIsEditable);
+    return item;
+}
+
+} // namespace
+
+bool isGroupItem(const QTreeWidgetItem &item)
+{
+    if (item.type() == GroupItem || item.type() == SettingItem)
+        return item.type() == GroupItem;
+    return item.childCount() > 0 || !item.text(0).contains(u'=');
+}
+
+QString settingText(const QString &key, const QString &value)
+{
+    return key + " = "_L1 + value;
+}
+
+std::pair<QString, QString> settingOf(const QString &text)
+{
+    const qsizetype equals = text.indexOf(u'=');
+    QString key = equals < 0 ? text : text.first(equals);
+    QString value = equals < 0 ? QString() : text.sliced(equals + 1);
+    while (key.startsWith(u' '))
+        key.remove(0, 1);
+    while (key.endsWith(u' '))
+        key.chop(1);
+    if (value.startsWith(u' '))
+        value.remove(0, 1);
+    return {key, value};
+}
+
+QTreeWidgetItem *newGroupItem(const QString &name)
+{
+    return newItem(GroupItem, name);
+}
+
+QTreeWidgetItem *newSettingItem(const QString &key, const QString &value)
+{
+    return newItem(SettingItem, settingText(key, value));
+}
+
+QTreeWidget *Config::newConfigListView()
+{
+    return buildConfigListView();
+}
+
+QTreeWidget *Config::buildConfigListView()
+{
+    auto *const view = new ConfigListView;
+    buildConfigListView(document ? document->firstChildElement() : QDomElement(), view);
+    return view;
+}
+
+void Config::buildConfigListView(QDomNode node, QTreeWidget *view)
+{
+    if (!view)
+        return;
+    const bool isFile = node.parentNode().isDocument();
+    const int present = view->topLevelItemCount();
+    buildConfigListView(std::move(node), view->invisibleRootItem());
+    // The file's item bears its path, which is not edited here.
+    QTreeWidgetItem *const added = view->topLevelItem(present);
+    if (added && isFile)
+        added->setFlags(added->flags() & ~Qt::ItemIsEditable);
+}
+
+void Config::buildConfigListView(QDomNode node, QTreeWidgetItem *item)
+{
+    if (!item)
+        return;
+    QTreeWidgetItem *open = nullptr; // outside the view until all of it is there
+    walkElements(
+        std::move(node),
+        [&](const QDomElement &group) {
+            QTreeWidgetItem *const shown = newGroupItem(group.tagName());
+            for (const auto &[key, value] : attributeOrder.attributesOf(group))
+                shown->addChild(newSettingItem(key, value));
+            if (open)
+                open->addChild(shown);
+            open = shown;
+            return true;
+        },
+        [&](const QDomElement &) {
+            if (open->parent())
+                open = open->parent();
+            else
+                item->addChild(open);
+        });
+}
+
+bool Config::loadListView(QTreeWidget *view)
+{
+    if (!view)
+        return false;
+    newDocument();
+    for (int i = 0; i < view->topLevelItemCount(); ++i)
+        loadListView(view->topLevelItem(i), document);
+    if (fileType == "cfg"_L1)
+        return buildConfigFile({});
+    return fileType == "xml"_L1 && buildConfigXmlFile({});
+}
+
+void Config::loadListView(QTreeWidgetItem *item, QDomDocument *parent)
+{
+    if (!parent)
+        return;
+    parent->createDocumentFragment(); // a new document is a null node until it creates something
+    loadListView(item, QDomNode(*parent));
+}
+
+void Config::loadListView(QTreeWidgetItem *item, QDomNode parent)
+{
+    if (!item || parent.isNull())
+        return;
+    if (!isGroupItem(*item)) {
+        if (QDomElement group = parent.toElement(); !group.isNull())
+            addSettingOf(*item, group);
+        return;
+    }
+    // A group joins the tree when it is complete: the toolkit walks up to the root of the tree for
+    // every node and attribute that joins it.
+    QDomDocument owner = parent.ownerDocument();
+    std::vector<OpenItem> open{{item, newElement(owner, item->text(0))}};
+    while (!open.empty()) {
+        OpenItem &group = open.back();
+        if (group.next == group.item->childCount()) {
+            const QDomElement complete = group.element;
+            open.pop_back();
+            (open.empty() ? parent : open.back().element).appendChild(complete);
+            continue;
+        }
+        QTreeWidgetItem *const child = group.item->child(group.next++);
+        if (isGroupItem(*child))
+            open.push_back({child, newElement(owner, child->text(0))});
+        else
+            addSettingOf(*child, group.element);
+    }
+}
+
+void Config::addSettingOf(const QTreeWidgetItem &item, QDomElement &group)
+{
+    const auto [key, value] = settingOf(item.text(0));
+    addSetting(group, key, value);
+}
+
+} // namespace libconfig

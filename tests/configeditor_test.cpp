@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+#include "tests/guienvironment.h"
+#include "tests/support.h"
+#include "tools/config/configeditor.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using configtool::ConfigEditor;
+
+namespace {
+
+const auto *const environment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
+
+/// An editor on a file, whose questions are answered here.
+class Editor : public testing::Test
+{
+protected:
+    Editor()
+    {
+        editor.setAsk([this](const QString &text, const QString &details, auto) {
+            asked.append(text + u'\n' + details);
+            return answer;
+        });
+    }
+
+    void open(const QByteArray &text, const QString &format = u"cfg"_s)
+    {
+        support::writeFile(path, text);
+        ASSERT_TRUE(editor.open({path, format}));
+        editor.show();
+        editor.activateWindow();
+    }
+
+    QByteArray saved()
+    {
+        EXPECT_TRUE(editor.save());
+        return support::readFile(path);
+    }
+
+    QTreeWidgetItem *item(const QString &text)
+    {
+        const auto found = tree()->findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+        return found.isEmpty() ? nullptr : found.first();
+    }
+
+    QTreeWidget *tree() { return editor.treeView(); }
+
+    /// Edits an item in place and types over what is selected in it.
+    void type(const QString &text, Qt::Key last = Qt::Key_Return)
+    {
+        auto *const line = tree()->findChild<QLineEdit *>();
+        ASSERT_TRUE(line);
+        QCoreApplication::processEvents(); // the value is selected then
+        QTest::keyClicks(line, text);
+        QTest::keyClick(line, last);
+        settle();
+    }
+
+    /// Lets an item's line close.
+    static void settle()
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void change(QTreeWidgetItem *changed, const QString &text, Qt::Key last = Qt::Key_Return)
+    {
+        tree()->setCurrentItem(changed);
+        tree()->editItem(changed);
+        type(text, last);
+    }
+
+    QStringList findings()
+    {
+        editor.listFindings();
+        QStringList texts;
+        for (int i = 0; i < editor.findingsView()->count(); ++i)
+            texts.append(editor.findingsView()->item(i)->text());
+        return texts;
+    }
+
+    const support::Folder folder;
+    const QString path = folder.path(u"conf/zentaro.conf"_s);
+    QStringList asked;
+    QMessageBox::StandardButton answer = QMessageBox::Save;
+    ConfigEditor editor;
+};
+
+const QByteArray small = "zentaro: \n{\n    doc: \n    {\n        paperWidth = \"40\";\n"
+                         "        printDate = \"true\";\n    };\n\n};\n\n";
+
+TEST_F(Editor, ChangesAddsRemovesUndoesAndSaves)
+{
+    open(small);
+    EXPECT_EQ(saved(), small);
+    change(item(u"paperWidth = 40"_s), u"32"_s);
+    EXPECT_TRUE(editor.isWindowModified());
+    tree()->setCurrentItem(item(u"printDate = true"_s));
+    editor.toggleSwitch();
+    editor.addSetting();
+    type(u"topMargin = 2"_s);
+    tree()->setCurrentItem(item(u"zentaro"_s));
+    editor.addGroup();
+    type(u"db"_s);
+    editor.addSetting();
+    type(u"dbname=till"_s);
+    const QByteArray all = saved();
+    EXPECT_EQ(all, "zentaro: \n{\n    doc: \n    {\n        paperWidth = \"32\";\n"
+                   "        printDate = \"false\";\n        topMargin = \"2\";\n    };\n\n"
+                   "    db: \n    {\n        dbname = \"till\";\n    };\n\n};\n\n");
+    EXPECT_FALSE(editor.isWindowModified());
+
+    tree()->clearSelection();
+    tree()->setCurrentItem(item(u"doc"_s));
+    item(u"topMargin = 2"_s)->setSelected(true); // goes with its group
+    item(u"dbname=till"_s)->setSelected(true);
+    editor.removeSelected();
+    EXPECT_EQ(item(u"zentaro"_s)->childCount(), 1);
+    editor.changes().undo();
+    EXPECT_EQ(saved(), all);
+    while (editor.changes().canUndo())
+        editor.changes().undo();
+    EXPECT_EQ(saved(), small);
+    while (editor.changes().canRedo())
+        editor.changes().redo();
+    EXPECT_EQ(item(u"db"_s)->childCount(), 0);
+    EXPECT_EQ(asked, QStringList());
+}
+
+TEST_F(Editor, ForgetsAnItemThatIsNotEntered)
+{
+    open(small);
+    tree()->setCurrentItem(item(u"doc"_s));
+    editor.addSetting();
+    type(u"nothing"_s, Qt::Key_Escape);
+    EXPECT_EQ(item(u"doc"_s)->childCount(), 2);
+    change(item(u"paperWidth = 40"_s), u"1"_s, Qt::Key_Escape);
+    EXPECT_FALSE(editor.isWindowModified());
+    tree()->setCurrentItem(tree()->topLevelItem(0));
+    editor.removeSelected(); // the file itself stays
+    editor.toggleSwitch();
+    EXPECT_EQ(tree()->topLevelItemCount(), 1);
+    EXPECT_FALSE(editor.isWindowModified());
+}
+
+TEST_F(Editor, KeepsLineEndsInAValueThatIsNotChanged)
+{
+    open("zentaro : { doc : { style = \"a\nb\"; }; };");
+    change(item(u"style = a\nb"_s), u""_s);
+    EXPECT_TRUE(item(u"style = a\nb"_s));
+}
+
+TEST_F(Editor, ListsFindingsAsOneTypes)
+{
+    open(small);
+    EXPECT_EQ(findings(), QStringList());
+    tree()->editItem(item(u"paperWidth = 40"_s));
+    auto *const line = tree()->findChild<QLineEdit *>();
+    ASSERT_TRUE(line);
+    QTest::keyClicks(line, u"x"_s);
+    EXPECT_EQ(findings().size(), 1); // nothing entered yet
+    QTest::keyClick(line, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(findings(), QStringList());
+
+    change(item(u"printDate = true"_s), u"a;b"_s);
+    const QStringList found = findings();
+    ASSERT_EQ(found.size(), 2);
+    EXPECT_TRUE(found[0].contains(u"neither"));
+    EXPECT_TRUE(found[1].startsWith(u"saving loses"));
+    tree()->setCurrentItem(tree()->topLevelItem(0));
+    editor.findingsView()->setCurrentRow(1);
+    EXPECT_EQ(tree()->currentItem()->text(0), u"printDate = a;b"_s);
+}
+
+TEST_F(Editor, ShowsWhatASearchFinds)
+{
+    open("zentaro : { doc : { printDate = true; paperWidth = 40; }; bin : { path = /date; }; };");
+    editor.searchField()->setText(u"DATE"_s);
+    EXPECT_FALSE(item(u"printDate = true"_s)->isHidden());
+    EXPECT_FALSE(item(u"doc"_s)->isHidden());
+    EXPECT_TRUE(item(u"paperWidth = 40"_s)->isHidden());
+    EXPECT_TRUE(item(u"bin"_s)->isHidden()); // the text is in a value
+    editor.searchField()->setText(u"bin"_s);
+    EXPECT_FALSE(item(u"path = /date"_s)->isHidden()); // its group is found
+    editor.searchField()->clear();
+    EXPECT_FALSE(item(u"paperWidth = 40"_s)->isHidden());
+}
+
+TEST_F(Editor, NamesWhatIsLostBeforeItReplacesAFile)
+{
+    const QByteArray file = "zentaro : { doc : { topMargin = 1; } ; };\nlater : { a = 1; };";
+    open(file);
+    answer = QMessageBox::Cancel;
+    EXPECT_FALSE(editor.save());
+    EXPECT_EQ(support::readFile(path), file);
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_TRUE(asked[0].contains(u"`later`"));
+    answer = QMessageBox::Save;
+    EXPECT_FALSE(saved().contains("later"));
+
+    support::writeFile(path, "another's");
+    asked.clear();
+    answer = QMessageBox::Cancel;
+    EXPECT_FALSE(editor.save());
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_TRUE(asked[0].contains(u"has changed since"));
+    EXPECT_EQ(support::readFile(path), "another's");
+
+    open("zentaro : { doc : { topMargin = 1; }; # a note\n bin : { path = x; }; };");
+    asked.clear();
+    EXPECT_FALSE(editor.save());
+    ASSERT_EQ(asked.size(), 1); // the note goes with its line end into a name
+    EXPECT_TRUE(asked[0].contains(u"# a note"));
+}
+
+TEST_F(Editor, AsksBeforeChangesAreLost)
+{
+    open(small);
+    EXPECT_TRUE(editor.close());
+    editor.show();
+    change(item(u"paperWidth = 40"_s), u"32"_s);
+    answer = QMessageBox::Cancel;
+    EXPECT_FALSE(editor.close());
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_TRUE(asked[0].contains(u"not saved"));
+    answer = QMessageBox::Discard;
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(support::readFile(path), small);
+    editor.show();
+    answer = QMessageBox::Save;
+    EXPECT_TRUE(editor.close());
+    EXPECT_TRUE(support::readFile(path).contains("\"32\""));
+}
+
+TEST_F(Editor, StartsAFileThatIsNotThere)
+{
+    ASSERT_TRUE(editor.open({path, u"cfg"_s}));
+    editor.show();
+    EXPECT_EQ(findings().size(), 1);
+    editor.addGroup();
+    type(u"zentaro"_s);
+    editor.addSetting();
+    type(u"a = 1"_s);
+    EXPECT_EQ(saved(), "zentaro: \n{\n    a = \"1\";\n};\n\n");
+    EXPECT_FALSE(editor.open({folder.path(), u"cfg"_s}));
+    EXPECT_EQ(asked.size(), 1);
+    EXPECT_EQ(tree()->topLevelItem(0)->text(0), path); // what was open stays
+    open(QByteArray("<a k='1'/>"), u"xml"_s);
+    EXPECT_EQ(saved(), "\n<a\n    k = \"1\">\n</a>\n");
+    support::writeFile(path, QByteArray("g:{").repeated(100'000) + "k=1;");
+    EXPECT_FALSE(editor.open({path, u"cfg"_s}));
+}
+
+TEST_F(Editor, HasKeysOfItsOwn)
+{
+    open(small);
+    QStringList shortcuts;
+    for (const QAction *const action : editor.findChildren<QAction *>()) {
+        if (!action->shortcut().isEmpty())
+            shortcuts.append(action->shortcut().toString());
+    }
+    EXPECT_EQ(shortcuts.removeDuplicates(), 0) << "of two actions with one shortcut none works";
+    EXPECT_GE(shortcuts.size(), 10);
+}
+
+} // namespace

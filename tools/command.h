@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCommandLineParser>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <span>
+
+/// What the companion program and its sub-commands share: tables of commands, the common options
+/// and the exit statuses.
+namespace tools {
+
+enum ExitStatus : int {
+    Fine = 0,
+    Findings = 1, ///< what was asked for ran, and found something to tell
+    Trouble = 2,  ///< wrong usage, or a file that cannot be read or written
+};
+
+/// One call of a command.
+struct Call
+{
+    QString command;   ///< the words that led here, as "zentaro config get"
+    QStringList words; ///< those that follow
+    int &argc;         ///< the process's own, for a command that needs an application object
+    char **argv;
+};
+
+/// A row of a table of commands.
+struct Command
+{
+    QLatin1StringView name;
+    QLatin1StringView summary; ///< half a sentence for the help
+    int (*run)(const Call &call);
+};
+
+/// A command whose first argument names another.
+struct CommandGroup
+{
+    QString description;
+    std::span<const Command> commands;
+    QList<QCommandLineOption> common; ///< options of all of them, which may stand before the name
+    QString version;                  ///< what `--version` prints; empty for no such option
+};
+
+/// Calls the command that the first argument names; `--help` lists the commands.
+int dispatch(const Call &call, const CommandGroup &group);
+
+/// The options and arguments of one command, with `--help` among them.
+class CommandLine
+{
+public:
+    CommandLine(const Call &call, const QString &description);
+
+    void addOption(const QCommandLineOption &option) { parser.addOption(option); }
+    /// `syntax` as the usage line shows it, as "KEY...".
+    void addArgument(const QString &name, const QString &description, const QString &syntax = {});
+    /// Leaves options that follow the first argument to whoever reads the arguments.
+    void stopAtFirstArgument();
+
+    /// Reads the words; false when they are wrong, which has been told.
+    bool parse();
+    /// Reads the words. Answers an exit status when nothing is left to do: help was asked for, or
+    /// the words are wrong, which has been told.
+    std::optional<int> read(int leastArguments, int mostArguments);
+    bool isSet(const QString &option) const { return parser.isSet(option); }
+    QString value(const QString &option) const { return parser.value(option); }
+    QStringList arguments() const { return parser.positionalArguments(); }
+
+    /// Tells a mistake in the words, and where help is; answers Trouble.
+    int wrongUsage(const QString &mistake) const;
+    QString helpText() const;
+
+private:
+    const Call &call;
+    QString usage;
+    QCommandLineParser parser;
+};
+
+} // namespace tools

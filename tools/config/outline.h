@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/finding.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+/// A configuration as a person sees it: every group and setting that the file names, also those
+/// that the store drops, with the place of each.
+namespace configtool {
+
+using tools::Finding;
+using tools::Place;
+using tools::Severity;
+
+struct Entry
+{
+    enum class Kind { Group, Setting };
+
+    Kind kind;
+    qsizetype parent;       ///< of the group that holds it; -1 for the file
+    QString name;           ///< as the store keeps it
+    QString value;          ///< of a setting, as the store keeps it
+    Place at;               ///< of the name
+    Place valueAt;          ///< of a setting's value
+    bool hasMember = false; ///< of a group: a setting, or a group even if empty
+    bool misread = false;   ///< the name swallowed other text, which has been told
+};
+
+struct Outline
+{
+    std::vector<Entry> entries;    ///< in file order; the first one is the file
+    std::vector<Finding> faults;   ///< where the file does not say what it seems to say
+    std::vector<Finding> losses;   ///< what the store does not keep and a written file will lack
+    bool keepsEmptyGroups = false; ///< the store keeps groups without members
+
+    /// The first top-level group that the store keeps, where every lookup begins; -1 for none.
+    qsizetype topGroup() const;
+    /// The dotted name of an entry; `…` stands for the outer groups of a deeply nested one.
+    QString pathOf(qsizetype entry) const;
+};
+
+/// Reads a file's content in the format "cfg" or "xml". What is not well-formed XML has no entries
+/// but the file.
+Outline readOutline(const QByteArray &content, const QString &format);
+
+} // namespace configtool

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "tools/config/source.h"
+
+#include "app/ztconfiguration.h"
+#include "tools/terminal.h"
+
+#include <QFile>
+
+namespace configtool {
+
+using namespace Qt::StringLiterals;
+
+QList<QCommandLineOption> sourceOptions()
+{
+    return {
+        {{u"f"_s, u"file"_s},
+         u"Works on FILE instead of ~/.zentaro/conf/zentaro.conf."_s,
+         u"FILE"_s},
+        {u"format"_s,
+         u"The format of the file, cfg or xml; xml for a name that ends in .xml, otherwise cfg, "
+         u"unless given."_s,
+         u"FORMAT"_s}};
+}
+
+void addSourceOptions(tools::CommandLine &line)
+{
+    for (const QCommandLineOption &option : sourceOptions())
+        line.addOption(option);
+}
+
+std::optional<Source> sourceOf(const tools::CommandLine &line)
+{
+    const QString path =
+        line.isSet(u"file"_s) ? line.value(u"file"_s) : ZTConfiguration::userFile();
+    const QString format = line.isSet(u"format"_s) ? line.value(u"format"_s) : formatOf(path);
+    if (format != "cfg"_L1 && format != "xml"_L1) {
+        line.wrongUsage("unknown format `"_L1 + format + "`, it is cfg or xml"_L1);
+        return std::nullopt;
+    }
+    return Source{path, format};
+}
+
+QString formatOf(const QString &path)
+{
+    return path.endsWith(".xml"_L1, Qt::CaseInsensitive) ? u"xml"_s : u"cfg"_s;
+}
+
+std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
+{
+    QFile file(source.path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        tools::printError(call.command + ": "_L1 + source.path + ": "_L1 + file.errorString()
+                          + u'\n');
+        return std::nullopt;
+    }
+    return file.readAll();
+}
+
+} // namespace configtool

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/command.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+/// The configuration that the sub-commands of `zentaro config` work on.
+namespace configtool {
+
+struct Source
+{
+    QString path;
+    QString format; ///< "cfg" or "xml"
+};
+
+/// `--file` and `--format`.
+QList<QCommandLineOption> sourceOptions();
+/// Adds them to a command's options.
+void addSourceOptions(tools::CommandLine &line);
+
+/// What these options say: the user's own file unless they name another, in the format that its
+/// name ends in unless they name one. Nothing for an unknown format, which is told.
+std::optional<Source> sourceOf(const tools::CommandLine &line);
+
+/// "xml" for a name that ends in `.xml`, otherwise "cfg".
+QString formatOf(const QString &path);
+
+/// The content of the file; nothing when it cannot be read, which is told.
+std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source);
+
+} // namespace configtool

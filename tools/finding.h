@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// What a checking command tells about a file.
+namespace tools {
+
+enum class Severity { Note, Warning, Error };
+
+/// Line and column, counted from 1, the column in bytes; line 0 means nowhere.
+struct Place
+{
+    qint64 line = 0;
+    qint64 column = 0;
+};
+
+struct Finding
+{
+    Severity severity;
+    QLatin1StringView code; ///< a stable name for what was found, as "unknown-key"
+    QString text;
+    Place at;
+    qsizetype subject = -1; ///< what it is about, as the checker counts its things; -1: the file
+};
+
+/// The findings in the order of their places, a hundred of a code at most; a last one of that code
+/// then counts those left out.
+std::vector<Finding> abridged(std::vector<Finding> findings);
+
+/// The word for a severity, as messages bear it.
+QLatin1StringView severityName(Severity severity);
+/// `file:line:column: severity: text [code]`, a line each; the place is left away where there is
+/// none.
+QString findingLines(const QString &fileName, const std::vector<Finding> &findings);
+/// A JSON array of objects with the members file, line, column, severity, code and message.
+QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings);
+
+} // namespace tools

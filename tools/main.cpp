@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "tools/command.h"
+#include "tools/config/subcommands.h"
+
+#include <QFile>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array<tools::Command, 1> commands = {{
+    {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
+}};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QFile::decodeName(argv[i]));
+    return tools::dispatch(
+        {u"zentaro"_s, words, argc, argv},
+        {u"The companion of zentaro-print."_s, commands, {}, u"zentaro " ZENTARO_VERSION ""_s});
+}

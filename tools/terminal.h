@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// What the commands say to a person, in the encoding of the user's locale.
+namespace tools {
+
+/// Writes to standard output; Fine, or Trouble when it takes nothing (which is told).
+int printOut(const QString &text);
+/// The same for bytes, which are written as they are.
+int printBytes(const QByteArray &bytes);
+/// Writes to standard error.
+void printError(const QString &text);
+
+/// Whether a person sits at standard input and can be asked.
+bool canAsk();
+/// Asks a question on standard error; true for an answer that begins with `y`.
+bool confirmed(const QString &question);
+
+/// The text in one line: line ends, tabs and other control characters as `\n`, `\t`, `\x1b`.
+QString inOneLine(const QString &text);
+/// The beginning of the text in one line, between backquotes; `…` stands for the rest.
+QString excerpt(const QString &text);
+
+} // namespace tools
