@@ -30,7 +30,7 @@ void Config::buildConfigFile(QDomNode node, QTextStream &ts)
 {
     Indentation indentation;
     walkElements(
-        std::move(node),
+        node,
         [&](const QDomElement &group) {
             // The blank after the colon and the empty line after a group belong to the form.
             ts << indentation.text() << group.tagName() << ": \n" << indentation.text() << "{\n";

@@ -118,7 +118,7 @@ void Config::buildConfigListView(QDomNode node, QTreeWidget *view)
         return;
     const bool isFile = node.parentNode().isDocument();
     const int present = view->topLevelItemCount();
-    buildConfigListView(std::move(node), view->invisibleRootItem());
+    buildConfigListView(node, view->invisibleRootItem());
     // The file's item bears its path, which is not edited here.
     QTreeWidgetItem *const added = view->topLevelItem(present);
     if (added && isFile)
@@ -131,7 +131,7 @@ void Config::buildConfigListView(QDomNode node, QTreeWidgetItem *item)
         return;
     QTreeWidgetItem *open = nullptr; // outside the view until all of it is there
     walkElements(
-        std::move(node),
+        node,
         [&](const QDomElement &group) {
             QTreeWidgetItem *const shown = newGroupItem(group.tagName());
             for (const auto &[key, value] : attributeOrder.attributesOf(group))

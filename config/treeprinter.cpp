@@ -30,7 +30,7 @@ QString Config::configTreeText(QDomNode node) const
 {
     QString text;
     walkElements(
-        std::move(node),
+        node,
         [&](const QDomElement &group) {
             text += group.tagName() + u'\n';
             for (const auto &[name, value] : attributeOrder.attributesOf(group))
@@ -68,7 +68,7 @@ void Config::printConfigTree() const
 
 void Config::printConfigTree(QDomNode node) const
 {
-    printText(configTreeText(std::move(node)));
+    printText(configTreeText(node));
 }
 
 } // namespace libconfig

@@ -24,7 +24,7 @@ void Config::buildConfigXmlFile(QDomNode node, QTextStream &ts)
 {
     Indentation indentation;
     walkElements(
-        std::move(node),
+        node,
         [&](const QDomElement &group) {
             ts << '\n' << indentation.text() << '<' << group.tagName();
             indentation.deepen();

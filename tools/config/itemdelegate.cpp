@@ -78,11 +78,13 @@ void ItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
     const qsizetype equals = text.indexOf(" = "_L1);
     const bool hasKey = !libconfig::isGroupItem(*item) && equals > 0;
     const int begin = hasKey ? int(equals) + 3 : 0; // mostly the value changes
-    const auto select = [line, begin, text] {
+    auto *const soon = new QTimer(line);            // the view selects all before
+    connect(soon, &QTimer::timeout, line, [line, begin, text, soon] {
+        soon->stop();
         if (line->text() == text)
             line->setSelection(begin, int(text.size()));
-    };
-    QTimer::singleShot(0, line, select); // the view selects all before
+    });
+    soon->start(0);
 }
 
 void ItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
