@@ -53,10 +53,8 @@ void compile(int argc, char **argv)
     const QString requestName = text::nameOfFile(argv[1]);
     const QString printName = text::nameOfNewFile(argv[2]);
     const QCoreApplication application(argc, argv);
-    const ZTConfiguration *const config = SyncSingleton<ZTConfiguration>::instance();
     QTranslator translator; // without a translation the texts stay as they are
-    loadTranslation(translator, config->getStrValue(u"zentaro.language.basedir"_s),
-                    config->getStrValue(u"zentaro.language.file"_s));
+    loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
     QCoreApplication::installTranslator(&translator);
     printRequest(requestName, printName);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/translation.h"
 
+#include "app/ztconfiguration.h"
 #include "text/filename.h"
 
 #include <QLocale>
@@ -16,4 +17,10 @@ bool loadTranslation(QTranslator &translator, const QString &base, const QString
                                u"."_s);
     const QString name = base + file;
     return !name.isEmpty() && translator.load(text::nameInFolder(text::bytesOf(name)));
+}
+
+bool loadTranslation(QTranslator &translator, const ZTConfiguration &config)
+{
+    return loadTranslation(translator, config.getStrValue(u"zentaro.language.basedir"_s),
+                           config.getStrValue(u"zentaro.language.file"_s));
 }

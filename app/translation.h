@@ -4,9 +4,13 @@
 #include <QString>
 
 class QTranslator;
+class ZTConfiguration;
 
 /// Loads the labels' translation that the settings `zentaro.language.basedir` and
 /// `zentaro.language.file` name: for the file "/" that of the system's language in the folder,
 /// otherwise the two texts joined, by the toolkit's own lookup. The settings' bytes are the file
 /// name's. False when there is none, or both settings are empty.
 bool loadTranslation(QTranslator &translator, const QString &base, const QString &file);
+
+/// The same with the settings of `config`.
+bool loadTranslation(QTranslator &translator, const ZTConfiguration &config);

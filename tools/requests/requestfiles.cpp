@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "tools/requests/requestfiles.h"
+
+#include "tools/terminal.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tools {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void tell(const Call &call, const QString &name, const QString &trouble)
+{
+    printError(call.command + ": "_L1 + name + ": "_L1 + trouble + u'\n');
+}
+
+QStringList requestsIn(const QString &folder)
+{
+    QStringList found;
+    QDirIterator files(folder, {u"*.xml"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        found.append(files.next());
+    found.sort();
+    return found;
+}
+
+} // namespace
+
+std::optional<QStringList> requestFiles(const Call &call, const QStringList &words)
+{
+    QStringList files;
+    for (const QString &word : words) {
+        const QFileInfo named(word);
+        if (word != StandardInput && !named.exists()) {
+            tell(call, word, u"No such file or directory"_s);
+            return std::nullopt;
+        }
+        if (word == StandardInput || !named.isDir()) {
+            files.append(word);
+            continue;
+        }
+        const QStringList inFolder = requestsIn(word);
+        if (inFolder.isEmpty()) {
+            tell(call, word, u"holds no file whose name ends in .xml"_s);
+            return std::nullopt;
+        }
+        files.append(inFolder);
+    }
+    return files;
+}
+
+std::unique_ptr<QIODevice> openedRequest(const Call &call, const QString &name)
+{
+    auto file = std::make_unique<QFile>(name);
+    const bool opened = name == StandardInput ? file->open(stdin, QIODevice::ReadOnly)
+                                              : file->open(QIODevice::ReadOnly);
+    if (opened)
+        return file;
+    tell(call, name, file->errorString());
+    return nullptr;
+}
+
+} // namespace tools
