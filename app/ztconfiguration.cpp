@@ -3,13 +3,18 @@
 
 #include "text/filename.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The text without the characters that ISO 8859-1 lacks. Few texts hold one; the others are not
+/// copied.
 QString inLatin1(const QString &text)
 {
-    return QString::fromLatin1(text.toLatin1());
+    const auto isLatin1 = [](QChar c) { return c.unicode() <= 0xFF; };
+    return std::ranges::all_of(text, isLatin1) ? text : QString::fromLatin1(text.toLatin1());
 }
 
 } // namespace

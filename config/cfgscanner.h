@@ -16,6 +16,10 @@ namespace libconfig {
 class CfgScanner
 {
 public:
+    /// What is behind these bytes is not read: a file that never ends, such as a link to a device,
+    /// would take all memory.
+    static constexpr qint64 MaxBytes = 64 * 1'024 * 1'024;
+
     enum class Statement {
         GroupBegin, ///< `name : {`
         Setting,    ///< `name = value;`
@@ -50,6 +54,9 @@ public:
     static bool skipPast(std::istream &stream, char c);
 
 private:
+    static constexpr int EndOfInput = std::istream::traits_type::eof();
+
+    int nextByte();
     void skipPast(char c);
     void readValue();
 
