@@ -31,11 +31,34 @@ CfgScanner::CfgScanner(std::istream &stream)
 {
 }
 
+/// The next byte, or EndOfInput. It is taken from the stream's buffer: the stream's own operations
+/// look at its state for every byte, and made a third of what reading a configuration costs.
+inline int CfgScanner::nextByte()
+{
+    if (offset == MaxBytes)
+        return EndOfInput;
+    const int read = input.rdbuf()->sbumpc();
+    offset += read == EndOfInput ? 0 : 1;
+    return read;
+}
+
 CfgScanner::Statement CfgScanner::next()
 {
     nameText.clear();
     beginning = offset;
     terminated = false;
+    try {
+        if (input)
+            return nextFromBuffer();
+    } catch (const std::ios_base::failure &) { // the medium fails
+        input.setstate(std::ios_base::badbit);
+    }
+    marked = offset;
+    return Statement::EndOfFile;
+}
+
+CfgScanner::Statement CfgScanner::nextFromBuffer()
+{
     for (int read = nextByte(); read != EndOfInput; read = nextByte()) {
         marked = offset - 1;
         switch (read) {
@@ -91,22 +114,6 @@ void CfgScanner::readValue()
         if (terminated)
             return;
         valueText += char(read);
-    }
-}
-
-/// The next byte, or EndOfInput. It is taken from the stream's buffer: the stream's own operations
-/// look at its state for every byte, and made a third of what reading a configuration costs.
-int CfgScanner::nextByte()
-{
-    if (offset == MaxBytes || !input)
-        return EndOfInput;
-    try {
-        const int read = input.rdbuf()->sbumpc();
-        offset += read == EndOfInput ? 0 : 1;
-        return read;
-    } catch (const std::ios_base::failure &) { // the medium fails
-        input.setstate(std::ios_base::badbit);
-        return EndOfInput;
     }
 }
 

@@ -56,6 +56,7 @@ public:
 private:
     static constexpr int EndOfInput = std::istream::traits_type::eof();
 
+    Statement nextFromBuffer();
     int nextByte();
     void skipPast(char c);
     void readValue();
