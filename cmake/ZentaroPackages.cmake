@@ -1,0 +1,37 @@
+# The Debian packages: zentaro-print for the till, zentaro-tools for the people who set it up.
+# `cpack -G DEB` in a build folder writes both.
+
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
+        RENAME copyright COMPONENT print)
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools"
+        RENAME copyright COMPONENT tools)
+install(FILES CHANGELOG.md SECURITY.md doc/configuration.md doc/faults.md
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print" COMPONENT print)
+install(DIRECTORY samples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
+        COMPONENT print)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "The developers of zentaro")
+set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/packages")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL print tools)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+
+set(CPACK_DEBIAN_PRINT_PACKAGE_NAME zentaro-print)
+set(CPACK_COMPONENT_PRINT_DESCRIPTION
+    "Turns the XML print requests of a restaurant or shop till (tickets, receipts,
+invoices, fiscal receipts, reports) into the command text of a receipt printer.")
+
+set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME zentaro-tools)
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION
+    "The companion tools: they check and preview print requests, and read, check,
+convert and edit the configuration of the suite.")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "zentaro-print (= ${PROJECT_VERSION})")
+# The pictures of a preview are drawn with it.
+set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS fonts-dejavu-core)
+
+include(CPack)
