@@ -7,8 +7,12 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
+#include <optional>
+
 namespace requestreader {
 namespace {
+
+class RequestSource;
 
 /// Hands the elements on to another handler, up to MaxDepth. The reader does not look at name
 /// spaces, which costs it a tenth of its time and nobody here asks for; their declarations are no
@@ -23,6 +27,12 @@ public:
 
     bool isInDocumentType() const { return inDocumentType; }
     bool entitiesAreDeclared() const { return declared; }
+    /// Why the reading was stopped from here, if it was.
+    std::optional<Stop> reason() const { return stop; }
+    /// The reader's word for the fault that it met.
+    const QString &fault() const { return faultText; }
+    /// Has the source tell its observer of the text before each element.
+    void announceElements(RequestSource *from) { source = from; }
 
     bool startDTD(const QString &, const QString &, const QString &) override
     {
@@ -40,23 +50,19 @@ public:
         declared = true;
         const bool holdsOthers =
             value.contains(u'%') || value.count(u'&') != value.count(QStringView(u"&#"));
-        return value.size() <= MaxEntitySize && !holdsOthers;
+        return go(value.size() <= MaxEntitySize && !holdsOthers, Stop::Entity);
+    }
+    bool fatalError(const QXmlParseException &exception) override
+    {
+        faultText = exception.message();
+        return false;
     }
 
     void setDocumentLocator(QXmlLocator *locator) override { target.setDocumentLocator(locator); }
     bool startDocument() override { return target.startDocument(); }
     bool endDocument() override { return target.endDocument(); }
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
-                      const QXmlAttributes &atts) override
-    {
-        if (++depth > MaxDepth)
-            return false;
-        for (int i = 0; i < atts.count(); ++i) {
-            if (isNameSpaceDeclaration(atts.qName(i)))
-                return target.startElement(namespaceURI, localName, qName, plainAttributes(atts));
-        }
-        return target.startElement(namespaceURI, localName, qName, atts);
-    }
+                      const QXmlAttributes &atts) override;
     bool endElement(const QString &namespaceURI, const QString &localName,
                     const QString &qName) override
     {
@@ -65,6 +71,14 @@ public:
     }
 
 private:
+    /// Answers `fine`, and keeps the reason where it is not.
+    bool go(bool fine, Stop otherwise)
+    {
+        if (!fine)
+            stop = otherwise;
+        return fine;
+    }
+
     static bool isNameSpaceDeclaration(QStringView name)
     {
         constexpr QStringView word = u"xmlns";
@@ -82,6 +96,9 @@ private:
     }
 
     QXmlContentHandler &target;
+    RequestSource *source = nullptr; // borrowed: to announce elements to
+    std::optional<Stop> stop;
+    QString faultText;
     bool inDocumentType = false;
     bool declared = false;
     int depth = 0; // of the element that is being read; the root has 1
@@ -109,9 +126,10 @@ bool isUtf8(QByteArrayView piece)
 class RequestSource : public QXmlInputSource
 {
 public:
-    RequestSource(QIODevice &request, const ElementFilter &progress)
+    RequestSource(QIODevice &request, const ElementFilter &progress, Observer *observer)
         : request(request)
         , progress(progress)
+        , observer(observer)
         , piece(PieceBytes, Qt::Uninitialized)
     {
         if (!request.isOpen())
@@ -128,6 +146,25 @@ public:
         return isEndMark(c) ? QChar(EndOfDocument) : c;
     }
 
+    /// Tells the observer of the text that was taken since.
+    void tell()
+    {
+        if (observer && told != at)
+            observer->taken(QStringView(told, at), utf8);
+        told = at;
+    }
+    /// Tells it that the reading ended early.
+    void tellStop()
+    {
+        if (!observer)
+            return;
+        tell();
+        const bool endMark = at != text.cbegin() && isEndMark(at[-1]);
+        observer->stopped(stop ? *stop : progress.reason().value_or(Stop::Fault),
+                          endMark ? QStringLiteral("a character that XML does not allow")
+                                  : progress.fault());
+    }
+
 private:
     static constexpr int PieceBytes = 16 * 1'024;
 
@@ -136,6 +173,7 @@ private:
 
     [[gnu::noinline]] QChar firstOfNextPiece()
     {
+        tell();
         do {
             const bool readable = request.isOpen() && !ended && !exceedsLimits();
             const qint64 size = readable ? request.read(piece.data(), PieceBytes) : 0;
@@ -145,7 +183,7 @@ private:
             decodePiece(QByteArrayView(piece).first(size));
             bytesRead += size;
         } while (text.isEmpty());
-        at = text.cbegin();
+        told = at = text.cbegin();
         end = text.cend();
         return next();
     }
@@ -156,7 +194,11 @@ private:
         documentTypeBytes = progress.isInDocumentType() ? documentTypeBytes + PieceBytes : 0;
         if (progress.entitiesAreDeclared())
             references += text.count(u'&');
-        return documentTypeBytes > MaxDocumentTypeBytes || references > MaxEntityReferences;
+        if (documentTypeBytes > MaxDocumentTypeBytes)
+            stop = Stop::DocumentType;
+        else if (references > MaxEntityReferences)
+            stop = Stop::EntityReferences;
+        return stop.has_value();
     }
 
     void decodePiece(QByteArrayView bytes)
@@ -172,6 +214,8 @@ private:
 
     QIODevice &request;
     const ElementFilter &progress;
+    Observer *observer; // null: nobody follows
+    std::optional<Stop> stop;
     QByteArray piece;
     QStringDecoder decodeUtf8{QStringDecoder::Utf8};
     bool utf8 = false; // of the request, known with its first piece
@@ -182,11 +226,27 @@ private:
     QString text;                 // of the present piece
     QString::const_iterator at = text.cbegin();
     QString::const_iterator end = text.cend();
+    QString::const_iterator told = at; // up to here the observer knows it
 };
+
+bool ElementFilter::startElement(const QString &namespaceURI, const QString &localName,
+                                 const QString &qName, const QXmlAttributes &atts)
+{
+    if (source)
+        source->tell();
+    if (!go(++depth <= MaxDepth, Stop::Depth))
+        return false;
+    for (int i = 0; i < atts.count(); ++i) {
+        if (isNameSpaceDeclaration(atts.qName(i)))
+            return go(target.startElement(namespaceURI, localName, qName, plainAttributes(atts)),
+                      Stop::Refused);
+    }
+    return go(target.startElement(namespaceURI, localName, qName, atts), Stop::Refused);
+}
 
 } // namespace
 
-bool read(QIODevice &request, QXmlContentHandler &handler)
+bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer)
 {
     ElementFilter filter(handler);
     QXmlSimpleReader reader;
@@ -195,8 +255,17 @@ bool read(QIODevice &request, QXmlContentHandler &handler)
     reader.setLexicalHandler(&filter);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
-    RequestSource source(request, filter);
-    return reader.parse(&source);
+    RequestSource source(request, filter, observer);
+    if (observer) {
+        reader.setErrorHandler(&filter);
+        filter.announceElements(&source);
+    }
+    const bool complete = reader.parse(&source);
+    if (complete)
+        source.tell();
+    else
+        source.tellStop();
+    return complete;
 }
 
 } // namespace requestreader

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStringView>
+
 class QIODevice;
 class QXmlContentHandler;
 
@@ -22,9 +24,32 @@ constexpr int MaxDocumentTypeBytes = 16 * 1'024;
 constexpr int MaxEntitySize = 1'024;
 constexpr int MaxEntityReferences = 1'000;
 
+/// Why a reading ended before its request did.
+enum class Stop {
+    Fault,            ///< the XML is not well-formed
+    Refused,          ///< the handler answered an event with false
+    Depth,            ///< MaxDepth is exceeded
+    DocumentType,     ///< MaxDocumentTypeBytes is exceeded
+    Entity,           ///< an entity exceeds MaxEntitySize or holds others
+    EntityReferences, ///< MaxEntityReferences is exceeded
+};
+
+/// Follows a reading through the text of the request, of which nothing is kept.
+class Observer
+{
+public:
+    virtual ~Observer() = default;
+    /// What the reader took since it was last told, a piece of it at most: told before the handler
+    /// gets an element, whose tag it then ends with, and when the reading ends. `utf8`: whether
+    /// the request is in UTF-8.
+    virtual void taken(QStringView text, bool utf8) = 0;
+    /// The reading ended early, at the last character taken; `fault` is the reader's word for it.
+    virtual void stopped(Stop why, const QString &fault) = 0;
+};
+
 /// Hands the elements of a request to `handler` until its end, the first fault in the XML, or the
 /// first event that the handler answers with false. `request` need not be open; one that cannot be
 /// opened or read is an empty request. Answers whether the end was reached.
-bool read(QIODevice &request, QXmlContentHandler &handler);
+bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer = nullptr);
 
 } // namespace requestreader

@@ -8,34 +8,58 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 namespace tools {
 
 using namespace Qt::StringLiterals;
 
-std::vector<Finding> abridged(std::vector<Finding> findings)
+namespace {
+
+constexpr qint64 MostOfACode = 100;
+
+void sortByPlace(std::vector<Finding> &findings)
 {
-    constexpr int Most = 100;
     std::ranges::stable_sort(findings, {}, [](const Finding &finding) {
         return std::pair(finding.at.line, finding.at.column);
     });
-    std::map<QLatin1StringView, int> counts;
-    std::vector<Finding> result;
-    for (Finding &finding : findings) {
-        if (++counts[finding.code] <= Most)
-            result.push_back(std::move(finding));
+}
+
+} // namespace
+
+void FindingStore::add(Finding finding)
+{
+    if (++counts[finding.code] <= MostOfACode)
+        kept.push_back(std::move(finding));
+}
+
+bool FindingStore::isFull(QLatin1StringView code) const
+{
+    const auto count = counts.find(code);
+    return count != counts.end() && count->second >= MostOfACode;
+}
+
+std::vector<Finding> FindingStore::take()
+{
+    sortByPlace(kept);
+    for (const auto &[code, count] : std::exchange(counts, {})) {
+        if (count > MostOfACode)
+            kept.push_back({Severity::Note,
+                            code,
+                            QString::number(count - MostOfACode) + " more like this"_L1,
+                            {},
+                            -1});
     }
-    for (const auto &[code, count] : counts) {
-        if (count > Most)
-            result.push_back({Severity::Note,
-                              code,
-                              QString::number(count - Most) + " more like this"_L1,
-                              {},
-                              -1});
-    }
-    return result;
+    return std::exchange(kept, {});
+}
+
+std::vector<Finding> abridged(std::vector<Finding> findings)
+{
+    sortByPlace(findings);
+    FindingStore store;
+    for (Finding &finding : findings)
+        store.add(std::move(finding));
+    return store.take();
 }
 
 QLatin1StringView severityName(Severity severity)
@@ -67,14 +91,21 @@ QString findingLines(const QString &fileName, const std::vector<Finding> &findin
 
 QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings)
 {
+    return findingsAsJson({{fileName, findings}});
+}
+
+QString findingsAsJson(const std::vector<FileFindings> &files)
+{
     QJsonArray array;
-    for (const Finding &finding : findings)
-        array.append(QJsonObject{{u"file"_s, fileName},
-                                 {u"line"_s, finding.at.line},
-                                 {u"column"_s, finding.at.column},
-                                 {u"severity"_s, severityName(finding.severity)},
-                                 {u"code"_s, finding.code},
-                                 {u"message"_s, finding.text}});
+    for (const FileFindings &file : files) {
+        for (const Finding &finding : file.findings)
+            array.append(QJsonObject{{u"file"_s, file.fileName},
+                                     {u"line"_s, finding.at.line},
+                                     {u"column"_s, finding.at.column},
+                                     {u"severity"_s, severityName(finding.severity)},
+                                     {u"code"_s, finding.code},
+                                     {u"message"_s, finding.text}});
+    }
     return QString::fromUtf8(QJsonDocument(array).toJson());
 }
 

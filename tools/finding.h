@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <map>
 #include <vector>
 
 /// What a checking command tells about a file.
@@ -26,8 +27,25 @@ struct Finding
     qsizetype subject = -1; ///< what it is about, as the checker counts its things; -1: the file
 };
 
-/// The findings in the order of their places, a hundred of a code at most; a last one of that code
-/// then counts those left out.
+/// Findings as they come: keeps the first hundred of a code and counts the others, so that any
+/// number of them takes little memory.
+class FindingStore
+{
+public:
+    void add(Finding finding);
+    /// Whether another finding of this code would only be counted.
+    bool isFull(QLatin1StringView code) const;
+    /// The findings in the order of their places; a last one of a code counts those left out. The
+    /// store is empty then.
+    std::vector<Finding> take();
+
+private:
+    std::vector<Finding> kept;
+    std::map<QLatin1StringView, qint64> counts;
+};
+
+/// The findings in the order of their places, a hundred of a code at most, as a FindingStore has
+/// them.
 std::vector<Finding> abridged(std::vector<Finding> findings);
 
 /// The word for a severity, as messages bear it.
@@ -37,5 +55,15 @@ QLatin1StringView severityName(Severity severity);
 QString findingLines(const QString &fileName, const std::vector<Finding> &findings);
 /// A JSON array of objects with the members file, line, column, severity, code and message.
 QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings);
+
+/// The findings about one file of several.
+struct FileFindings
+{
+    QString fileName;
+    std::vector<Finding> findings;
+};
+
+/// The same array for all files.
+QString findingsAsJson(const std::vector<FileFindings> &files);
 
 } // namespace tools

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/command.h"
 #include "tools/config/subcommands.h"
+#include "tools/requestcheck/requestcheck.h"
 
 #include <QFile>
 
@@ -10,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<tools::Command, 1> commands = {{
+constexpr std::array<tools::Command, 2> commands = {{
+    {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
     {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
 }};
 

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "tools/requestcheck/requestcheck.h"
+
+#include "app/syncsingleton.h"
+#include "app/translation.h"
+#include "app/ztconfiguration.h"
+#include "tools/requestcheck/codes.h"
+#include "tools/requests/configurationinuse.h"
+#include "tools/requests/requestfiles.h"
+#include "tools/terminal.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+#include <algorithm>
+
+namespace requestcheck {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What `--werror` makes of the findings.
+void promoteWarnings(std::vector<tools::Finding> &findings)
+{
+    for (tools::Finding &finding : findings) {
+        if (finding.severity == tools::Severity::Warning)
+            finding.severity = tools::Severity::Error;
+    }
+}
+
+bool hasError(const tools::FileFindings &file)
+{
+    return std::ranges::find(file.findings, tools::Severity::Error, &tools::Finding::severity)
+           != file.findings.end();
+}
+
+/// Prints the findings as they come, or keeps them for one array.
+class Printer
+{
+public:
+    explicit Printer(bool asJson)
+        : asJson(asJson)
+    {
+    }
+
+    void add(tools::FileFindings file)
+    {
+        if (hasError(file))
+            status = qMax(status, int(tools::Findings));
+        if (asJson)
+            files.push_back(std::move(file));
+        else
+            note(tools::printOut(tools::findingLines(file.fileName, file.findings)));
+    }
+    /// An exit status that is worse than the one so far counts.
+    void note(int other) { status = qMax(status, other); }
+    /// Prints what is left; answers the exit status.
+    int end()
+    {
+        if (asJson)
+            note(tools::printOut(tools::findingsAsJson(files)));
+        return status;
+    }
+
+private:
+    const bool asJson;
+    int status = tools::Fine;
+    std::vector<tools::FileFindings> files;
+};
+
+tools::FileFindings withoutConfiguration()
+{
+    return {ZTConfiguration::userFile(),
+            {{codes::noConfiguration.severity,
+              codes::noConfiguration.name,
+              u"there is no such file: everything that a switch decides about is left away, and "
+              u"columns have no width"_s,
+              {},
+              -1}}};
+}
+
+/// Checks every file; one that cannot be read is told and does not keep the others from it.
+int checkFiles(const tools::Call &call, const QStringList &files, const tools::CommandLine &line,
+               bool isConfigured)
+{
+    Printer printer(line.isSet(u"json"_s));
+    if (!isConfigured)
+        printer.add(withoutConfiguration());
+    for (const QString &name : files) {
+        const std::unique_ptr<QIODevice> request = tools::openedRequest(call, name);
+        if (!request) {
+            printer.note(tools::Trouble);
+            continue;
+        }
+        std::vector<tools::Finding> findings = check(*request, isConfigured);
+        if (line.isSet(u"werror"_s))
+            promoteWarnings(findings);
+        printer.add({name, std::move(findings)});
+    }
+    return printer.end();
+}
+
+} // namespace
+
+int run(const tools::Call &call)
+{
+    tools::CommandLine line(
+        call, u"Reads print requests as the print run does and tells what is wrong with them:\n"
+              u"FILE:LINE:COLUMN: SEVERITY: TEXT [CODE], at most a hundred lines of a code.\n"
+              u"A folder stands for the .xml files in it, - for standard input.\n"
+              u"The exit status is 1 when there is an error."_s);
+    tools::addConfigurationOption(line);
+    line.addOption({u"json"_s, u"Prints a JSON array instead."_s});
+    line.addOption({u"werror"_s, u"Makes every warning an error."_s});
+    line.addArgument(u"REQUEST"_s, u"A print request, or a folder of them."_s, u"REQUEST..."_s);
+    if (const auto done = line.read(1, -1))
+        return *done;
+    const auto use = tools::useConfiguration(call, line);
+    const auto files = use ? tools::requestFiles(call, line.arguments()) : std::nullopt;
+    if (!files)
+        return tools::Trouble;
+    const QCoreApplication application(call.argc, call.argv);
+    QTranslator translator; // the printed labels have the lengths that they have on the paper
+    loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
+    QCoreApplication::installTranslator(&translator);
+    return checkFiles(call, *files, line, *use == tools::ConfigurationUse::Present);
+}
+
+} // namespace requestcheck

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "tools/requestcheck/checkingdevice.h"
+
+#include "render/attributes.h"
+#include "render/documentmethod.h"
+#include "render/elements.h"
+#include "tools/nearest.h"
+#include "tools/terminal.h"
+
+#include <algorithm>
+#include <array>
+
+namespace requestcheck {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array methodAttributes = {AttributeUse{"name"_L1}};
+constexpr ElementRow methodRow{element::method, 0, methodAttributes};
+
+} // namespace
+
+CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &findings,
+                               bool isConfigured)
+    : CompanyPrinterDriver(u"/dev/null"_s)
+    , places(places)
+    , findings(findings)
+    , isConfigured(isConfigured)
+{
+    stream = std::make_unique<QTextStream>(&paper);
+}
+
+CheckingDevice::~CheckingDevice()
+{
+    stream.reset(); // before the text that it writes to
+}
+
+void CheckingDevice::tell(const codes::Code &code, const QString &text, tools::Place at)
+{
+    findings.add({code.severity, code.name, text, at, -1});
+}
+
+tools::Place CheckingDevice::placeOf(QLatin1StringView attribute) const
+{
+    return places.attribute(current.atts.index(attribute));
+}
+
+bool CheckingDevice::startElement(const QString &namespaceURI, const QString &localName,
+                                  const QString &qName, const QXmlAttributes &atts)
+{
+    if (++depth == 1)
+        root = places.tag();
+    current = {qName, atts, nullptr};
+    hasPrinted = false;
+    if (qName == element::method) {
+        if (!startMethod(atts))
+            return false;
+    } else {
+        checkElement();
+    }
+    const bool accepted = CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
+    checkDescription();
+    paper.truncate(0);
+    return accepted;
+}
+
+bool CheckingDevice::endElement(const QString &namespaceURI, const QString &localName,
+                                const QString &qName)
+{
+    --depth;
+    return CompanyPrinterDriver::endElement(namespaceURI, localName, qName);
+}
+
+bool CheckingDevice::endDocument()
+{
+    if (method < 0)
+        tell(codes::noMethod, u"the request has no `method` element, and prints nothing"_s, root);
+    return CompanyPrinterDriver::endDocument();
+}
+
+bool CheckingDevice::startMethod(const QXmlAttributes &atts)
+{
+    const QString name = valueOf(atts, "name"_L1);
+    const std::span<const DocumentMethod> methods = documentMethods();
+    const DocumentMethod *const chosen = documentMethod(name);
+    if (!chosen) {
+        std::vector<QString> names;
+        for (const DocumentMethod &other : methods)
+            names.push_back(other.name);
+        tell(codes::unknownMethod,
+             (atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
+                                        : "unknown method "_L1 + tools::excerpt(name))
+                 + tools::suggestion(name, names) + ": the print run stops here"_L1,
+             placeOf("name"_L1));
+        return false;
+    }
+    if (method >= 0)
+        tell(codes::secondMethod, u"a second `method`, which opens another section"_s,
+             places.tag());
+    method = chosen - methods.data();
+    knownElements = elementsOf(method);
+    if (knownElements.empty())
+        tell(codes::printsNothing, u'`' + name + "` prints nothing, whatever the request holds"_L1,
+             places.tag());
+    current.row = &methodRow;
+    for (int i = 0; i < atts.count(); ++i) {
+        if (fateOf(methodRow, atts, i, settings) == Fate::Unread)
+            tellUnread(i);
+    }
+    return true;
+}
+
+void CheckingDevice::checkElement()
+{
+    const bool isRoot = depth == 1;
+    if (method >= 0) {
+        current.row = elementRow(current.name, method);
+        if (current.row)
+            checkAttributes();
+        else if (!knownElements.empty())
+            checkUnknownElement();
+    } else if (!isRoot || isKnownElement(current.name)) {
+        tell(codes::beforeMethod,
+             tools::excerpt(current.name)
+                 + " stands before the `method` element and prints nothing"_L1,
+             places.tag());
+    }
+}
+
+void CheckingDevice::checkUnknownElement()
+{
+    const codes::Code &code = codes::unknownElement;
+    tell(code,
+         findings.isFull(code.name)
+             ? QString()
+             : tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`'
+                   + tools::suggestion(current.name, knownElements),
+         places.tag());
+}
+
+void CheckingDevice::checkAttributes()
+{
+    const ElementRow &row = *current.row;
+    if (row.rest == Rest::Ignored) {
+        if (current.atts.count() > 0)
+            tell(codes::printsNothing,
+                 u'`' + current.name + "` prints nothing in `"_L1 + currentMethod
+                     + "`, its payments included"_L1,
+                 places.tag());
+        return;
+    }
+    for (int i = 0; i < current.atts.count(); ++i)
+        checkAttribute(i);
+    checkMissing();
+    if (row.rest == Rest::Triples)
+        checkTriples();
+}
+
+void CheckingDevice::checkAttribute(int position)
+{
+    const ElementRow &row = *current.row;
+    switch (fateOf(row, current.atts, position, settings)) {
+    case Fate::Unread:
+        tellUnread(position);
+        break;
+    case Fate::Printed:
+        checkValue(position);
+        break;
+    case Fate::SwitchedOff:
+        if (!current.atts.value(position).isEmpty()) {
+            const AttributeUse *const use = row.find(current.atts.qName(position));
+            const bool isOwn = use && use->onlyIf && (!row.onlyIf || settings.*row.onlyIf);
+            tellSwitchedOff(isOwn ? use->onlyIf : row.onlyIf,
+                            isOwn ? current.atts.qName(position) : current.name,
+                            isOwn ? places.attribute(position) : places.tag());
+        }
+        break;
+    case Fate::Kept:
+        break;
+    }
+}
+
+void CheckingDevice::tellUnread(int position)
+{
+    const QString name = current.atts.qName(position);
+    const tools::Place at = places.attribute(position);
+    if (current.row->find(name)) {
+        tell(codes::duplicateAttribute,
+             "a second `"_L1 + name + "` in `"_L1 + current.name + "` is not read"_L1, at);
+        return;
+    }
+    std::vector<QString> names;
+    if (!findings.isFull(codes::unknownAttribute.name)) {
+        for (const AttributeUse &use : current.row->attributes)
+            names.push_back(use.name);
+    }
+    tell(codes::unknownAttribute,
+         u'`' + current.name + "` does not read "_L1 + tools::excerpt(name)
+             + tools::suggestion(name, names),
+         at);
+}
+
+/// Once for a switch.
+void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
+                                     tools::Place at)
+{
+    const auto switches = switchSettings();
+    const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
+    if (!isConfigured || found == switches.end())
+        return;
+    const QString key = docPath + found->keyWord;
+    if (toldSwitches.insert(key).second)
+        tell(codes::switchOff, u'`' + key + "` is off: `"_L1 + what + "` is not printed"_L1, at);
+}
+
+void CheckingDevice::checkMissing()
+{
+    const ElementRow &row = *current.row;
+    if (row.onlyIf && !(settings.*row.onlyIf))
+        return;
+    for (const AttributeUse &use : row.attributes) {
+        const bool isOff = use.onlyIf && !(settings.*use.onlyIf);
+        if (!isOff && use.need == Need::Expected && current.atts.index(use.name) < 0)
+            tell(codes::missingAttribute,
+                 u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints empty"_L1,
+                 places.tag());
+    }
+}
+
+/// The documents stand by position behind the named attributes, which have to come first.
+void CheckingDevice::checkTriples()
+{
+    const auto named = current.row->attributes;
+    const int first = int(named.size());
+    for (int i = 0; i < first; ++i) {
+        const int position = current.atts.index(named[size_t(i)].name);
+        if (position >= first || (position < 0 && current.atts.count() > first))
+            tell(codes::attributeOrder,
+                 u'`' + named[size_t(i)].name
+                     + "` has to stand before the documents, which are read by position"_L1,
+                 places.attribute(position));
+    }
+    constexpr int PerDocument = 3;
+    const int missing = (PerDocument - (current.atts.count() - first) % PerDocument) % PerDocument;
+    if (current.atts.count() > first && missing > 0)
+        tell(codes::missingAttribute,
+             "the last document of `"_L1 + current.name + "` lacks "_L1 + QString::number(missing)
+                 + " of its 3 attributes"_L1,
+             places.attribute(current.atts.count() - 1));
+}
+
+} // namespace requestcheck

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "render/documentsettings.h"
+
+#include <QStringView>
+
+#include <span>
+#include <vector>
+
+class QXmlAttributes;
+
+/// What the document methods read of a request: the elements that each reacts to and their
+/// attributes.
+namespace requestcheck {
+
+/// A column that the value of an attribute is printed in, where it has one.
+enum class Column {
+    None,
+    Quantity,
+    Description, ///< cut to what the other columns leave
+    Price,
+    Total,
+    DateAmount, ///< the amount of a statement, in the price column
+    Date,
+    TaxRate,
+    Money, ///< of the table of tax rates
+};
+
+/// The width of a column in characters; -1 for one without a width of its own.
+int widthOf(Column column, const DocumentSettings &settings);
+
+enum class Need {
+    Expected, ///< an element without it prints an empty text
+    Checked,  ///< the same, and the check of fiscal commands tells it
+    Kept,     ///< read and never printed
+};
+
+struct AttributeUse
+{
+    QLatin1StringView name;
+    Column column = Column::None;
+    bool DocumentSettings::*onlyIf = nullptr; ///< the switch that it is printed under
+    Need need = Need::Expected;
+};
+
+/// What an element reads beside its named attributes.
+enum class Rest {
+    Nothing,
+    InOrder, ///< all of them, one after the other, whatever their names
+    Triples, ///< from the third on, three for each document, whatever their names
+    Ignored, ///< the element prints nothing, and takes any
+};
+
+/// An element as some document methods read it.
+struct ElementRow
+{
+    QStringView element;
+    quint16 methods; ///< bit i: the method at i of documentMethods()
+    std::span<const AttributeUse> attributes;
+    bool DocumentSettings::*onlyIf = nullptr; ///< the switch that its attributes are printed under
+    Rest rest = Rest::Nothing;
+
+    /// The attribute of this name, or null.
+    const AttributeUse *find(QStringView name) const;
+    /// Whether it prints its attributes in columns.
+    bool hasColumns() const;
+};
+
+/// The element as the method at `method` of documentMethods() reads it, or null.
+const ElementRow *elementRow(QStringView element, qsizetype method);
+/// The elements that a method reacts to, those of the top of a document first.
+std::vector<QString> elementsOf(qsizetype method);
+/// Whether any method reacts to the element.
+bool isKnownElement(QStringView element);
+/// All rows.
+std::span<const ElementRow> elementRows();
+
+/// What becomes of an attribute.
+enum class Fate { Printed, SwitchedOff, Kept, Unread };
+
+/// The fate of the attribute at `position` under the settings.
+Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
+            const DocumentSettings &settings);
+/// The switch that decides about an attribute: its own, else its element's; null without one.
+bool DocumentSettings::*switchOf(const ElementRow &row, const AttributeUse *use);
+
+} // namespace requestcheck

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "tools/requestcheck/checkingdevice.h"
+
+#include "render/attributes.h"
+#include "tools/terminal.h"
+
+#include <algorithm>
+
+// What goes wrong on the paper: the device's own lines, looked at as they were written.
+
+namespace requestcheck {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype Frame = 4; // of a printed line: its quote, and the mark and line end behind it
+
+/// A text as the device prints it.
+QString asPrinted(QStringView text)
+{
+    return text.toString().replace("TOTALE"_L1, "SOMMA"_L1);
+}
+
+bool hasControl(QStringView text)
+{
+    return std::ranges::any_of(text, [](QChar c) { return c.unicode() < 0x20; });
+}
+
+/// Without the blanks at its end, which nobody sees.
+qsizetype visibleSize(QStringView text)
+{
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text.size();
+}
+
+/// How much of the beginning of `text` stands in the line.
+qsizetype printedPart(QStringView text, const QString &line)
+{
+    qsizetype size = qMin(text.size(), line.size() * 2); // a printed word is never half as long
+    while (size > 0 && !line.contains(asPrinted(text.first(size))))
+        --size;
+    return size;
+}
+
+QString inCharacters(qsizetype count)
+{
+    return QString::number(count) + (count == 1 ? " character"_L1 : " characters"_L1);
+}
+
+bool isNumber(QStringView text, int mostPoints)
+{
+    const auto digits = std::ranges::count_if(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return digits > 0 && text.count(u'.') <= mostPoints && digits + text.count(u'.') == text.size();
+}
+
+} // namespace
+
+void CheckingDevice::printSeparatorLine()
+{
+    isRule = true; // on narrow paper a centred rule is shifted, which no request can help
+    CompanyPrinterDriver::printSeparatorLine();
+    isRule = false;
+}
+
+void CheckingDevice::println(unsigned int indent, const QString &text)
+{
+    print(indent, text);
+    const qsizetype size = line.size() - 1; // without the opening quote
+    paper.truncate(0);
+    CompanyPrinterDriver::println(0, {});
+    const qsizetype pad = paper.size() - size - Frame;
+    lastLine = paper.sliced(1 + pad, size);
+    hasPrinted = true;
+    if (!isRule && !hasControl(lastLine))
+        checkLine(lastLine, pad);
+}
+
+void CheckingDevice::checkLine(const QString &text, qsizetype pad)
+{
+    const qsizetype width = settings.paperWidth;
+    const qsizetype size = visibleSize(text);
+    if (size == 0)
+        return;
+    if (size > width) {
+        tellTooLong(text, size - width);
+        return;
+    }
+    const auto tellNotCentred = [&](const QString &trouble) {
+        tell(codes::notCentred, tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
+             places.tag());
+    };
+    const bool isCentred = justify == "center"_L1;
+    const bool hasRoom = width - size >= 2;
+    const bool hasColumns = current.row && current.row->hasColumns();
+    if (pad + size > width)
+        tellNotCentred("the line ends "_L1 + inCharacters(pad + size - width)
+                       + " behind the paper"_L1);
+    else if (isCentred && pad == 0 && hasRoom && !hasColumns)
+        tellNotCentred(u"it begins at the edge of the paper"_s);
+}
+
+/// Tells the attribute that is wider than its column, else the longest in the line.
+void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
+{
+    const codes::Code &code = codes::lineTooLong;
+    int longest = -1;
+    const auto sizeAt = [this](int i) { return current.atts.value(i).size(); };
+    for (int i = 0; i < current.atts.count() && !findings.isFull(code.name); ++i) {
+        const AttributeUse *const use =
+            current.row ? current.row->find(current.atts.qName(i)) : nullptr;
+        const int width = use ? widthOf(use->column, settings) : -1;
+        if (sizeAt(i) == 0 || !text.contains(asPrinted(current.atts.value(i))))
+            continue;
+        if (width >= 0 && sizeAt(i) > width) {
+            tell(code,
+                 u'`' + use->name + "` has "_L1 + inCharacters(sizeAt(i)) + " in a column of "_L1
+                     + QString::number(width) + ": the line is "_L1 + QString::number(excess)
+                     + " longer than the paper"_L1,
+                 places.attribute(i));
+            return;
+        }
+        if (longest < 0 || sizeAt(i) > sizeAt(longest))
+            longest = i;
+    }
+    const QString what = longest < 0 ? tools::excerpt(text)
+                                     : "the line of `"_L1 + current.atts.qName(longest) + u'`';
+    tell(code,
+         what + " has "_L1 + inCharacters(visibleSize(text)) + ", "_L1 + QString::number(excess)
+             + " more than the paper"_L1,
+         places.attribute(longest));
+}
+
+/// Whether the description of an item stands whole in the line that it was printed in last.
+void CheckingDevice::checkDescription()
+{
+    if (!current.row || !hasPrinted)
+        return;
+    const auto uses = current.row->attributes;
+    const auto use = std::ranges::find(uses, Column::Description, &AttributeUse::column);
+    if (use == uses.end())
+        return;
+    QString text = valueOf(current.atts, use->name);
+    if (current.row->element == u"statement")
+        text = tr(text.toUtf8().constData()); // the only description that is translated
+    if (!hasControl(text) && !lastLine.contains(asPrinted(text)))
+        tellCut(use->name, text.sliced(printedPart(text, lastLine)));
+}
+
+void CheckingDevice::tellCut(QLatin1StringView attribute, const QString &lost)
+{
+    tell(codes::cutDescription,
+         u'`' + attribute + "` is cut: "_L1 + tools::excerpt(lost) + " is not printed"_L1,
+         placeOf(attribute));
+}
+
+void CheckingDevice::printRowFiscal(const QString &department, const QString &quantity,
+                                    const QString &description, const QString &price)
+{
+    CompanyPrinterDriver::printRowFiscal(department, quantity, description, price);
+    const QString name = valueOf(current.atts, "name"_L1);
+    if (description.size() < name.size())
+        tellCut("name"_L1, name.sliced(description.size()));
+    if (description.contains(u'"'))
+        tell(codes::fiscalQuote, u"a double quote in `name` ends the description early"_s,
+             placeOf("name"_L1));
+    checkFiscalNumber("number"_L1, quantity);
+    checkFiscalNumber("price"_L1, price);
+    if (!isNumber(department, 0))
+        tell(codes::fiscalDepartment,
+             department.isEmpty()
+                 ? u"the item has no `department`"_s
+                 : "the department "_L1 + tools::excerpt(department) + " is no number"_L1,
+             placeOf("department"_L1));
+}
+
+void CheckingDevice::checkFiscalNumber(QLatin1StringView attribute, const QString &value)
+{
+    if (!isNumber(value, 1))
+        tell(codes::fiscalNumber,
+             value.isEmpty() ? "the item has no `"_L1 + attribute + u'`'
+                             : u'`' + attribute + "` is "_L1 + tools::excerpt(value)
+                                   + ": a fiscal command takes digits and at most one point"_L1,
+             placeOf(attribute));
+}
+
+} // namespace requestcheck

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "tools/requestcheck/tagplaces.h"
+
+namespace requestcheck {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The bytes that a character has in UTF-8; half of four for each half of a surrogate pair. The
+/// replacement character stands for one byte that could not be read.
+int utf8Size(QChar c)
+{
+    const char16_t code = c.unicode();
+    if (code < 0x80 || code == QChar::ReplacementCharacter)
+        return 1;
+    return code < 0x800 || c.isSurrogate() ? 2 : 3;
+}
+
+bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r';
+}
+
+} // namespace
+
+void TagPlaces::taken(QStringView text, bool utf8)
+{
+    for (const QChar c : text) {
+        step(c);
+        lastPlace = here;
+        if (c == u'\n')
+            here = {here.line + 1, 1};
+        else
+            here.column += utf8 ? utf8Size(c) : (c.isLowSurrogate() ? 0 : 1);
+    }
+}
+
+void TagPlaces::stopped(requestreader::Stop why, const QString &word)
+{
+    stop = why;
+    fault = word;
+}
+
+/// Reads no more of XML than it needs: the reader, which is in step, has accepted the tag that it
+/// announces, and in such a tag no `<` stands but the first. Whatever came before is forgotten.
+void TagPlaces::step(QChar c)
+{
+    if (c == u'<' || (in == In::Text && c == u'&')) {
+        tagPlace = here;
+        attributes.clear();
+        in = c == u'<' ? In::TagStart : In::Text;
+        return;
+    }
+    switch (in) {
+    case In::Text:
+        break;
+    case In::TagStart:
+        in = c == u'!' || c == u'?' || c == u'/' ? In::Text : In::Tag;
+        break;
+    case In::Tag:
+    case In::Blanks:
+        if (isBlank(c))
+            in = In::Blanks;
+        else if (c == u'>' || c == u'/')
+            in = In::Text;
+        else if (in == In::Blanks)
+            startName(c);
+        break;
+    case In::Name:
+        if (c == u'=' || isBlank(c))
+            endName();
+        else
+            name += c;
+        break;
+    case In::Value:
+        if (c == u'"')
+            in = In::DoubleQuotes;
+        else if (c == u'\'')
+            in = In::SingleQuotes;
+        break;
+    case In::SingleQuotes:
+    case In::DoubleQuotes:
+        if (c == (in == In::SingleQuotes ? u'\'' : u'"'))
+            in = In::Blanks;
+        break;
+    }
+}
+
+void TagPlaces::startName(QChar c)
+{
+    in = In::Name;
+    name = c;
+    attributes.push_back(here);
+}
+
+/// Behind the name, where the value may be some blanks away. The reader takes declarations of name
+/// spaces out of the attributes.
+void TagPlaces::endName()
+{
+    in = In::Value;
+    if (name == "xmlns"_L1 || name.startsWith("xmlns:"_L1))
+        attributes.pop_back();
+}
+
+tools::Place TagPlaces::attribute(int position) const
+{
+    return position >= 0 && size_t(position) < attributes.size() ? attributes[size_t(position)]
+                                                                 : tagPlace;
+}
+
+} // namespace requestcheck
