@@ -172,29 +172,6 @@ TEST(PrintRun, OutlivesSignalsOfItsStreams)
     }
 }
 
-/// A locale of the given codeset, built for the test alone.
-class Locale : public support::Folder
-{
-public:
-    explicit Locale(const QString &codeset)
-        : name(u"xx_XX."_s + codeset)
-    {
-        QProcess localedef;
-        localedef.start(u"localedef"_s, {u"-f"_s, codeset, u"-i"_s, u"POSIX"_s, path(name)});
-        localedef.waitForFinished();
-        EXPECT_TRUE(QFileInfo(path(name)).isDir());
-    }
-
-    /// The C library itself leaks the search path, which is no finding of ours.
-    QStringList variables() const
-    {
-        return {u"LOCPATH="_s + path(), u"LC_ALL="_s + name, u"ASAN_OPTIONS=detect_leaks=0"_s};
-    }
-
-private:
-    QString name;
-};
-
 TEST(PrintRun, WritesInTheEncodingOfTheLocale)
 {
     const QByteArray request = "<p><method name=\"printFullOrderFiscal\"/><receipe "
@@ -205,11 +182,11 @@ TEST(PrintRun, WritesInTheEncodingOfTheLocale)
     EXPECT_EQ(support::printed(request, home), utf8);
     EXPECT_EQ(support::printed(request, home, {u"LC_ALL=C"_s}), utf8);
     EXPECT_EQ(support::printed(request, home, {u"LC_ALL=xx_XX.ISO-8859-1"_s}), utf8);
-    const Locale latin9(u"ISO-8859-15"_s);
+    const support::Locale latin9(u"ISO-8859-15"_s);
     EXPECT_EQ(support::printed(request, home, latin9.variables()), row("caff\xE8 \xA4 ?.?"));
-    const Locale latin1(u"ISO-8859-1"_s);
+    const support::Locale latin1(u"ISO-8859-1"_s);
     EXPECT_EQ(support::printed(request, home, latin1.variables()), row("caff\xE8 ? ?.?"));
-    const Locale cyrillic(u"CP1251"_s);
+    const support::Locale cyrillic(u"CP1251"_s);
     EXPECT_EQ(support::printed(request, home, cyrillic.variables()), row("caff? \x88 ?.\xC6"));
 }
 

@@ -35,10 +35,10 @@ qsizetype visibleSize(QStringView text)
     return text.size();
 }
 
-/// How much of the beginning of `text` stands in the line.
-qsizetype printedPart(QStringView text, const QString &line)
+/// How much of the beginning of `text`, `most` characters at most, stands in the line.
+qsizetype printedPart(QStringView text, qsizetype most, const QString &line)
 {
-    qsizetype size = qMin(text.size(), line.size() * 2); // a printed word is never half as long
+    qsizetype size = qBound(qsizetype(0), most, text.size());
     while (size > 0 && !line.contains(asPrinted(text.first(size))))
         --size;
     return size;
@@ -124,8 +124,9 @@ void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
         if (longest < 0 || sizeAt(i) > sizeAt(longest))
             longest = i;
     }
-    const QString what = longest < 0 ? tools::excerpt(text)
-                                     : "the line of `"_L1 + current.atts.qName(longest) + u'`';
+    const QString what = longest < 0
+                             ? tools::excerpt(text)
+                             : "the line of "_L1 + tools::excerpt(current.atts.qName(longest));
     tell(code,
          what + " has "_L1 + inCharacters(visibleSize(text)) + ", "_L1 + QString::number(excess)
              + " more than the paper"_L1,
@@ -145,7 +146,7 @@ void CheckingDevice::checkDescription()
     if (current.row->element == u"statement")
         text = tr(text.toUtf8().constData()); // the only description that is translated
     if (!hasControl(text) && !lastLine.contains(asPrinted(text)))
-        tellCut(use->name, text.sliced(printedPart(text, lastLine)));
+        tellCut(use->name, text.sliced(printedPart(text, settings.paperWidth, lastLine)));
 }
 
 void CheckingDevice::tellCut(QLatin1StringView attribute, const QString &lost)

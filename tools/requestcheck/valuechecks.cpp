@@ -49,11 +49,12 @@ QString firstUnknown(QStringView text, QTextCodec *codec)
 void CheckingDevice::checkValue(int position)
 {
     const QString value = current.atts.value(position);
-    const QString name = current.atts.qName(position);
+    const QString name = tools::excerpt(current.atts.qName(position));
     const tools::Place at = places.attribute(position);
     checkCharacters(value, name, at);
     checkEncoding(value, name, at);
-    if (name.endsWith("address"_L1) && current.row->find(name))
+    const AttributeUse *const use = current.row->find(current.atts.qName(position));
+    if (use && use->name.endsWith("address"_L1))
         checkAddress(value, name, at);
 }
 
@@ -61,18 +62,16 @@ void CheckingDevice::checkCharacters(const QString &value, const QString &name, 
 {
     if (std::ranges::any_of(value, isLineEnd)) {
         tell(codes::lineFeed,
-             "a line feed in `"_L1 + name + "`: the printer takes what follows for a command"_L1,
-             at);
+             "a line end in "_L1 + name + ": the printer takes what follows for a command"_L1, at);
     } else {
         const auto *const control = std::ranges::find_if(value, isControl);
         if (control != value.end())
             tell(codes::controlCharacter,
-                 "the control character "_L1 + tools::excerpt(QString(*control)) + " in `"_L1 + name
-                     + u'`',
+                 "the control character "_L1 + tools::excerpt(QString(*control)) + " in "_L1 + name,
                  at);
     }
     if (value.contains("\"@"_L1))
-        tell(codes::endMark, "`\"@` in `"_L1 + name + "` ends the printed line early"_L1, at);
+        tell(codes::endMark, "`\"@` in "_L1 + name + " ends the printed line early"_L1, at);
 }
 
 void CheckingDevice::checkEncoding(const QString &value, const QString &name, tools::Place at)
@@ -80,15 +79,15 @@ void CheckingDevice::checkEncoding(const QString &value, const QString &name, to
     if (isAscii(value))
         return;
     if (value.contains(QChar::ReplacementCharacter)) {
-        tell(codes::undecodable,
-             u'`' + name + "` has bytes that are not in the encoding of the request"_L1, at);
+        tell(codes::undecodable, name + " has bytes that are not in the encoding of the request"_L1,
+             at);
         return;
     }
     QTextCodec *const codec = text::localeCodec();
     const QString unknown = codec ? firstUnknown(value, codec) : QString();
     if (!unknown.isEmpty())
         tell(codes::notInEncoding,
-             tools::excerpt(unknown) + " in `"_L1 + name + "` prints as `?`: it is not in "_L1
+             tools::excerpt(unknown) + " in "_L1 + name + " prints as `?`: it is not in "_L1
                  + QString::fromLatin1(codec->name()),
              at);
 }
@@ -100,7 +99,7 @@ void CheckingDevice::checkAddress(const QString &value, const QString &name, too
     const QString lost = end < 0 ? QString() : value.sliced(end);
     if (std::ranges::any_of(lost, [](QChar c) { return c != u',' && !c.isSpace(); }))
         tell(codes::addressPart,
-             "an empty part ends `"_L1 + name + "`: "_L1 + tools::excerpt(lost)
+             "an empty part ends "_L1 + name + ": "_L1 + tools::excerpt(lost)
                  + " is not printed"_L1,
              at);
 }

@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: MIT
+#include "tools/requestcheck/requestcheck.h"
+
+#include "tests/recordingdevice.h"
+#include "tools/requestcheck/codes.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextCodec>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+using namespace Qt::StringLiterals;
+using support::Home;
+using support::Outcome;
+using support::zentaro;
+
+namespace {
+
+using Codes = std::set<std::string>;
+
+std::vector<tools::Finding> findingsIn(QByteArray request)
+{
+    QBuffer buffer(&request);
+    return requestcheck::check(buffer, true);
+}
+
+Codes codesIn(const QByteArray &request)
+{
+    Codes codes;
+    for (const tools::Finding &finding : findingsIn(request))
+        codes.insert(finding.code.data());
+    return codes;
+}
+
+/// A request of one document.
+QByteArray document(const QByteArray &method, const QByteArray &elements)
+{
+    return "<p><method name='print" + method + "'/>" + elements + "</p>";
+}
+
+QByteArray item(const QByteArray &name, const QByteArray &price)
+{
+    return document("FullOrder", "<receipe number='1' name='" + name + "' price='" + price
+                                     + "' totalPrice='1'/>");
+}
+
+QByteArray fiscal(const QByteArray &name, const QByteArray &number, const QByteArray &price,
+                  const QByteArray &department)
+{
+    return document("FullOrderFiscal", "<receipe name='" + name + "' number='" + number
+                                           + "' price='" + price + "' department='" + department
+                                           + "'/>");
+}
+
+QByteArray headers(const QByteArray &value)
+{
+    return document("Sold", "<headers a='" + value + "'/>");
+}
+
+QByteArray company(qsizetype size)
+{
+    return document("Sold", "<company a='" + QByteArray(size, 'x') + "'/>");
+}
+
+QByteArray report(const QByteArray &element)
+{
+    return document("Report", "<" + element + "/>");
+}
+
+QByteArray customer(const QByteArray &address)
+{
+    return document("FullOrder", "<customer name='' billingaddress='" + address + "'/>");
+}
+
+QByteArray entities(const QByteArray &value, int references)
+{
+    return "<!DOCTYPE p [<!ENTITY e '" + value + "'>]>"
+           + document("Sold", "<headers a='" + QByteArray("&e;").repeated(references) + "'/>"
+                                  + QByteArray(40'000, ' '));
+}
+
+QByteArray nested(int depth)
+{
+    return document("Sold",
+                    QByteArray("<logo>").repeated(depth) + QByteArray("</logo>").repeated(depth));
+}
+
+/// A request that raises a code and no other, and one beside it that raises none.
+struct Pair
+{
+    const char *code;
+    QByteArray faulty;
+    QByteArray fine;
+};
+
+const QByteArray sold = document("Sold", "");
+const QByteArray soldItem = "<receipe quantity='1' description='a' amount='1'/>";
+
+const std::vector<Pair> requestFaults = {
+    {"xml", document("Sold", "<logo>"), document("Sold", "<logo></logo>")},
+    {"xml", "", sold},
+    {"xml", document("Sold", "\xEF\xBF\xBF"), document("Sold", "\xEF\xBF\xBC")},
+    {"limit", nested(1'000), nested(999)},
+    {"limit", entities(QByteArray(1'025, 'x'), 0), entities(QByteArray(1'024, 'x'), 0)},
+    {"limit", entities("&#38;e;", 0), entities("&#38;#38;", 0)},
+    {"limit", entities("", 1'001), entities("", 999)},
+    {"limit", "<!DOCTYPE p [" + QByteArray(50'000, ' ') + "]>" + sold, "<!DOCTYPE p []>" + sold},
+    {"no-method", "<p/>", sold},
+    {"unknown-method", document("sold", soldItem), document("Sold", soldItem)},
+    {"unknown-method", "<method Name='printSold'/>", "<method name='printSold'/>"},
+    {"before-method", "<p><logo/><method name='printSold'/></p>", document("Sold", "<logo/>")},
+    {"before-method", "<receipe><method name='printSold'/></receipe>",
+     "<recipe><method name='printSold'/></recipe>"},
+    {"second-method", document("Sold", "<method name='printSold'/>"), sold},
+    {"unknown-element", document("Sold", "<total price='1'/>"),
+     document("FullOrder", "<total price='1'/>")},
+    {"unknown-element", document("Sold", "<Logo/>"), document("Sold", "<logo/>")},
+    {"unknown-attribute", document("Sold", "<logo name='a'/>"),
+     document("Sold", "<logo xmlns='a' xmlns:b='c'/>")},
+    {"unknown-attribute", document("Sold", "").replace("Sold'", "Sold' copies='2'"), sold},
+    {"unknown-attribute", report("date begindate='' enddate='' number=''"),
+     report("date begindate='' enddate=''")},
+    {"duplicate-attribute", item("a", "1' price='2"), item("a", "1")},
+    {"missing-attribute", document("Sold", "<receipe quantity='1' description='a'/>"),
+     document("Sold", "<receipe quantity='' description='' amount=''/>")},
+    {"missing-attribute", document("Sold", "<orderinfo/>"),
+     document("Sold", "<orderinfo date=''/>")},
+    {"missing-attribute", report("cancelledsummary number='1' totals='1' a='S' b='1'"),
+     report("cancelledsummary number='1' totals='1' a='S' b='1' c='2'")},
+    {"attribute-order", report("cancelledsummary totals='1' totals='1' number='1' b='' c=''"),
+     report("cancelledsummary totals='1' number='1'")},
+    {"switch-off", document("PartialOrder", "<company a='b'/>"),
+     document("PartialOrder", "<company a=''/>")},
+    {"switch-off", document("Sold", "<orderinfo date='1' time='2'/>"),
+     document("Sold", "<orderinfo date='1' time=''/>")},
+    {"prints-nothing", document("AbstractOrder", soldItem), document("Sold", soldItem)},
+    {"prints-nothing", document("AbstractOrderFiscal", "<total cash='1'/>"),
+     document("AbstractOrderFiscal", "<total/>")},
+};
+
+const std::vector<Pair> paperFaults = {
+    {"line-feed", headers("a&#10;J"), headers("a J")},
+    {"line-feed", item("a&#13;", "1"), item("=a", "1")},
+    {"line-feed", headers("a\nJ"), document("PartialOrder", "<printers name='' port='a\nJ'/>")},
+    {"control-character", headers("a&#9;"), headers("a\xC2\xA0")},
+    {"control-character", headers("\xC2\x9B"), headers("\xC3\x9B")},
+    {"end-mark", headers("a&quot;@"), headers("a&quot; @")},
+    {"address-part", customer("a,,b"), customer("a, ,b,,")},
+    {"cut-description", item(QByteArray(20, 'x'), "1"), item(QByteArray(19, 'x'), "1")},
+    {"cut-description", item("TOTALE 901234567 TOT", "1"), item("TOTALE 901234567 TO", "1")},
+    {"cut-description", fiscal("123456", "1", "1", "1"), fiscal("12345", "1", "1", "1")},
+    {"line-too-long", item("a", "123456.00"), item("a", "12345.00")},
+    {"line-too-long", headers(QByteArray(41, 'x')), headers(QByteArray(40, 'x') + "  ")},
+    {"line-too-long", report("prefiscalssummary number='1' total='1234567890123456'"),
+     report("prefiscalssummary number='1' total='123456789012345'")},
+    {"not-centred", company(34), company(33)},
+    {"not-centred", company(38), company(39)},
+    {"undecodable", item("caff\xE8", "1"),
+     "<?xml version='1.0' encoding='ISO-8859-1'?>" + item("caff\xE8", "1")},
+    {"fiscal-quote", fiscal("a&quot;", "1", "1", "1"), fiscal("a&apos;", "1", "1", "1")},
+    {"fiscal-number", fiscal("a", "1,5", "1", "1"), fiscal("a", "1.5", ".5", "1")},
+    {"fiscal-number", fiscal("a", "1", "-1.50", "1"), fiscal("a", "1", "1.50", "1")},
+    {"fiscal-number", fiscal("a", "1", "1.5.0", "1"), fiscal("a", "1", "150", "1")},
+    {"fiscal-number", document("FullOrderFiscal", "<receipe name='a' price='1' department='1'/>"),
+     document("AbstractOrderFiscal", "<receipe_type name='longer' price='1' department='1'/>")},
+    {"fiscal-department", fiscal("a", "1", "1", ""), fiscal("a", "1", "1", "12")},
+    {"fiscal-department", fiscal("a", "1", "1", "1.0"), fiscal("a", "1", "1", "10")},
+};
+
+TEST(RequestCheck, FindsEachFaultAndNothingBesideIt)
+{
+    const QByteArray columns = "quantityFieldWidth=3;priceFieldWidth=8;totalPriceFieldWidth=9;"
+                               "paperWidth=40;printHeader=true;";
+    support::configure("prefiscaldoc:{" + columns
+                       + "printCustomer=true;printBillingAddress=true;};"
+                         "solddoc:{"
+                       + columns
+                       + "printCompany=true;printDate=true;};"
+                         "reportdoc:{"
+                       + columns + "};doc:{" + columns
+                       + "};"
+                         "fiscaldoc:{descriptionWidth=5;};");
+    Codes seen{"no-configuration", "not-in-encoding"}; // which need a program of their own
+    for (const std::vector<Pair> &pairs : {requestFaults, paperFaults}) {
+        for (const Pair &pair : pairs) {
+            Codes codes = codesIn(pair.faulty);
+            EXPECT_EQ(codes.erase(pair.code), 1)
+                << pair.code << ' ' << pair.faulty.left(200).data();
+            // What stands in the place of another attribute is told as well.
+            EXPECT_TRUE(codes.empty() || QLatin1StringView(pair.code) == "attribute-order"_L1)
+                << *codes.begin();
+            EXPECT_EQ(codesIn(pair.fine), Codes{})
+                << pair.code << ' ' << pair.fine.left(200).data();
+            seen.insert(pair.code);
+        }
+    }
+    for (const requestcheck::codes::Code &code : requestcheck::codes::all)
+        EXPECT_TRUE(seen.contains(code.name.data())) << code.name.data();
+}
+
+TEST(RequestCheck, PointsAtTagsAndAttributesInEveryEncoding)
+{
+    struct Row
+    {
+        const char *encoding;
+        const char *request;
+        qint64 line, column;
+    };
+    const QString head = u"<?xml version='1.0' encoding='%1'?><p><method name='printSold'/>"_s;
+    const std::vector<Row> rows = {
+        {"UTF-8", "\n <a\n b='<'/>", 2, 2}, // a fault in the XML stops behind the tag's beginning
+        {"UTF-8", "<!-- <a b='\"> -->\n\u00E8\u20AC\U0001D11E<a>", 2, 10},
+        {"UTF-16", "<!-- <a b='\"> -->\n\u00E8\u20AC\U0001D11E<a>", 2, 4},
+        {"ISO-8859-15", "\n\u00E8\u20AC<a>", 2, 3},
+        {"UTF-8", "\r\n<logo\r\n x:y\n = '>'/>", 3, 2},
+        {"UTF-8", "\n<logo xmlns:a='/'  b=\"'\"/>", 2, 20},
+        {"UTF-8", "\n<logo/><logo\tb='\u00E8'  /><!-- \n -->", 2, 14},
+    };
+    for (const Row &row : rows) {
+        const QString text =
+            head.arg(QLatin1StringView(row.encoding)) + QString::fromUtf8(row.request);
+        const auto findings = findingsIn(QTextCodec::codecForName(row.encoding)->fromUnicode(text));
+        ASSERT_FALSE(findings.empty()) << row.request;
+        EXPECT_EQ(findings.front().at.line, row.line) << row.request;
+        EXPECT_EQ(findings.front().at.column, row.column) << row.request;
+    }
+    const QByteArray far = QByteArray(100'000, '\n') + " <a/>";
+    EXPECT_EQ(findingsIn(document("Sold", far)).front().at.line, 100'001);
+    const auto fromEntity =
+        findingsIn("<!DOCTYPE p [<!ENTITY e \"<a/>\">]>\n" + document("Sold", "\n &e;"));
+    EXPECT_EQ(fromEntity.front().at.line, 3);
+    EXPECT_EQ(fromEntity.front().at.column, 2);
+}
+
+TEST(RequestCheck, KeepsAHundredOfACode)
+{
+    const auto findings = findingsIn(document("Sold", QByteArray("<a/><b/>").repeated(5'000)));
+    ASSERT_EQ(findings.size(), 101);
+    EXPECT_EQ(findings.back().text, u"9900 more like this");
+    EXPECT_EQ(findings.back().code, "unknown-element"_L1);
+}
+
+QString samples(const QString &name = {})
+{
+    return support::sourceDir() + u"/samples/"_s + name;
+}
+
+/// Runs the check with the configuration of the samples for paper of 40 columns.
+Outcome checked(const QStringList &words, const QStringList &variables = {})
+{
+    const Home home;
+    return zentaro(QStringList{u"check"_s, u"-c"_s, samples(u"zentaro-40.conf"_s)} + words, home,
+                   variables);
+}
+
+TEST(RequestCheck, FindsNoFaultInTheSamples)
+{
+    const std::pair<QString, Codes> papers[] = {
+        {u"zentaro-40.conf"_s, {"cut-description", "prints-nothing", "switch-off"}},
+        // The labels of the report's tables and of the unpaid amount are wider by themselves.
+        {u"zentaro-32.conf"_s,
+         {"cut-description", "prints-nothing", "switch-off", "line-too-long"}}};
+    for (const auto &[configuration, allowed] : papers) {
+        SyncSingleton<ZTConfiguration>::instance()->readFile(samples(configuration), u"cfg"_s);
+        for (const QString &name : QDir(samples()).entryList({u"*.xml"_s})) {
+            const Codes codes = codesIn(support::readFile(samples(name)));
+            EXPECT_TRUE(std::ranges::includes(allowed, codes)) << name.toStdString();
+            EXPECT_TRUE(!codes.contains("line-too-long") || name == "printReport.xml"_L1
+                        || name == "printAbstractOrderReceipt.xml"_L1)
+                << name.toStdString();
+        }
+    }
+}
+
+TEST(RequestCheck, TellsFaultsInOrder)
+{
+    const QString folder = support::sourceDir() + u"/tests/golden/check/"_s;
+    const Outcome text = checked({folder + u"faults.xml"_s});
+    EXPECT_EQ(text.exitStatus, 1);
+    EXPECT_EQ(text.errors, "");
+    QByteArray messages = text.output;
+    messages.replace(folder.toUtf8(), "");
+    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
+        support::writeFile(folder + u"faults.txt"_s, messages);
+    EXPECT_EQ(messages, support::readFile(folder + u"faults.txt"_s));
+
+    const Outcome json = checked({u"--json"_s, folder + u"faults.xml"_s, samples()});
+    const QJsonArray findings = QJsonDocument::fromJson(json.output).array();
+    EXPECT_GT(findings.size(), messages.count('\n') + 5);
+    QByteArray again;
+    for (const auto &value : findings) {
+        const QJsonObject finding = value.toObject();
+        if (!finding[u"file"].toString().endsWith(u"faults.xml"))
+            continue;
+        again += u"faults.xml:%1:%2: %3: %4 [%5]\n"_s.arg(finding[u"line"].toInt())
+                     .arg(finding[u"column"].toInt())
+                     .arg(finding[u"severity"].toString(), finding[u"message"].toString(),
+                          finding[u"code"].toString())
+                     .toUtf8();
+    }
+    EXPECT_EQ(again, messages);
+}
+
+TEST(RequestCheck, AnswersByItsExitStatus)
+{
+    const support::Folder folder;
+    const auto file = [&folder](const QString &name, const QByteArray &content) {
+        support::writeFile(folder.path(name), content);
+        return folder.path(name);
+    };
+    const QString fine = file(u"fine.xml"_s, sold);
+    const QString warning = file(u"warning.xml"_s, document("Sold", "<x/>"));
+    const QString error = file(u"error.xml"_s, "<p/>");
+    const std::pair<QStringList, int> rows[] = {
+        {{fine}, 0},
+        {{warning, fine}, 0},
+        {{u"--werror"_s, fine}, 0},
+        {{u"--werror"_s, warning, fine}, 1},
+        {{error, fine}, 1},
+        {{folder.path()}, 1},
+        {{fine, folder.path(u"missing.xml"_s)}, 2},
+        {{fine, u"-c"_s, folder.path(u"missing.conf"_s)}, 2},
+        {{fine, u"--bogus"_s}, 2},
+        {{}, 2},
+    };
+    for (const auto &[words, status] : rows) {
+        const Outcome outcome = checked(words);
+        EXPECT_EQ(outcome.exitStatus, status) << words.join(u' ').toStdString();
+        EXPECT_EQ(outcome.errors.isEmpty(), status < 2) << words.join(u' ').toStdString();
+    }
+    EXPECT_EQ(checked({fine}).output, "");
+    EXPECT_EQ(checked({u"--json"_s, fine}).output, "[\n]\n");
+    EXPECT_TRUE(checked({u"--werror"_s, warning}).output.contains(":1:34: error: `x` prints"));
+
+    const Home home;
+    const Outcome input = support::run(u"sh"_s,
+                                       {u"-c"_s, u"exec \"$0\" check - \"$1\" <\"$1\""_s,
+                                        QStringLiteral(ZENTARO_PROGRAM), warning},
+                                       home);
+    EXPECT_EQ(input.output.count("no-configuration"), 1); // once for all requests
+    EXPECT_TRUE(input.output.contains("\n-:1:34: warning: "));
+    EXPECT_TRUE(input.output.endsWith("[unknown-element]\n"));
+    EXPECT_EQ(input.output.count('\n'), 3);
+}
+
+TEST(RequestCheck, KnowsTheEncodingAndTheLabelsOfThePrintFile)
+{
+    const support::Folder folder;
+    support::writeFile(folder.path(u"a.xml"_s), headers("\u20AC \U0001F355 caff\u00E8"));
+    const support::Locale latin9(u"ISO-8859-15"_s);
+    const QByteArray output = checked({folder.path(u"a.xml"_s)}, latin9.variables()).output;
+    EXPECT_TRUE(output.contains("in `a` prints as `?`: it is not in ISO-8859-15")) << output.data();
+    EXPECT_EQ(output.count("not-in-encoding"), 1);
+    EXPECT_EQ(checked({folder.path(u"a.xml"_s)}).output, "");
+}
+
+TEST(RequestCheck, IsDocumented)
+{
+    const QString page = support::sourceDir() + u"/man/zentaro-check.1"_s;
+    const QByteArray manual = support::readFile(page);
+    for (const requestcheck::codes::Code &code : requestcheck::codes::all)
+        EXPECT_TRUE(manual.contains(QByteArray(".It Cm ") + code.name.data() + '\n'))
+            << code.name.data();
+    EXPECT_EQ(manual.count(".It Cm "), int(requestcheck::codes::all.size()));
+    const Outcome lint = support::run(u"mandoc"_s, {u"-Tlint"_s, page}, Home());
+    EXPECT_EQ(lint.exitStatus, 0) << lint.output.data() << lint.errors.data();
+}
+
+} // namespace

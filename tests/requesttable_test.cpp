@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "render/documentmethod.h"
+#include "render/elements.h"
+#include "tests/recordingdevice.h"
+#include "tools/requestcheck/elementtable.h"
+
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+using namespace Qt::StringLiterals;
+using requestcheck::Column;
+using requestcheck::ElementRow;
+using Names = std::set<QString>;
+
+// What the check knows about elements and attributes, held against the paper and against the page.
+
+namespace {
+
+/// The printer, with its paper at hand.
+class Paper : public CompanyPrinterDriver
+{
+public:
+    explicit Paper(const DocumentMethod &method)
+        : CompanyPrinterDriver(u"/dev/null"_s)
+    {
+        stream = std::make_unique<QTextStream>(&paper);
+        QXmlAttributes atts;
+        atts.append(u"name"_s, {}, {}, method.name);
+        printed(u"method"_s, atts);
+    }
+    ~Paper() override { stream.reset(); }
+
+    /// What an element prints.
+    QString printed(const QString &name, const QXmlAttributes &atts)
+    {
+        paper.clear();
+        startElement({}, {}, name, atts);
+        return paper;
+    }
+    using PrinterDriver::settings;
+
+private:
+    QString paper;
+};
+
+/// Settings of all documents: every switch on but one, and columns that part their values.
+void configureAll(QLatin1StringView off = {})
+{
+    QByteArray settings =
+        "quantityFieldWidth=10;priceFieldWidth=10;totalPriceFieldWidth=10;paperWidth=400;";
+    for (const SettingKey<bool> &key : switchSettings())
+        settings += key.keyWord.data() + QByteArray(key.keyWord == off ? "=false;" : "=true;");
+    QByteArray groups;
+    for (const DocumentType &type : documentTypes())
+        groups += QString(type.keyPrefix).section(u'.', 1, 1).toLatin1() + ":{" + settings + "};";
+    support::configure(groups);
+}
+
+/// Every attribute that any element reads, each with a number that no other bears.
+QXmlAttributes everyAttribute()
+{
+    QStringList names{u"number"_s, u"totals"_s, u"unheard-of"_s, u"Name"_s, u"totalprice"_s};
+    for (const ElementRow &row : requestcheck::elementRows()) {
+        for (const requestcheck::AttributeUse &use : row.attributes)
+            names.append(use.name);
+    }
+    names.removeDuplicates();
+    QXmlAttributes atts;
+    for (const QString &name : names)
+        atts.append(name, {}, {}, QString::number(201 + atts.count()));
+    return atts;
+}
+
+/// The attributes whose values stand on the paper.
+Names seen(Paper &paper, const QString &element, const QXmlAttributes &atts)
+{
+    QString text = paper.printed(element, atts);
+    if (element == element::printers) { // is printed by another, which then forgets it
+        text = paper.printed(u"headers"_s, {});
+        paper.printed(element, {});
+    }
+    Names names;
+    for (int i = 0; i < atts.count(); ++i) {
+        if (text.contains(atts.value(i)))
+            names.insert(atts.qName(i));
+    }
+    return names;
+}
+
+Names expected(const ElementRow *row, const QXmlAttributes &atts, const DocumentSettings &settings)
+{
+    Names names;
+    for (int i = 0; row && i < atts.count(); ++i) {
+        if (fateOf(*row, atts, i, settings) == requestcheck::Fate::Printed)
+            names.insert(atts.qName(i));
+    }
+    return names;
+}
+
+TEST(RequestTable, SaysWhatEveryDocumentPrints)
+{
+    std::vector<QLatin1StringView> offs{{}};
+    for (const SettingKey<bool> &key : switchSettings())
+        offs.push_back(key.keyWord);
+    Names elements{u"print"_s, u"RECEIPE"_s};
+    for (const ElementRow &row : requestcheck::elementRows())
+        elements.insert(row.element.toString());
+    const QXmlAttributes atts = everyAttribute();
+    const auto methods = documentMethods();
+    for (const QLatin1StringView off : offs) {
+        configureAll(off);
+        for (const DocumentMethod &method : methods) {
+            Paper paper(method);
+            for (const QString &element : elements) {
+                const ElementRow *const row =
+                    requestcheck::elementRow(element, &method - methods.data());
+                EXPECT_EQ(seen(paper, element, atts), expected(row, atts, paper.settings))
+                    << method.name.data() << ' ' << element.toStdString() << " without "
+                    << (off.isEmpty() ? "" : off.data());
+                EXPECT_TRUE(row || paper.printed(element, atts).isEmpty()) << element.toStdString();
+            }
+        }
+    }
+}
+
+qsizetype longestLine(const QString &text)
+{
+    qsizetype longest = 0;
+    for (const QStringView line : qTokenize(text, u'\n'))
+        longest = qMax(longest, line.size());
+    return longest;
+}
+
+TEST(RequestTable, KnowsTheColumns)
+{
+    configureAll();
+    const auto methods = documentMethods();
+    int columns = 0;
+    for (const DocumentMethod &method : methods) {
+        Paper paper(method);
+        for (const ElementRow &row : requestcheck::elementRows()) {
+            if (requestcheck::elementRow(row.element, &method - methods.data()) != &row)
+                continue;
+            const auto longestWith = [&](const requestcheck::AttributeUse *wide, int by) {
+                QXmlAttributes atts;
+                for (const requestcheck::AttributeUse &use : row.attributes) {
+                    const int width = qMax(1, widthOf(use.column, paper.settings));
+                    atts.append(use.name, {}, {}, QString(width + (&use == wide ? by : 0), u'8'));
+                }
+                return longestLine(paper.printed(row.element.toString(), atts));
+            };
+            const qsizetype fitting = longestWith(nullptr, 0);
+            for (const requestcheck::AttributeUse &use : row.attributes) {
+                const bool isCut = use.column == Column::Description;
+                if (use.column == Column::None)
+                    continue;
+                ++columns;
+                EXPECT_EQ(longestWith(&use, isCut ? 999 : 1), fitting + (isCut ? 0 : 1))
+                    << method.name.data() << ' ' << row.element.toString().toStdString() << ' '
+                    << use.name.data();
+            }
+        }
+    }
+    EXPECT_GT(columns, 30);
+}
+
+/// The words between backquotes.
+QStringList quoted(const QString &cell)
+{
+    static const QRegularExpression word(u"`([^`]+)`"_s);
+    QStringList words;
+    for (const auto &match : word.globalMatch(cell))
+        words.append(match.captured(1));
+    return words;
+}
+
+/// A row of the page: an element, its attributes and its settings.
+void expectDocumented(const QStringList &cells, const ElementRow *row)
+{
+    ASSERT_TRUE(row) << cells[1].toStdString();
+    QStringList attributes;
+    Names switches;
+    if (row->onlyIf)
+        switches.insert(
+            std::ranges::find(switchSettings(), row->onlyIf, &SettingKey<bool>::member)->keyWord);
+    for (const requestcheck::AttributeUse &use : row->attributes) {
+        attributes.append(use.name);
+        if (use.onlyIf)
+            switches.insert(
+                std::ranges::find(switchSettings(), use.onlyIf, &SettingKey<bool>::member)
+                    ->keyWord);
+    }
+    EXPECT_EQ(quoted(cells[2]), attributes) << cells[1].toStdString();
+    EXPECT_EQ(cells[2].contains(u"all, in order"), row->rest == requestcheck::Rest::InOrder);
+    EXPECT_EQ(cells[2].contains(u"then three"), row->rest == requestcheck::Rest::Triples);
+    Names documented;
+    for (const QString &word : quoted(cells[3])) {
+        if (std::ranges::find(switchSettings(), word, &SettingKey<bool>::keyWord)
+            != switchSettings().end())
+            documented.insert(word);
+    }
+    EXPECT_EQ(documented, switches) << cells[1].toStdString();
+}
+
+TEST(RequestTable, IsTheSamplesPage)
+{
+    const QString page =
+        QString::fromUtf8(support::readFile(support::sourceDir() + u"/samples/README.md"_s));
+    const auto rowsOf = [&page](const QString &title) {
+        QList<QStringList> rows;
+        const QString section =
+            page.section("\n## "_L1 + title + u'\n', 1).section(u"\n## "_s, 0, 0);
+        for (const QString &line : section.split(u'\n')) {
+            if (line.startsWith(u"| `"))
+                rows.append(line.split(u'|'));
+        }
+        return std::pair(section, rows);
+    };
+    const auto shared = rowsOf(u"Elements of every list document"_s).second;
+    ASSERT_EQ(shared.size(), 10); // the customer is the last, which not all of them read
+    const auto methods = documentMethods();
+    for (const DocumentMethod &method : methods) {
+        auto [section, rows] = rowsOf(method.name);
+        if (section.contains(u"the elements of every list document"))
+            rows += shared.first(section.contains(u"`customer` and these") ? 10 : 9);
+        Names elements;
+        for (const QStringList &cells : rows) {
+            elements.insert(quoted(cells[1]).first());
+            expectDocumented(cells, requestcheck::elementRow(quoted(cells[1]).first(),
+                                                             &method - methods.data()));
+        }
+        const auto known = requestcheck::elementsOf(&method - methods.data());
+        EXPECT_EQ(elements, Names(known.begin(), known.end())) << method.name.data();
+    }
+}
+
+} // namespace
