@@ -44,7 +44,8 @@ TEST(ZentaroConfig, IsHelpedDocumentedAndCompleted)
     const Home home("zentaro : { doc : { paperWidth = 40; }; };");
     const QStringList commands = commandsIn(zentaro({u"config"_s, u"--help"_s}, home).output);
     ASSERT_EQ(commands.size(), 7);
-    EXPECT_EQ(commandsIn(zentaro({u"--help"_s}, home).output), QStringList(u"config"_s));
+    const QStringList groups = commandsIn(zentaro({u"--help"_s}, home).output);
+    EXPECT_EQ(offered({u"zentaro"_s, u""_s}, home).first(groups.size()), groups);
     const QString page = support::sourceDir() + u"/man/zentaro-config.1"_s;
     const QString manual = QString::fromUtf8(support::readFile(page));
     static const QRegularExpression option(u"^ +(?:-\\w, )?--(\\w+)"_s,
@@ -62,13 +63,18 @@ TEST(ZentaroConfig, IsHelpedDocumentedAndCompleted)
                 << command.toStdString() << ' ' << match.captured(1).toStdString();
         }
     }
-    EXPECT_EQ(offered({u"zentaro"_s, u"c"_s}, home), QStringList(u"config"_s));
+    EXPECT_EQ(offered({u"zentaro"_s, u"co"_s}, home), QStringList(u"config"_s));
     EXPECT_EQ(offered({u"zentaro"_s, u"config"_s, u"-f"_s, u"x"_s, u"c"_s}, home),
               (QStringList{u"check"_s, u"convert"_s}));
     EXPECT_EQ(offered({u"zentaro"_s, u"config"_s, u""_s}, home).first(commands.size()), commands);
     EXPECT_EQ(
         offered({QStringLiteral(ZENTARO_PROGRAM), u"config"_s, u"get"_s, u"zentaro.doc.p"_s}, home),
         QStringList(u"zentaro.doc.paperWidth"_s));
+    for (const char *const word : {"--config", "--json", "--werror"}) {
+        const QString checkOption = QLatin1StringView(word);
+        EXPECT_EQ(offered({u"zentaro"_s, u"check"_s, u"-c"_s, u"x"_s, checkOption}, home),
+                  QStringList(checkOption));
+    }
     const Outcome lint = support::run(u"mandoc"_s, {u"-Tlint"_s, page}, home);
     EXPECT_EQ(lint.exitStatus, 0) << lint.output.toStdString() << lint.errors.toStdString();
 }

@@ -111,7 +111,8 @@ const std::vector<Pair> requestFaults = {
     {"limit", entities(QByteArray(1'025, 'x'), 0), entities(QByteArray(1'024, 'x'), 0)},
     {"limit", entities("&#38;e;", 0), entities("&#38;#38;", 0)},
     {"limit", entities("", 1'001), entities("", 999)},
-    {"limit", "<!DOCTYPE p [" + QByteArray(50'000, ' ') + "]>" + sold, "<!DOCTYPE p []>" + sold},
+    {"limit", "<!DOCTYPE p [" + QByteArray("<!-- -->").repeated(5'000) + "]>" + sold,
+     "<!DOCTYPE p []>" + sold},
     {"no-method", "<p/>", sold},
     {"unknown-method", document("sold", soldItem), document("Sold", soldItem)},
     {"unknown-method", "<method Name='printSold'/>", "<method name='printSold'/>"},
@@ -215,7 +216,7 @@ TEST(RequestCheck, PointsAtTagsAndAttributesInEveryEncoding)
     };
     const QString head = u"<?xml version='1.0' encoding='%1'?><p><method name='printSold'/>"_s;
     const std::vector<Row> rows = {
-        {"UTF-8", "\n <a\n b='<'/>", 2, 2}, // a fault in the XML stops behind the tag's beginning
+        {"UTF-8", "\n <logo\n b='<'/>", 3, 5},
         {"UTF-8", "<!-- <a b='\"> -->\n\u00E8\u20AC\U0001D11E<a>", 2, 10},
         {"UTF-16", "<!-- <a b='\"> -->\n\u00E8\u20AC\U0001D11E<a>", 2, 4},
         {"ISO-8859-15", "\n\u00E8\u20AC<a>", 2, 3},
@@ -337,7 +338,7 @@ TEST(RequestCheck, AnswersByItsExitStatus)
     }
     EXPECT_EQ(checked({fine}).output, "");
     EXPECT_EQ(checked({u"--json"_s, fine}).output, "[\n]\n");
-    EXPECT_TRUE(checked({u"--werror"_s, warning}).output.contains(":1:34: error: `x` prints"));
+    EXPECT_TRUE(checked({u"--werror"_s, warning}).output.contains(":1:30: error: `x` prints"));
 
     const Home home;
     const Outcome input = support::run(u"sh"_s,
@@ -345,7 +346,7 @@ TEST(RequestCheck, AnswersByItsExitStatus)
                                         QStringLiteral(ZENTARO_PROGRAM), warning},
                                        home);
     EXPECT_EQ(input.output.count("no-configuration"), 1); // once for all requests
-    EXPECT_TRUE(input.output.contains("\n-:1:34: warning: "));
+    EXPECT_TRUE(input.output.contains("\n-:1:30: warning: "));
     EXPECT_TRUE(input.output.endsWith("[unknown-element]\n"));
     EXPECT_EQ(input.output.count('\n'), 3);
 }
