@@ -120,10 +120,12 @@ void CheckingDevice::checkElement()
             checkAttributes();
         else if (!knownElements.empty())
             checkUnknownElement();
-    } else if (!isRoot || isKnownElement(current.name)) {
+    } else if (const bool isKnown = isKnownElement(current.name); !isRoot || isKnown) {
+        const std::array method = {element::method.toString()};
         tell(codes::beforeMethod,
              tools::excerpt(current.name)
-                 + " stands before the `method` element and prints nothing"_L1,
+                 + " stands before the `method` element and prints nothing"_L1
+                 + (isKnown ? QString() : tools::suggestion(current.name, method)),
              places.tag());
     }
 }
