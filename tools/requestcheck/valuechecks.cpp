@@ -70,7 +70,8 @@ void CheckingDevice::checkCharacters(const QString &value, const QString &name, 
                  "the control character "_L1 + tools::excerpt(QString(*control)) + " in "_L1 + name,
                  at);
     }
-    if (value.contains("\"@"_L1))
+    const bool isFramed = !current.row->find(u"department"); // unlike a fiscal command
+    if (isFramed && value.contains("\"@"_L1))
         tell(codes::endMark, "`\"@` in "_L1 + name + " ends the printed line early"_L1, at);
 }
 
@@ -84,7 +85,9 @@ void CheckingDevice::checkEncoding(const QString &value, const QString &name, to
         return;
     }
     QTextCodec *const codec = text::localeCodec();
-    const QString unknown = codec ? firstUnknown(value, codec) : QString();
+    if (!codec) // UTF-8, which has them all
+        return;
+    const QString unknown = firstUnknown(value, codec);
     if (!unknown.isEmpty())
         tell(codes::notInEncoding,
              tools::excerpt(unknown) + " in "_L1 + name + " prints as `?`: it is not in "_L1

@@ -4,8 +4,9 @@
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "tools/config/source.h"
+#include "tools/terminal.h"
 
-#include <QFileInfo>
+#include <QFile>
 
 namespace tools {
 
@@ -24,11 +25,13 @@ std::optional<ConfigurationUse> useConfiguration(const Call &call, const Command
     const bool isNamed = line.isSet(u"config"_s);
     QString path = isNamed ? line.value(u"config"_s) : ZTConfiguration::userFile();
     const QString format = isNamed ? configtool::formatOf(path) : u"cfg"_s;
-    const bool isMissing = !isNamed && !QFileInfo::exists(path);
-    if (isMissing)
+    const bool isMissing = !isNamed && !QFile::exists(path);
+    if (isMissing) {
         path = u"/dev/null"_s; // an empty one in its place: the reader would tell of it
-    else if (!configtool::contentOf(call, {path, format}))
+    } else if (QFile file(path); !file.open(QIODevice::ReadOnly)) {
+        printError(call.command + ": "_L1 + path + ": "_L1 + file.errorString() + u'\n');
         return std::nullopt;
+    }
     static ZTConfiguration configuration(path, format);
     SyncSingleton<ZTConfiguration>::instance_pointer.store(&configuration);
     return isMissing ? ConfigurationUse::Missing : ConfigurationUse::Present;
