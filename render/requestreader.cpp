@@ -63,6 +63,8 @@ public:
         --depth;
         return target.endElement(namespaceURI, localName, qName);
     }
+    /// No document reads text; a handler learns here where the tag after it begins.
+    bool characters(const QString &text) override { return target.characters(text); }
 
 private:
     static bool isNameSpaceDeclaration(QStringView name)

@@ -22,9 +22,10 @@ constexpr int MaxDocumentTypeBytes = 16 * 1'024;
 constexpr int MaxEntitySize = 1'024;
 constexpr int MaxEntityReferences = 1'000;
 
-/// Hands the elements of a request to `handler` until its end, the first fault in the XML, or the
-/// first event that the handler answers with false. `request` need not be open; one that cannot be
-/// opened or read is an empty request. Answers whether the end was reached.
+/// Hands the elements of a request, and the text between them, to `handler` until its end, the
+/// first fault in the XML, or the first event that the handler answers with false. `request` need
+/// not be open; one that cannot be opened or read is an empty request. Answers whether the end was
+/// reached.
 bool read(QIODevice &request, QXmlContentHandler &handler);
 
 } // namespace requestreader

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/command.h"
 #include "tools/config/subcommands.h"
+#include "tools/preview/previewcommand.h"
 
 #include <QFile>
 
@@ -10,8 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<tools::Command, 1> commands = {{
+constexpr std::array<tools::Command, 2> commands = {{
     {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
+    {"preview"_L1, "shows what will be printed, as text or as a picture"_L1, preview::run},
 }};
 
 } // namespace
