@@ -266,7 +266,7 @@ bool useConfiguration(const tools::Call &call, const Options &options,
 
 bool Output::write(const QString &text)
 {
-    constexpr qsizetype Piece = 64 * 1'024; // characters
+    constexpr int Piece = 64 * 1'024; // characters
     waiting += text;
     return waiting.size() < Piece ? good : finish();
 }

@@ -107,7 +107,7 @@ qsizetype PrintFile::characterAt(const QByteArray &bytes, qsizetype at, Cells &c
 {
     const auto first = uchar(bytes[at]);
     if (first < 0x80) {
-        cells += first;
+        cells += char32_t(first);
         return 1;
     }
     for (qsizetype size = 1; size <= 4 && at + size <= bytes.size(); ++size) {
@@ -120,7 +120,7 @@ qsizetype PrintFile::characterAt(const QByteArray &bytes, qsizetype at, Cells &c
             return size;
         }
     }
-    cells += UndecodedByte + first;
+    cells += char32_t(UndecodedByte + first);
     return 1;
 }
 
