@@ -69,6 +69,8 @@ public:
         --depth;
         return target.endElement(namespaceURI, localName, qName);
     }
+    /// No document reads text; a handler learns here where the tag after it begins.
+    bool characters(const QString &text) override { return target.characters(text); }
 
 private:
     /// Answers `fine`, and keeps the reason where it is not.

@@ -47,9 +47,10 @@ public:
     virtual void stopped(Stop why, const QString &fault) = 0;
 };
 
-/// Hands the elements of a request to `handler` until its end, the first fault in the XML, or the
-/// first event that the handler answers with false. `request` need not be open; one that cannot be
-/// opened or read is an empty request. Answers whether the end was reached.
+/// Hands the elements of a request, and the text between them, to `handler` until its end, the
+/// first fault in the XML, or the first event that the handler answers with false. `request` need
+/// not be open; one that cannot be opened or read is an empty request. Answers whether the end was
+/// reached.
 bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer = nullptr);
 
 } // namespace requestreader

@@ -79,6 +79,32 @@ TEST(ZentaroConfig, IsHelpedDocumentedAndCompleted)
     EXPECT_EQ(lint.exitStatus, 0) << lint.output.toStdString() << lint.errors.toStdString();
 }
 
+TEST(ZentaroPreview, IsHelpedDocumentedAndCompleted)
+{
+    const Home home;
+    const Outcome help = zentaro({u"preview"_s, u"--help"_s}, home);
+    EXPECT_EQ(help.exitStatus, 0);
+    const QString page = support::sourceDir() + u"/man/zentaro-preview.1"_s;
+    const QString manual = QString::fromUtf8(support::readFile(page));
+    const QStringList completed = offered({u"zentaro"_s, u"preview"_s, u"--"_s}, home);
+    static const QRegularExpression option(u"^ +(?:-\\w, )?--([\\w-]+)"_s,
+                                           QRegularExpression::MultilineOption);
+    int options = 0;
+    for (const auto &match : option.globalMatch(QString::fromUtf8(help.output))) {
+        const QString name = match.captured(1);
+        EXPECT_TRUE(manual.contains(u"Fl -"_s + name + u' ')
+                    || manual.contains(u"Fl -"_s + name + u'\n'))
+            << name.toStdString();
+        EXPECT_TRUE(completed.contains(u"--"_s + name)) << name.toStdString();
+        ++options;
+    }
+    EXPECT_EQ(options, completed.size());
+    EXPECT_EQ(offered({u"zentaro"_s, u"preview"_s, u"--diff"_s, u"s"_s}, home),
+              QStringList(u"side"_s));
+    const Outcome lint = support::run(u"mandoc"_s, {u"-Tlint"_s, page}, home);
+    EXPECT_EQ(lint.exitStatus, 0) << lint.output.toStdString() << lint.errors.toStdString();
+}
+
 TEST(ZentaroConfig, NamesEveryCodeInTheManual)
 {
     const QString manual =

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/command.h"
 #include "tools/config/subcommands.h"
+#include "tools/preview/previewcommand.h"
 #include "tools/requestcheck/requestcheck.h"
 
 #include <QFile>
@@ -11,9 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<tools::Command, 2> commands = {{
+constexpr std::array<tools::Command, 3> commands = {{
     {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
     {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
+    {"preview"_L1, "shows what will be printed, as text or as a picture"_L1, preview::run},
 }};
 
 } // namespace

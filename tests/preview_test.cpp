@@ -1,0 +1,404 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support.h"
+#include "tools/preview/difference.h"
+#include "tools/preview/fiscalline.h"
+#include "tools/preview/paper.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QProcess>
+#include <QTextCodec>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+using preview::Cells;
+using preview::LineKind;
+using support::Home;
+using support::Outcome;
+using support::sourceDir;
+using support::zentaro;
+
+namespace {
+
+QByteArray configuration(const QString &columns)
+{
+    return support::readFile(sourceDir() + u"/samples/zentaro-"_s + columns + u".conf"_s);
+}
+
+/// A command whose output is held against the text of its name, with `@` for the source tree.
+struct Golden
+{
+    const char *name;
+    QStringList words;
+    int exitStatus;
+};
+
+void PrintTo(const Golden &golden, std::ostream *out)
+{
+    *out << golden.name;
+}
+
+class PreviewGolden : public testing::TestWithParam<Golden>
+{
+};
+
+TEST_P(PreviewGolden, PrintsItsReference)
+{
+    const Golden &golden = GetParam();
+    const Home home(configuration(u"40"_s));
+    QStringList words{u"preview"_s};
+    for (QString word : golden.words)
+        words += word.replace(u'@', sourceDir());
+    const Outcome outcome = zentaro(words, home);
+    EXPECT_EQ(outcome.exitStatus, golden.exitStatus) << outcome.errors.toStdString();
+    const QByteArray text = QByteArray(outcome.output)
+                                .replace(sourceDir().toUtf8(), "@")
+                                .replace(home.path().toUtf8(), "~");
+    const QString reference =
+        sourceDir() + u"/tests/golden/preview/"_s + QLatin1StringView(golden.name) + u".txt"_s;
+    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN")) {
+        support::writeFile(reference, text);
+        return;
+    }
+    EXPECT_EQ(text, support::readFile(reference));
+}
+
+std::string nameOf(const testing::TestParamInfo<Golden> &golden)
+{
+    return golden.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Preview, PreviewGolden,
+    testing::Values(
+        Golden{"receipt", {u"@/samples/printFullOrderReceipt.xml"_s}, 0},
+        Golden{"fiscal", {u"@/samples/printAbstractOrderFiscal.xml"_s}, 0},
+        Golden{"annotated", {u"--annotate"_s, u"@/tests/golden/odd/second-method.xml"_s}, 0},
+        Golden{"columns", {u"--columns"_s, u"24"_s, u"@/tests/golden/preview/sold.xml"_s}, 0},
+        Golden{"printfile", {u"@/tests/golden/odd/nested-and-text.prn"_s}, 0},
+        Golden{"odd", {u"@/tests/golden/preview/odd.prn"_s}, 0},
+        Golden{"several",
+               {u"@/samples/printAbstractOrder.xml"_s,
+                u"@/tests/golden/paper32/printPartialOrder.prn"_s},
+               0},
+        Golden{"unified",
+               {u"--against"_s, u"@/samples/zentaro-32.conf"_s, u"@/tests/golden/preview"_s,
+                u"@/samples/printFullOrder.xml"_s},
+               1},
+        Golden{"side",
+               {u"--against"_s, u"@/samples/zentaro-32.conf"_s, u"--diff"_s, u"side"_s,
+                u"@/tests/golden/preview/sold.xml"_s},
+               1}),
+    nameOf);
+
+/// A request is drawn from the bytes of the print run, and a print file needs no configuration.
+TEST(Preview, DrawsWhatThePrintRunPrints)
+{
+    const Home home(configuration(u"40"_s));
+    const Home empty;
+    const QDir samples(sourceDir() + u"/samples"_s);
+    const QStringList names = samples.entryList({u"*.xml"_s});
+    ASSERT_EQ(names.size(), 13);
+    for (const QString &name : names) {
+        const QString request = samples.filePath(name);
+        const QString printFile = home.path(u"print.out"_s);
+        support::writeFile(printFile, support::printed(support::readFile(request), home));
+        const Outcome fromRequest = zentaro({u"preview"_s, request}, home);
+        const Outcome fromFile = zentaro({u"preview"_s, u"--columns"_s, u"40"_s, printFile}, empty);
+        EXPECT_EQ(fromRequest.output, fromFile.output) << name.toStdString();
+        EXPECT_GT(fromRequest.output.size(), 100);
+        EXPECT_EQ(fromFile.exitStatus, 0);
+        EXPECT_EQ(fromFile.errors, "") << name.toStdString();
+    }
+}
+
+TEST(Preview, TellsARequestFromAPrintFileByItsContent)
+{
+    const std::pair<QByteArray, bool> files[] = {
+        {"<print/>", true},
+        {"\xEF\xBB\xBF<print/>", true},
+        {QByteArray(" \r\n\t<?xml?>"), true},
+        {QByteArray("\xFF\xFE<\0?\0", 6), true},
+        {QByteArray("\xFE\xFF\0<\0?", 6), true},
+        {QByteArray("\0<\0?", 4), true},
+        {"\nj\n\"<print/>\"@\n", false},
+        {"\n\"<\"1*1H1R\r\n", false},
+        {"", false},
+    };
+    for (const auto &[content, isRequest] : files)
+        EXPECT_EQ(preview::isRequest(content), isRequest) << content.toStdString();
+}
+
+TEST(Preview, TellsWhatIsWrong)
+{
+    const Home home(configuration(u"40"_s));
+    const QString request = sourceDir() + u"/tests/golden/preview/sold.xml"_s;
+    const QString printFile = sourceDir() + u"/tests/golden/paper40/printSold.prn"_s;
+    support::writeFile(home.path(u"broken.xml"_s),
+                       "<p>\n<method name=\"printSold\"/>\n<receipe\n quantity=2/>");
+    support::writeFile(home.path(u"unknown.xml"_s), "<p>\n<method name=\"printNothing\"/></p>");
+    support::writeFile(home.path(u"empty"_s), "");
+    const struct
+    {
+        QStringList words;
+        int exitStatus;
+        const char *message;
+    } rows[] = {
+        {{}, 2, "an argument is missing"},
+        {{request, u"-o"_s, u"a.gif"_s}, 2, "the picture's name ends in .png, .svg or .pdf"},
+        {{request, u"--columns"_s, u"0"_s}, 2, "--columns takes a number from 1 to 500"},
+        {{request, u"--dpi"_s, u"9999"_s}, 2, "--dpi takes a number from 50 to 1200"},
+        {{request, u"--width-mm"_s, u"70"_s}, 2, "--width-mm is 58 or 80"},
+        {{request, u"--diff"_s, u"x"_s}, 2, "--diff is unified or side"},
+        {{request, u"--encoding"_s, u"x"_s}, 2, "unknown encoding `x`"},
+        {{request, u"--config"_s, u"/no/such"_s}, 2, "/no/such: No such file"},
+        {{request, u"--against"_s, u"/no/such"_s}, 2, "/no/such: No such file"},
+        {{request, u"--against"_s, u"x"_s, u"--annotate"_s}, 2, "do not go together"},
+        {{printFile, u"--against"_s, home.configurationPath()}, 2, "not a print request"},
+        {{printFile, u"--annotate"_s}, 2, "a print file does not tell"},
+        {{home.path(u"broken.xml"_s)}, 1, "line 3: the print run stops reading here"},
+        {{home.path(u"unknown.xml"_s)}, 1, "File Format Not Supported"},
+        {{home.path(u"empty"_s)}, 0, "nothing is printed"},
+        {{sourceDir() + u"/samples"_s, u"--against"_s, home.configurationPath()}, 0, ""},
+    };
+    for (const auto &row : rows) {
+        const Outcome outcome = zentaro(QStringList(u"preview"_s) + row.words, home);
+        EXPECT_EQ(outcome.exitStatus, row.exitStatus) << row.message;
+        EXPECT_TRUE(outcome.errors.contains(row.message))
+            << row.message << " / " << outcome.errors.toStdString();
+    }
+}
+
+TEST(Preview, AnnotatesWithTheLineOnWhichATagBegins)
+{
+    const Home home(configuration(u"40"_s));
+    support::writeFile(home.path(u"r.xml"_s), "<p>\n<method\nname='printPartialOrder'/>\n\n"
+                                              "<receipe\n number='1'\n name='a'/>"
+                                              "<receipe number='2'\nname='b'/>\n<none/>\n</p>\n");
+    const QByteArray text =
+        zentaro({u"preview"_s, u"--annotate"_s, home.path(u"r.xml"_s)}, home).output;
+    const QList<QByteArray> lines = text.split('\n');
+    ASSERT_EQ(lines.size(), 5) << text.toStdString();
+    for (int i = 0; const char *const begin : {" 2 j ", " 5  ", " 7  ", "10 J "})
+        EXPECT_TRUE(lines[i++].startsWith(begin)) << begin << text.toStdString();
+}
+
+/// In a locale without frames the paper is drawn in ASCII, and bytes are the locale's.
+TEST(Preview, DrawsInTheLocalesEncoding)
+{
+    const Home home(configuration(u"40"_s));
+    QProcess::execute(u"localedef"_s, {u"-i"_s, u"it_IT"_s, u"-f"_s, u"ISO-8859-15"_s,
+                                       home.path(u"it_IT.ISO-8859-15"_s)});
+    // The system's library leaks what LOCPATH says.
+    const QStringList variables{u"LOCPATH="_s + home.path(), u"LC_ALL=it_IT.ISO-8859-15"_s,
+                                u"ASAN_OPTIONS=detect_leaks=0"_s};
+    const QByteArray text =
+        zentaro({u"preview"_s, u"--annotate"_s, sourceDir() + u"/tests/golden/preview/sold.xml"_s},
+                home, variables)
+            .output;
+    EXPECT_TRUE(text.contains("j  +----------------------------------------+\n"));
+    EXPECT_TRUE(text.contains("12    | 38 x Caff\xE8....................    49.40|\n"))
+        << text.toStdString();
+    EXPECT_TRUE(text.contains("0.0|0  <- 1 beyond the edge\n"));
+}
+
+std::vector<preview::PrintLine> linesOf(QByteArray content, QTextCodec *codec = nullptr)
+{
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    preview::PrintFile file(buffer, codec);
+    std::vector<preview::PrintLine> lines;
+    while (const auto line = file.next())
+        lines.push_back(*line);
+    return lines;
+}
+
+TEST(PrintFile, KnowsTheLinesOfTheDevice)
+{
+    const struct
+    {
+        const char *bytes;
+        LineKind kind;
+        const char32_t *text;
+    } rows[] = {
+        {"", LineKind::Empty, U""},
+        {"j", LineKind::SectionStart, U"j"},
+        {"J", LineKind::SectionEnd, U"J"},
+        {"1T", LineKind::FiscalEnd, U"1T"},
+        {"\"\"@", LineKind::Printed, U""},
+        {"\"say \"j\"\"@", LineKind::Printed, U"say \"j\""},
+        {"\"\xC3\xA8\xE8\"@", LineKind::Printed, U"\u00E8\xDCE8"},
+        {"\"@", LineKind::Unframed, U"\"@"},
+        {"\"half", LineKind::Unframed, U"\"half"},
+        {"half\"@", LineKind::Unframed, U"half\"@"},
+        {"\"a\"2*7,50H1R", LineKind::FiscalItem, U"\"a\"2*7,50H1R"},
+        {"\"a\"b\"2*7,50H1R-1,50*5M", LineKind::FiscalItem, U"\"a\"b\"2*7,50H1R-1,50*5M"},
+        {"\"a\"2*7,50H1", LineKind::Unframed, U"\"a\"2*7,50H1"},
+        {"=10*2M", LineKind::FiscalDiscount, U"=10*2M"},
+        {"50,00H1T", LineKind::FiscalPayment, U"50,00H1T"},
+        {"fiftyH1T", LineKind::Unframed, U"fiftyH1T"},
+    };
+    for (const auto &row : rows) {
+        for (const char *const end : {"\n", "\r\n", ""}) {
+            if (*row.bytes == 0 && *end == 0)
+                continue;
+            const auto lines = linesOf(QByteArray(row.bytes) + end);
+            ASSERT_EQ(lines.size(), 1U) << row.bytes;
+            EXPECT_EQ(lines[0].kind, row.kind) << row.bytes;
+            EXPECT_EQ(lines[0].text, row.text) << row.bytes;
+            EXPECT_EQ(lines[0].end, *end == 0      ? preview::LineEnd::Missing
+                                    : *end == '\r' ? preview::LineEnd::CarriageReturn
+                                                   : preview::LineEnd::LineFeed);
+        }
+    }
+}
+
+/// The bytes that lines were read from.
+QByteArray bytesOf(const std::vector<preview::PrintLine> &lines)
+{
+    QByteArray bytes;
+    for (const preview::PrintLine &line : lines) {
+        EXPECT_EQ(line.offset, line.kind == LineKind::Piece ? line.offset : bytes.size());
+        bytes += line.kind == LineKind::Printed ? "\"" : "";
+        for (const char32_t c : line.text) {
+            if (preview::isUndecodedByte(c))
+                bytes += char(c & 0xFF);
+            else
+                bytes += QStringView(QChar::fromUcs4(c)).toUtf8();
+        }
+        bytes += line.kind == LineKind::Printed ? "\"@" : "";
+        if (line.kind != LineKind::Piece && line.end != preview::LineEnd::Missing)
+            bytes += line.end == preview::LineEnd::LineFeed ? "\n" : "\r\n";
+    }
+    return bytes;
+}
+
+TEST(PrintFile, LosesNothing)
+{
+    std::mt19937 random(7);
+    const QByteArrayList parts{"\"",
+                               "\"@\n",
+                               "\n",
+                               "j\n",
+                               "J\n",
+                               "1T\n",
+                               "\r\n",
+                               "\xC3\xA8",
+                               "\xC3",
+                               "\xED\xA0\x80",
+                               "\xF0\x9F\x98\x80",
+                               "\xFF",
+                               "x",
+                               " ",
+                               "H1T",
+                               "*",
+                               "\xEF\xBB\xBF",
+                               "\x1B"};
+    for (int i = 0; i < 300; ++i) {
+        QByteArray content;
+        for (int j = 0; j < 40; ++j)
+            content += parts[qsizetype(random() % size_t(parts.size()))];
+        EXPECT_EQ(bytesOf(linesOf(content)), content) << content.toHex(' ').toStdString();
+    }
+    for (const int before : {0, 1, 2, 3}) { // a character of three bytes across a piece's end
+        const QByteArray line =
+            QByteArray(before, 'x') + QByteArray("\xE2\x82\xAC").repeated(3'000);
+        const auto lines = linesOf(line + '\n');
+        EXPECT_GE(lines.size(), 3U);
+        EXPECT_EQ(lines.front().kind, LineKind::Piece);
+        EXPECT_EQ(bytesOf(lines), line);
+        for (const preview::PrintLine &piece : lines)
+            EXPECT_FALSE(std::ranges::any_of(piece.text, preview::isUndecodedByte));
+    }
+}
+
+TEST(PrintFile, ReadsEveryEncodingCharacterByCharacter)
+{
+    EXPECT_EQ(linesOf("\"\xE8\xA4\"@\n", QTextCodec::codecForName("ISO-8859-15"))[0].text,
+              U"\u00E8\u20AC");
+    EXPECT_EQ(linesOf("\"\xB0\xA1\xFF.\"@\n", QTextCodec::codecForName("EUC-JP"))[0].text,
+              U"\u4E9C\xDCFF.");
+}
+
+/// Whatever the bytes are, a terminal gets no command, and every row has its edge in one place.
+TEST(Preview, SendsNoCommandToTheTerminal)
+{
+    const Home home;
+    QByteArray content("\nj\n");
+    for (int byte = 0; byte < 256; ++byte)
+        content += "\"" + QByteArray(1, char(byte)) + "\xE4\xB8\xAD\xE2\x80\xAE\xC2\x9B" + "\"@\n";
+    support::writeFile(home.path(u"p"_s), content);
+    const QString text = QString::fromUtf8(zentaro({u"preview"_s, home.path(u"p"_s)}, home).output);
+    const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(lines.size(), 256 + 2 + 1); // the line feed makes two of one
+    for (const QString &line : lines) {
+        for (const QChar c : line)
+            EXPECT_TRUE(c.isPrint()) << line.toStdString();
+        const QChar edge = line.at(3 + 1 + 32);
+        EXPECT_TRUE(edge == u'│' || edge == u'┐' || edge == u'┄') << line.toStdString();
+    }
+}
+
+TEST(FiscalLine, StandsForAReceiptLine)
+{
+    const struct
+    {
+        const char32_t *command;
+        std::vector<Cells> lines;
+    } rows[] = {
+        {U"\"Pizza\"2*7,50H1R", {U"Pizza   2 x 7,50 dep. 1"}},
+        {U"\"Pizza\"\"2*7,50H1R", {U"Pizza\"  2 x 7,50 dep. 1"}},
+        {U"\"A longer name\"2*7,50H1R", {U"A longer name", U"        2 x 7,50 dep. 1"}},
+        {U"\"Pizza\"1*2HR-1,50*5M", {U"Pizza       1 x 2 dep. ", U"  Adjustment      -1,50"}},
+        {U"=10*2M", {U"Discount            10%"}},
+        {U"50,00H3T", {U"Credit card       50,00"}},
+        {U"1T", {}},
+    };
+    for (const auto &row : rows) {
+        const auto lines = preview::receiptLines(row.command, 23);
+        ASSERT_EQ(lines.size(), row.lines.size());
+        for (size_t i = 0; i < lines.size(); ++i)
+            EXPECT_EQ(preview::textOf(lines[i]), preview::textOf(row.lines[i]));
+    }
+}
+
+TEST(Difference, PairsEqualRows)
+{
+    const struct
+    {
+        const char *before;
+        const char *after;
+        const char *pairs; ///< `=` equal, `|` both, `<` and `>` only one
+    } rows[] = {
+        {"abc", "abc", "==="},      {"abc", "", "<<<"},
+        {"", "ab", ">>"},           {"abc", "axc", "=|="},
+        {"abcd", "acd", "=<=="},    {"acd", "abcd", "=>=="},
+        {"xabcy", "zabc", "|===<"}, {"abcabba", "cbabac", "<<=<=>==>"},
+    };
+    const auto rowsOf = [](const char *letters) {
+        std::vector<preview::Row> all;
+        for (const char *letter = letters; *letter != 0; ++letter) {
+            all.emplace_back();
+            all.back().text = Cells(1, char32_t(*letter));
+        }
+        return all;
+    };
+    for (const auto &row : rows) {
+        std::string signs;
+        std::string before;
+        std::string after;
+        for (const auto &pair : preview::pairedRows(rowsOf(row.before), rowsOf(row.after))) {
+            signs += pair.equal ? '=' : pair.before < 0 ? '>' : pair.after < 0 ? '<' : '|';
+            before += pair.before < 0 ? "" : std::string(1, row.before[pair.before]);
+            after += pair.after < 0 ? "" : std::string(1, row.after[pair.after]);
+        }
+        EXPECT_EQ(before, row.before);
+        EXPECT_EQ(after, row.after);
+        EXPECT_EQ(signs, row.pairs);
+    }
+}
+
+} // namespace

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support.h"
+#include "tools/preview/picture.h"
+
+#include <QDomDocument>
+#include <QFileInfo>
+#include <QImage>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using support::Home;
+using support::Outcome;
+using support::sourceDir;
+
+namespace {
+
+/// Runs the command in a process without a display, with the configuration for 40 columns.
+Outcome draw(const QStringList &words, const QStringList &variables = {})
+{
+    const Home home(support::readFile(sourceDir() + u"/samples/zentaro-40.conf"_s));
+    QStringList all{u"preview"_s};
+    for (QString word : words)
+        all += word.replace(u'@', sourceDir());
+    return support::zentaro(all, home,
+                            QStringList{u"DISPLAY="_s, u"WAYLAND_DISPLAY="_s} + variables);
+}
+
+/// The mean grey of each cell, whose size is `cell`, from the upper left corner on, `shift` cells
+/// to the left.
+std::vector<double> greyOfCells(const QImage &image, QSize cell, int shift = 0)
+{
+    const QImage grey = image.convertToFormat(QImage::Format_Grayscale8);
+    std::vector<double> cells;
+    for (int top = 0; top + cell.height() <= grey.height(); top += cell.height()) {
+        for (int left = 0; left + cell.width() <= grey.width(); left += cell.width()) {
+            double sum = 0;
+            for (int y = top; y < top + cell.height(); ++y) {
+                for (int x = left; x < left + cell.width(); ++x)
+                    sum += qGray(grey.pixel((x + shift * cell.width()) % grey.width(), y));
+            }
+            cells.push_back(sum / (cell.width() * cell.height()));
+        }
+    }
+    return cells;
+}
+
+/// The cells whose grey differs by more than font libraries differ among each other.
+int differing(const std::vector<double> &a, const std::vector<double> &b)
+{
+    constexpr double Tolerance = 12; // of 255: a letter makes a cell 30 to 90 darker
+    int count = 0;
+    for (size_t i = 0; i < std::min(a.size(), b.size()); ++i)
+        count += std::abs(a[i] - b[i]) > Tolerance ? 1 : 0;
+    return count;
+}
+
+struct Golden
+{
+    const char *name;
+    QSize cell; ///< pixels
+    QStringList words;
+    int exitStatus;
+};
+
+void PrintTo(const Golden &golden, std::ostream *out)
+{
+    *out << golden.name;
+}
+
+class PictureGolden : public testing::TestWithParam<Golden>
+{
+};
+
+TEST_P(PictureGolden, IsItsReferenceCellByCell)
+{
+    const Golden &golden = GetParam();
+    const support::Folder folder;
+    const QString drawn = folder.path(u"drawn.png"_s);
+    const Outcome outcome = draw(golden.words + QStringList{u"-o"_s, drawn});
+    ASSERT_EQ(outcome.exitStatus, golden.exitStatus);
+    EXPECT_EQ(outcome.errors, "");
+    const QString reference =
+        sourceDir() + u"/tests/golden/preview/"_s + QLatin1StringView(golden.name) + u".png"_s;
+    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN")) {
+        support::writeFile(reference, support::readFile(drawn));
+        return;
+    }
+    const QImage expected(reference);
+    const QImage image(drawn);
+    ASSERT_FALSE(expected.isNull());
+    ASSERT_EQ(image.size(), expected.size());
+    const std::vector<double> cells = greyOfCells(expected, golden.cell);
+    EXPECT_EQ(differing(greyOfCells(image, golden.cell), cells), 0);
+    EXPECT_GT(differing(greyOfCells(image, golden.cell, 1), cells), 30) << "too tolerant";
+}
+
+std::string nameOf(const testing::TestParamInfo<Golden> &golden)
+{
+    return golden.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Preview, PictureGolden,
+    testing::Values(Golden{"receipt",
+                           {7, 14},
+                           {u"--dpi"_s, u"100"_s, u"--annotate"_s,
+                            u"@/samples/printFullOrderReceipt.xml"_s},
+                           0},
+                    Golden{"papers",
+                           {7, 14},
+                           {u"--dpi"_s, u"100"_s, u"--columns"_s, u"40"_s,
+                            u"@/samples/printFullOrderFiscal.xml"_s,
+                            u"@/tests/golden/odd/columns-wider-than-paper.prn"_s},
+                           0},
+                    Golden{"changes",
+                           {7, 14},
+                           {u"--dpi"_s, u"100"_s, u"--columns"_s, u"40"_s, u"--against"_s,
+                            u"@/samples/zentaro-32.conf"_s, u"@/tests/golden/preview/sold.xml"_s},
+                           1}),
+    nameOf);
+
+/// Every character has the place of its cell, however the viewer's font runs.
+TEST(SvgPicture, PlacesEveryCharacter)
+{
+    const support::Folder folder;
+    const QString name = folder.path(u"ticket.svg"_s);
+    ASSERT_EQ(draw({u"@/tests/golden/preview/sold.xml"_s, u"-o"_s, name}).exitStatus, 0);
+    QDomDocument svg;
+    ASSERT_TRUE(svg.setContent(support::readFile(name)));
+    constexpr int Cell = 14; // 575 pixels of 72 mm by 40
+    const QDomNodeList texts = svg.elementsByTagName(u"text"_s);
+    int left = 0;
+    QStringList lines;
+    for (int i = 0; i < texts.size(); ++i) {
+        const QDomElement text = texts.at(i).toElement();
+        const QStringList places = text.attribute(u"x"_s).split(u' ');
+        ASSERT_EQ(places.size(), text.text().size());
+        for (qsizetype j = 1; j < places.size(); ++j)
+            EXPECT_EQ(places[j].toInt() - places[j - 1].toInt(), Cell);
+        if (text.text().startsWith(u"Venduto"_s))
+            left = places.first().toInt();
+        lines += text.text();
+        if (text.text() == "0"_L1) { // the one beyond the edge
+            EXPECT_EQ(places.first().toInt(), left + 40 * Cell);
+        }
+    }
+    EXPECT_GT(left, 0);
+    EXPECT_TRUE(lines.contains(u" 38 x Caffè....................    49.40"_s));
+    EXPECT_TRUE(lines.contains(u"1204 x Grissini.................     0.0"_s));
+    EXPECT_TRUE(lines.contains(u"0"_s));
+}
+
+TEST(PdfPicture, IsOnePageOfThePaper)
+{
+    const support::Folder folder;
+    const QString name = folder.path(u"TICKET.PDF"_s);
+    ASSERT_EQ(draw({u"@/tests/golden/preview/sold.xml"_s, u"-o"_s, name}).exitStatus, 0);
+    const QString pdf = QString::fromLatin1(support::readFile(name));
+    EXPECT_TRUE(pdf.startsWith(u"%PDF-"_s));
+    static const QRegularExpression box(u"/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]"_s);
+    const QRegularExpressionMatch match = box.match(pdf);
+    ASSERT_TRUE(match.hasMatch());
+    EXPECT_GT(match.captured(1).toDouble(), 80 / 25.4 * 72);
+    EXPECT_LT(match.captured(1).toDouble(), 100 / 25.4 * 72);
+}
+
+TEST(Picture, IsWholeOrNotThereAtAll)
+{
+    const support::Folder folder;
+    const QString name = folder.path(u"ticket.png"_s);
+    const QString longFile = folder.path(u"long"_s);
+    const QString wideFile = folder.path(u"wide"_s);
+    support::writeFile(folder.path(u"fonts.conf"_s), "<?xml version='1.0'?><fontconfig/>");
+    support::writeFile(longFile, "\nj\n" + QByteArray("\"x\"@\n").repeated(100'000));
+    support::writeFile(wideFile, "\nj\n" + QByteArray("\"x\"@\n").repeated(1'500));
+    const QString sample = u"@/tests/golden/preview/sold.xml"_s;
+    const struct
+    {
+        QStringList words;
+        QString variable;
+        const char *message;
+    } rows[] = {
+        {{longFile, u"-o"_s, name}, {}, "more than 4000 lines"},
+        {{wideFile, u"-o"_s, name}, {}, "pixels, more than 32000 at a side"},
+        {{sample, u"--columns"_s, u"500"_s, u"-o"_s, name}, {}, "too small to be read"},
+        {{sample, u"-o"_s, folder.path(u"none/ticket.png"_s)}, {}, "No such file or directory"},
+        {{sample, u"-o"_s, name},
+         u"FONTCONFIG_FILE="_s + folder.path(u"fonts.conf"_s),
+         "there is no monospaced font"},
+    };
+    for (const auto &row : rows) {
+        const Outcome outcome =
+            draw(row.words, row.variable.isEmpty() ? QStringList() : QStringList(row.variable));
+        EXPECT_EQ(outcome.exitStatus, 2) << row.message;
+        EXPECT_TRUE(outcome.errors.contains(row.message)) << outcome.errors.toStdString();
+        EXPECT_FALSE(QFileInfo::exists(name)) << row.message;
+    }
+}
+
+} // namespace

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/preview/paper.h"
+
+class QTextCodec;
+
+namespace preview {
+
+/// Draws rows of paper as lines of text. What a terminal does not show as one column is drawn as a
+/// sign of its own and named behind the paper; nothing of a print file commands the terminal.
+class TerminalDrawing
+{
+public:
+    /// For a terminal of this codec, null meaning UTF-8; one without frames gets ASCII. With a
+    /// `lastRequestLine` over 0, each row begins with the line that it comes from.
+    TerminalDrawing(QTextCodec *codec, qint64 lastRequestLine);
+
+    /// The row, without a line end.
+    QString drawn(const Row &row) const;
+
+    /// The upright line that edges and columns are drawn with.
+    QChar upright() const { return frames ? u'│' : u'|'; }
+
+private:
+    QString paperOf(const Row &row) const;
+    QString edge(QChar left, QChar middle, QChar right, int width) const;
+    QString cellsOf(CellsView cells) const;
+    QString notesOn(const Row &row) const;
+    bool isShown(char32_t c) const;
+
+    QTextCodec *const codec;
+    const bool frames;
+    const qsizetype numberWidth; // 0: no line numbers
+};
+
+} // namespace preview
