@@ -132,7 +132,7 @@ TEST(ConfigCheck, KnowsTheKeysOfTheDocumentedConfiguration)
 
 TEST(Nearest, FindsWhatWasMeant)
 {
-    const std::vector<QString> words = tools::knownWords(u"doc");
+    const std::span<const QString> words = tools::knownWords(u"doc");
     const QString rows[][2] = {
         {u"paperWidht"_s, u"paperWidth"_s},
         {u"PAPERWIDTH"_s, u"paperWidth"_s},

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace tools {
 
@@ -47,63 +48,99 @@ constexpr std::array<GroupedKey, 10> documentKeys = {{
     {"reportdoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
 }};
 
-/// The group of a document type: its key prefix without the product's group and the last point.
-QString groupOf(const DocumentType &type)
+/// A group and what it holds; built once, when the first key is asked about.
+struct KnownGroup
 {
-    return QString(type.keyPrefix).section(u'.', 1, 1);
+    QString name;
+    bool isDocument;
+    std::vector<KnownKey> keys;
+    std::vector<QString> words; // of the keys
+};
+
+void addKeys(KnownGroup &group, std::span<const GroupedKey> rows)
+{
+    for (const GroupedKey &row : rows) {
+        if (row.group.isEmpty() || row.group == group.name)
+            group.keys.push_back(row.key);
+    }
+}
+
+KnownGroup documentGroup(const DocumentType &type)
+{
+    // The key prefix without the product's group and the last point.
+    KnownGroup group{QString(type.keyPrefix).section(u'.', 1, 1), true, {}, {}};
+    for (const SettingKey<int> &number : numberSettings())
+        group.keys.push_back({number.keyWord, KeyKind::Number});
+    addKeys(group, documentKeys);
+    for (const SettingKey<bool> &aSwitch : switchSettings())
+        group.keys.push_back({aSwitch.keyWord, KeyKind::Switch});
+    return group;
+}
+
+std::vector<KnownGroup> buildGroups()
+{
+    std::vector<KnownGroup> groups;
+    for (const GroupedKey &row : plainKeys) {
+        if (!groups.empty() && groups.back().name == row.group)
+            continue;
+        groups.push_back({row.group, false, {}, {}});
+        addKeys(groups.back(), plainKeys);
+    }
+    for (const DocumentType &type : documentTypes())
+        groups.push_back(documentGroup(type));
+    for (KnownGroup &group : groups) {
+        for (const KnownKey &key : group.keys)
+            group.words.push_back(key.word);
+    }
+    return groups;
+}
+
+const std::vector<KnownGroup> &allGroups()
+{
+    static const std::vector<KnownGroup> groups = buildGroups();
+    return groups;
+}
+
+/// The group of a name; one without keys for an unknown name.
+const KnownGroup &groupOf(QStringView name)
+{
+    static const KnownGroup unknown{};
+    const auto found = std::ranges::find_if(
+        allGroups(), [name](const KnownGroup &group) { return group.name == name; });
+    return found == allGroups().end() ? unknown : *found;
 }
 
 } // namespace
 
-std::vector<QString> knownGroups()
+std::span<const QString> knownGroups()
 {
-    std::vector<QString> groups;
-    for (const GroupedKey &row : plainKeys) {
-        if (groups.empty() || groups.back() != row.group)
-            groups.push_back(row.group);
-    }
-    for (const DocumentType &type : documentTypes())
-        groups.push_back(groupOf(type));
-    return groups;
+    static const std::vector<QString> names = [] {
+        std::vector<QString> result;
+        for (const KnownGroup &group : allGroups())
+            result.push_back(group.name);
+        return result;
+    }();
+    return names;
 }
 
 bool isDocumentGroup(QStringView group)
 {
-    return std::ranges::any_of(
-        documentTypes(), [group](const DocumentType &type) { return groupOf(type) == group; });
+    return groupOf(group).isDocument;
 }
 
-std::vector<KnownKey> knownKeys(QStringView group)
+std::span<const KnownKey> knownKeys(QStringView group)
 {
-    std::vector<KnownKey> keys;
-    for (const GroupedKey &row : plainKeys) {
-        if (row.group == group)
-            keys.push_back(row.key);
-    }
-    if (!isDocumentGroup(group))
-        return keys;
-    for (const SettingKey<int> &number : numberSettings())
-        keys.push_back({number.keyWord, KeyKind::Number});
-    for (const GroupedKey &row : documentKeys) {
-        if (row.group.isEmpty() || row.group == group)
-            keys.push_back(row.key);
-    }
-    for (const SettingKey<bool> &aSwitch : switchSettings())
-        keys.push_back({aSwitch.keyWord, KeyKind::Switch});
-    return keys;
+    return groupOf(group).keys;
 }
 
-std::vector<QString> knownWords(QStringView group)
+std::span<const QString> knownWords(QStringView group)
 {
-    std::vector<QString> words;
-    for (const KnownKey &key : knownKeys(group))
-        words.push_back(key.word);
-    return words;
+    return groupOf(group).words;
 }
 
 std::optional<KeyKind> kindOf(QStringView group, QStringView word)
 {
-    const std::vector<KnownKey> keys = knownKeys(group);
+    const std::span<const KnownKey> keys = knownKeys(group);
     const auto found =
         std::ranges::find_if(keys, [word](const KnownKey &key) { return key.word == word; });
     return found == keys.end() ? std::nullopt : std::optional(found->kind);

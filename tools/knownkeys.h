@@ -5,7 +5,7 @@
 #include <QStringList>
 
 #include <optional>
-#include <vector>
+#include <span>
 
 /// The keys that the suite reads from its configuration: `zentaro.GROUP.WORD`.
 namespace tools {
@@ -28,13 +28,13 @@ struct KnownKey
 constexpr auto ProductGroup = QLatin1StringView("zentaro");
 
 /// The groups below it, in the order of a complete file.
-std::vector<QString> knownGroups();
+std::span<const QString> knownGroups();
 /// Whether the group holds the settings of a type of document.
 bool isDocumentGroup(QStringView group);
 /// The keys of a group, in the order of a complete file; none for an unknown group.
-std::vector<KnownKey> knownKeys(QStringView group);
+std::span<const KnownKey> knownKeys(QStringView group);
 /// The same, only their words.
-std::vector<QString> knownWords(QStringView group);
+std::span<const QString> knownWords(QStringView group);
 /// The kind of a key; nothing for an unknown one.
 std::optional<KeyKind> kindOf(QStringView group, QStringView word);
 /// The groups in which a word is known.

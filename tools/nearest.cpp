@@ -39,11 +39,18 @@ QString nearest(QStringView word, std::span<const QString> words)
     constexpr qsizetype Longest = 64; // no key word comes near; keeps a huge name cheap
     if (word.size() > Longest)
         return {};
-    const auto distance = [word](const QString &other) { return editDistance(word, other); };
-    const auto found = std::ranges::min_element(words, {}, distance);
-    if (found == words.end() || distance(*found) > qMax(qsizetype(1), word.size() / 3))
-        return {};
-    return *found;
+    const qsizetype farthest = qMax(qsizetype(1), word.size() / 3);
+    const QString *found = nullptr;
+    qsizetype least = farthest + 1;
+    for (const QString &other : words) {
+        if (qAbs(other.size() - word.size()) >= least)
+            continue; // that many letters to insert or delete at least
+        if (const int distance = editDistance(word, other); distance < least) {
+            least = distance;
+            found = &other;
+        }
+    }
+    return found ? *found : QString();
 }
 
 QString suggestion(QStringView word, std::span<const QString> words)

@@ -84,11 +84,10 @@ void Checker::checkGroup(qsizetype index)
         return;
     else if (group.parent == top && !groups.contains({top, group.name})) {
         groups.insert({top, group.name}, index);
-        const std::vector<QString> known = tools::knownGroups();
         if (tools::knownKeys(group.name).empty())
             tell(Severity::Warning, "unknown-group"_L1,
                  "nothing reads the group "_L1 + excerpt(outline.pathOf(index))
-                     + tools::suggestion(group.name, known),
+                     + tools::suggestion(group.name, tools::knownGroups()),
                  index);
     } else if (group.parent == top) {
         tell(
