@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 MostOfACode = 100;
-
 void sortByPlace(std::vector<Finding> &findings)
 {
     std::ranges::stable_sort(findings, {}, [](const Finding &finding) {

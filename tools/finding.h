@@ -27,6 +27,9 @@ struct Finding
     qsizetype subject = -1; ///< what it is about, as the checker counts its things; -1: the file
 };
 
+/// The most findings of a code that are listed.
+constexpr int MostOfACode = 100;
+
 /// Findings as they come: keeps the first hundred of a code and counts the others, so that any
 /// number of them takes little memory.
 class FindingStore

@@ -44,6 +44,7 @@ private:
 
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
     int number(const QString &group, const QString &word) const;
+    static QString wayOut(const QString &group, const QString &key);
     void tell(Severity severity, QLatin1StringView code, const QString &text, qsizetype subject);
     void tellValue(Severity severity, QLatin1StringView code, const QString &text,
                    qsizetype subject);
@@ -53,6 +54,7 @@ private:
     std::vector<Finding> findings;
     QHash<Name, qsizetype> groups;       // of the top group and below, the first of each name
     QHash<Name, qsizetype> settings;     // the first of each name in a group
+    int unknownKeys = 0;                 // a way out is looked for only of those that are listed
     QHash<QString, qsizetype> effective; // by "group.word": the entry that a lookup finds
 };
 
@@ -161,6 +163,14 @@ bool Checker::checkDuplicate(qsizetype index)
     return true;
 }
 
+/// What a person may have meant by an unknown key of a group.
+QString Checker::wayOut(const QString &group, const QString &key)
+{
+    const QStringList others = tools::groupsWith(key);
+    return others.isEmpty() ? tools::suggestion(key, tools::knownWords(group))
+                            : " (it belongs to `"_L1 + others.join("`, `"_L1) + "`)"_L1;
+}
+
 /// A setting of a group that is read.
 void Checker::checkKnownSetting(qsizetype index)
 {
@@ -168,11 +178,9 @@ void Checker::checkKnownSetting(qsizetype index)
     const QString &group = entry(setting.parent).name;
     const std::optional<tools::KeyKind> kind = tools::kindOf(group, setting.name);
     if (!kind) {
-        const QStringList others = tools::groupsWith(setting.name);
         tell(Severity::Warning, "unknown-key"_L1,
              "nothing reads the key "_L1 + excerpt(outline.pathOf(index))
-                 + (others.isEmpty() ? tools::suggestion(setting.name, tools::knownWords(group))
-                                     : " (it belongs to `"_L1 + others.join("`, `"_L1) + "`)"_L1),
+                 + (++unknownKeys <= tools::MostOfACode ? wayOut(group, setting.name) : QString()),
              index);
         return;
     }
