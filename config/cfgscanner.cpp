@@ -91,7 +91,9 @@ QString CfgScanner::value() const
 
 bool CfgScanner::skipPast(std::istream &stream, char c)
 {
-    stream.ignore(std::numeric_limits<std::streamsize>::max(), c);
+    // Of a byte above 0x7f the plain character would be a negative number, which no stream gives.
+    stream.ignore(std::numeric_limits<std::streamsize>::max(),
+                  std::istream::traits_type::to_int_type(c));
     return stream.good();
 }
 

@@ -207,6 +207,15 @@ TEST(Config, ReadsAgainWhateverTheFirstReadingLeft)
     EXPECT_EQ(config.lookup(u"z.k"_s), u"3"_s);
 }
 
+TEST(Config, JumpsBehindAnyByte)
+{
+    Loaded config("z\xFF:{k=1;}");
+    ASSERT_TRUE(config.openFile());
+    EXPECT_TRUE(config.jump('\xFF'));
+    EXPECT_TRUE(config.jump('}')); // the last byte of the file
+    EXPECT_FALSE(config.jump('}'));
+}
+
 TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)
 {
     const support::Home home("zentaro:{caff\xE8 = \xE8\x80; caff? = asked for in Latin-1;};");
