@@ -15,6 +15,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace configtool {
 
@@ -99,16 +100,17 @@ void ConfigEditor::removeSelected()
     tree->setFocus();
     QList<QTreeWidgetItem *> chosen; // without what lies below another chosen one
     for (QTreeWidgetItem *const item : tree->selectedItems()) {
-        QTreeWidgetItem *const top = topMost(item, fileItem());
-        if (top != fileItem() && !chosen.contains(top))
-            chosen.append(top);
+        if (item != fileItem() && topMost(item, fileItem()) == item)
+            chosen.append(item);
     }
     if (chosen.isEmpty())
         return;
+    tree->clearSelection(); // the view would part it again for every item that goes
     undoStack.beginMacro(u"remove"_s);
-    for (QTreeWidgetItem *const item : chosen)
-        undoStack.push(
-            new PresenceChange({}, item, [this](QTreeWidgetItem *shown) { showItem(shown); }));
+    // From the last one, so that none moves those behind it; to show each would take minutes.
+    ShowItem show = [this](QTreeWidgetItem *shown) { showItem(shown); };
+    for (auto item = chosen.crbegin(); item != chosen.crend(); ++item)
+        undoStack.push(new PresenceChange({}, *item, std::exchange(show, {})));
     undoStack.endMacro();
 }
 

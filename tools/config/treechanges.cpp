@@ -50,10 +50,12 @@ void PresenceChange::exchange()
 {
     if (outside) {
         parent->insertChild(index, outside.release());
-        show(item);
+        if (show)
+            show(item);
     } else {
         outside.reset(parent->takeChild(index));
-        show(parent);
+        if (show)
+            show(parent);
     }
 }
 

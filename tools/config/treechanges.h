@@ -9,7 +9,7 @@
 class QTreeWidgetItem;
 
 /// The changes of a configuration's tree that can be undone. Each shows the item that it changed to
-/// `show`, if there is one.
+/// `show`; a PresenceChange may have none.
 namespace configtool {
 
 using ShowItem = std::function<void(QTreeWidgetItem *item)>;
