@@ -56,7 +56,8 @@ QLatin1StringView severityName(Severity severity);
 /// `file:line:column: severity: text [code]`, a line each; the place is left away where there is
 /// none.
 QString findingLines(const QString &fileName, const std::vector<Finding> &findings);
-/// A JSON array of objects with the members file, line, column, severity, code and message.
+/// A JSON array (which is UTF-8 whatever the locale) of objects with the members file, line,
+/// column, severity, code and message.
 QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings);
 
 /// The findings about one file of several.

@@ -28,6 +28,8 @@ int printOut(const QString &text)
 
 int printBytes(const QByteArray &bytes)
 {
+    if (std::ferror(stdout) != 0)
+        return Trouble; // told before
     if (write(bytes, stdout))
         return Fine;
     printError(u"zentaro: standard output could not be written\n"_s);

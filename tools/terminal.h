@@ -6,7 +6,7 @@
 /// What the commands say to a person, in the encoding of the user's locale.
 namespace tools {
 
-/// Writes to standard output; Fine, or Trouble when it takes nothing (which is told).
+/// Writes to standard output; Fine, or Trouble when it takes nothing (which is told once).
 int printOut(const QString &text);
 /// The same for bytes, which are written as they are.
 int printBytes(const QByteArray &bytes);

@@ -31,8 +31,9 @@ int check(const tools::Call &call)
     findings.insert(findings.end(), more.begin(), more.end());
     findings = tools::abridged(std::move(findings));
     const int printed =
-        tools::printOut(line.isSet(u"json"_s) ? tools::findingsAsJson(source->path, findings)
-                                              : tools::findingLines(source->path, findings));
+        line.isSet(u"json"_s)
+            ? tools::printBytes(tools::findingsAsJson(source->path, findings).toUtf8())
+            : tools::printOut(tools::findingLines(source->path, findings));
     return printed == tools::Fine && !findings.empty() ? tools::Findings : printed;
 }
 
