@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/ztconfiguration.h"
-#include "config/config.h"
-#include "tests/support.h"
+#include "tests/configfiles.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -17,69 +15,31 @@
 
 using namespace Qt::StringLiterals;
 using libconfig::Config;
+using support::rewritten;
+using support::treeOf;
 
 namespace {
 
-/// What the tree holds below the file element, whose name is the file's.
-QString contentOf(const Config &config)
-{
-    return config.configTreeText().section(u'\n', 2);
-}
-
-/// The tree of a file with this content.
-QString contentOf(const QByteArray &text, const QString &format = u"cfg"_s)
-{
-    const support::Folder folder;
-    support::writeFile(folder.path(u"file"_s), text);
-    return contentOf(Config(folder.path(u"file"_s), format));
-}
-
-/// What a file of this content is written as.
-QByteArray rewritten(const QByteArray &text, const QString &from = u"cfg"_s,
-                     const QString &to = u"cfg"_s)
-{
-    const support::Folder folder;
-    support::writeFile(folder.path(u"in"_s), text);
-    Config config(folder.path(u"in"_s), from);
-    const QString out = folder.path(u"out"_s);
-    EXPECT_TRUE(to == "cfg"_L1 ? config.buildConfigFile(out) : config.buildConfigXmlFile(out));
-    return support::readFile(out);
-}
-
-const QByteArray workedExample = R"(zentaro : {
-    logger : {
-        level = "WARNING";
-        basedir = "/var/log/pos";
-        filename = print.log;
-        type = "append";
-    };
-    language : {
-        basedir = " /usr/share/pos/lang ";
-        file = "de";
-    };
-};
-)";
-
 TEST(ConfigWriter, WritesTheFormToTheByte)
 {
-    EXPECT_EQ(rewritten(workedExample), "zentaro: \n"
-                                        "{\n"
-                                        "    logger: \n"
-                                        "    {\n"
-                                        "        level = \"WARNING\";\n"
-                                        "        basedir = \"/var/log/pos\";\n"
-                                        "        filename = \"print.log\";\n"
-                                        "        type = \"append\";\n"
-                                        "    };\n"
-                                        "\n"
-                                        "    language: \n"
-                                        "    {\n"
-                                        "        basedir = \" /usr/share/pos/lang \";\n"
-                                        "        file = \"de\";\n"
-                                        "    };\n"
-                                        "\n"
-                                        "};\n"
-                                        "\n");
+    EXPECT_EQ(rewritten("top = 1; zentaro : { logger : { level = \"WARNING\"; file=a.log ; };"
+                        "language : { basedir = \" /lang \"; }; };"),
+              "top = \"1\";\n"
+              "zentaro: \n"
+              "{\n"
+              "    logger: \n"
+              "    {\n"
+              "        level = \"WARNING\";\n"
+              "        file = \"a.log\";\n"
+              "    };\n"
+              "\n"
+              "    language: \n"
+              "    {\n"
+              "        basedir = \" /lang \";\n"
+              "    };\n"
+              "\n"
+              "};\n"
+              "\n");
     EXPECT_EQ(
         rewritten("top = 1; zentaro : { a : { k = v; }; b : { c = 2; }; };", u"cfg"_s, u"xml"_s),
         "top = \"1\";\n"
@@ -160,7 +120,7 @@ TEST(ConfigWriter, GivesRandomTreesBack)
     for (int i = 0; i < 150; ++i) {
         const QByteArray file = randomFile(random);
         const QByteArray written = rewritten(file);
-        ASSERT_EQ(contentOf(file), contentOf(written)) << file.toStdString();
+        ASSERT_EQ(treeOf(file), treeOf(written)) << file.toStdString();
         ASSERT_EQ(rewritten(written), written);
     }
 }
@@ -188,7 +148,7 @@ TEST(ConfigWriter, LosesWhatTheFormsDoNotHold)
         {"<a k='&lt;'/>", u"xml"_s, u"xml"_s, u""_s},
     };
     for (const Row &row : rows)
-        EXPECT_EQ(contentOf(rewritten(row.in, row.from, row.to), row.to), row.back)
+        EXPECT_EQ(treeOf(rewritten(row.in, row.from, row.to), row.to), row.back)
             << row.in.toStdString();
 }
 
@@ -197,9 +157,9 @@ TEST(ConfigWriter, WritesGroupsNestedToAnyDepth)
     const auto nested = [](int depth) {
         return QByteArray("g:{").repeated(depth) + "k=1;" + QByteArray("};").repeated(depth);
     };
-    EXPECT_EQ(contentOf(nested(100'000)), u"g\n"_s.repeated(100'000) + u"k = 1\n"_s);
+    EXPECT_EQ(treeOf(nested(100'000)), u"g\n"_s.repeated(100'000) + u"k = 1\n"_s);
     const QByteArray deep = rewritten(nested(500));
-    EXPECT_EQ(contentOf(deep), contentOf(nested(500)));
+    EXPECT_EQ(treeOf(deep), treeOf(nested(500)));
     EXPECT_TRUE(rewritten(deep, u"cfg"_s, u"xml"_s).endsWith("\n    </g>\n</g>\n"));
 }
 
