@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
-#include "tests/support.h"
+#include "tests/configfiles.h"
 #include "tools/config/losses.h"
 #include "tools/config/outline.h"
 #include "tools/config/settingcheck.h"
@@ -20,6 +20,8 @@ using namespace Qt::StringLiterals;
 using namespace configtool;
 using support::Home;
 using support::Outcome;
+using support::rewritten;
+using support::treeOf;
 using support::zentaro;
 
 namespace {
@@ -154,24 +156,6 @@ QByteArray randomText(QRandomGenerator &random, const QByteArray &letters, int m
     return text;
 }
 
-/// What a file of this content is written as in another format, and its tree without the file.
-QByteArray rewritten(const QByteArray &text, const QString &from, const QString &to)
-{
-    const support::Folder folder;
-    support::writeFile(folder.path(u"in"_s), text);
-    libconfig::Config config(folder.path(u"in"_s), from);
-    to == "cfg"_L1 ? config.buildConfigFile(folder.path(u"out"_s))
-                   : config.buildConfigXmlFile(folder.path(u"out"_s));
-    return support::readFile(folder.path(u"out"_s));
-}
-
-QString contentOf(const QByteArray &text, const QString &format)
-{
-    const support::Folder folder;
-    support::writeFile(folder.path(u"file"_s), text);
-    return libconfig::Config(folder.path(u"file"_s), format).configTreeText().section(u'\n', 2);
-}
-
 TEST(ConfigLosses, AreNamedExactlyWhenTheFileReadsBackOtherwise)
 {
     QRandomGenerator random(20'26);
@@ -198,7 +182,7 @@ TEST(ConfigLosses, AreNamedExactlyWhenTheFileReadsBackOtherwise)
                 return !fromXml && !outline.entries[size_t(loss.subject)].hasMember
                        && loss.code == "lost-group"_L1;
             });
-            const bool same = contentOf(rewritten(text, from, to), to) == contentOf(text, from);
+            const bool same = treeOf(rewritten(text, from, to), to) == treeOf(text, from);
             ASSERT_EQ(lost.empty(), same) << text.toStdString() << to.toStdString();
             losing += same ? 0 : 1;
         }
@@ -250,6 +234,10 @@ TEST(ZentaroConfig, PrintsAndExitsLikeATool)
          2,
          "",
          "Error in the method Config::buildConfigFile( /no/such/file ): Unable To Open File\n"},
+        {{u"check"_s, u"--file"_s, u"/dev/zero"_s},
+         2,
+         "",
+         "zentaro config check: /dev/zero: more than 64 MiB"},
         {{u"lost"_s}, 2, "", "zentaro config: unknown command `lost`\n"},
         {{u"--lost"_s, u"get"_s}, 2, "", "zentaro config: Unknown option 'lost'.\n"},
         {{}, 2, "", "Usage: zentaro config [options] COMMAND ...\n"},
@@ -283,6 +271,29 @@ TEST(ZentaroConfig, PrintsFindingsForPeopleAndTools)
     ASSERT_EQ(array.size(), 1);
     EXPECT_EQ(array[0][u"line"].toInt(), 2);
     EXPECT_EQ(array[0][u"code"].toString(), u"unknown-key"_s);
+}
+
+TEST(ZentaroConfig, TakesAPipeAndNoNameThatTheToolkitWouldMistake)
+{
+    const struct
+    {
+        QString words;
+        int exitStatus;
+        QByteArray output;
+    } rows[] = {
+        {u"get a.b -f <(echo 'a : { b = 1; };')"_s, 0, "1\n"},
+        {u"convert --to xml - -f <(echo 'a : { b = 1; };')"_s, 0, "\n<a\n    b = \"1\">\n</a>\n"},
+        {u"init -f $HOME/$'\\xe4'"_s, 2, ""},
+    };
+    const Home home;
+    for (const auto &row : rows) {
+        const Outcome outcome = support::run(
+            u"bash"_s, {u"-c"_s, u"\"$0\" config "_s + row.words, QStringLiteral(ZENTARO_PROGRAM)},
+            home);
+        EXPECT_EQ(outcome.exitStatus, row.exitStatus) << outcome.errors.toStdString();
+        EXPECT_EQ(outcome.output, row.output);
+    }
+    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), QStringList());
 }
 
 TEST(ZentaroConfig, ConvertsOnlyWithForceWhatWouldBeLost)

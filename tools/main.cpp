@@ -3,6 +3,7 @@
 #include "tools/config/subcommands.h"
 #include "tools/preview/previewcommand.h"
 #include "tools/requestcheck/requestcheck.h"
+#include "tools/terminal.h"
 
 #include <QFile>
 
@@ -23,8 +24,14 @@ constexpr std::array<tools::Command, 3> commands = {{
 int main(int argc, char **argv)
 {
     QStringList words;
-    for (int i = 1; i < argc; ++i)
+    for (int i = 1; i < argc; ++i) {
         words.append(QFile::decodeName(argv[i]));
+        // The toolkit would open another file than the one that is named.
+        if (QFile::encodeName(words.last()) != argv[i]) {
+            tools::printError("zentaro: the word `"_L1 + words.last() + "` is not UTF-8\n"_L1);
+            return tools::Trouble;
+        }
+    }
     return tools::dispatch(
         {u"zentaro"_s, words, argc, argv},
         {u"The companion of zentaro-print."_s, commands, {}, u"zentaro " ZENTARO_VERSION ""_s});

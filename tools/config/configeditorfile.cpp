@@ -41,6 +41,13 @@ QString listOf(const std::vector<Finding> &findings)
 bool ConfigEditor::open(const Source &file)
 {
     QFile present(file.path);
+    const QFileInfo info(present);
+    if (info.exists() && (!info.isFile() || info.size() > MaxContentBytes)) {
+        ask(file.path + " cannot be edited."_L1,
+            info.isFile() ? u"It has more than 64 MiB."_s : u"It is not a file."_s,
+            QMessageBox::Ok);
+        return false;
+    }
     if (present.exists() && !present.open(QIODevice::ReadOnly)) {
         ask(file.path + " cannot be read."_L1, present.errorString(), QMessageBox::Ok);
         return false;

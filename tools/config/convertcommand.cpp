@@ -51,6 +51,21 @@ bool write(const Source &source, const QString &format, const QString &target)
     return format == "xml"_L1 ? config.buildConfigXmlFile(target) : config.buildConfigFile(target);
 }
 
+/// The source, or a copy in the folder of what is no file and has given its content already;
+/// nothing when that cannot be written, which is told.
+std::optional<Source> readableAgain(const tools::Call &call, const Source &source,
+                                    const QByteArray &content, const QTemporaryDir &folder)
+{
+    if (QFileInfo(source.path).isFile())
+        return source;
+    QFile copy(folder.filePath(u"read"_s));
+    if (copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size() && copy.flush())
+        return Source{copy.fileName(), source.format};
+    tools::printError(call.command + ": "_L1 + copy.fileName() + ": "_L1 + copy.errorString()
+                      + u'\n');
+    return std::nullopt;
+}
+
 int writeToOutput(const Source &source, const QString &format)
 {
     const QTemporaryDir folder;
@@ -94,10 +109,14 @@ int convert(const tools::Call &call)
     const bool mustAsk = !lost.empty() || (!toOutput && QFileInfo::exists(target));
     if (mustAsk && !line.isSet(u"force"_s) && !isAllowed(call, !lost.empty(), target))
         return tools::Findings;
+    const QTemporaryDir folder;
+    const std::optional<Source> again = readableAgain(call, *source, *content, folder);
+    if (!again)
+        return tools::Trouble;
     if (toOutput)
-        return writeToOutput(*source, format);
+        return writeToOutput(*again, format);
     sendOutputToErrors();
-    return write(*source, format, target) ? tools::Fine : tools::Trouble;
+    return write(*again, format, target) ? tools::Fine : tools::Trouble;
 }
 
 } // namespace configtool

@@ -27,7 +27,7 @@ Opened open(const tools::Call &call, tools::CommandLine &line, int least, int mo
     if (const auto done = line.read(least, most))
         return {std::nullopt, *done};
     const std::optional<Source> source = sourceOf(line);
-    if (!source || !contentOf(call, *source))
+    if (!source || !isReadable(call, *source))
         return {};
     return {source, tools::Fine};
 }

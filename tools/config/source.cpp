@@ -5,10 +5,22 @@
 #include "tools/terminal.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace configtool {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Answers false.
+bool tellUnreadable(const tools::Call &call, const Source &source, const QString &reason)
+{
+    tools::printError(call.command + ": "_L1 + source.path + ": "_L1 + reason + u'\n');
+    return false;
+}
+
+} // namespace
 
 QList<QCommandLineOption> sourceOptions()
 {
@@ -45,15 +57,32 @@ QString formatOf(const QString &path)
     return path.endsWith(".xml"_L1, Qt::CaseInsensitive) ? u"xml"_s : u"cfg"_s;
 }
 
+bool isReadable(const tools::Call &call, const Source &source)
+{
+    const QFileInfo info(source.path);
+    const bool isStream = info.exists() && !info.isFile() && !info.isDir();
+    QFile file(source.path);
+    return isStream || file.open(QIODevice::ReadOnly)
+           || tellUnreadable(call, source, file.errorString());
+}
+
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
 {
+    constexpr qint64 Portion = 65'536; // bytes read at once
     QFile file(source.path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        tools::printError(call.command + ": "_L1 + source.path + ": "_L1 + file.errorString()
-                          + u'\n');
-        return std::nullopt;
+    QByteArray content;
+    if (file.open(QIODevice::ReadOnly)) {
+        for (QByteArray read = file.read(Portion);
+             !read.isEmpty() && content.size() <= MaxContentBytes; read = file.read(Portion))
+            content += read;
     }
-    return file.readAll();
+    if (file.error() != QFile::NoError)
+        tellUnreadable(call, source, file.errorString());
+    else if (content.size() > MaxContentBytes)
+        tellUnreadable(call, source, u"more than 64 MiB, which nothing reads"_s);
+    else
+        return content;
+    return std::nullopt;
 }
 
 } // namespace configtool

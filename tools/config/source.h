@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "config/cfgscanner.h"
 #include "tools/command.h"
 
 #include <QByteArray>
@@ -9,6 +10,9 @@
 
 /// The configuration that the sub-commands of `zentaro config` work on.
 namespace configtool {
+
+/// The most bytes of a file that are looked at: as many as the store reads of one.
+constexpr qint64 MaxContentBytes = libconfig::CfgScanner::MaxBytes;
 
 struct Source
 {
@@ -28,7 +32,11 @@ std::optional<Source> sourceOf(const tools::CommandLine &line);
 /// "xml" for a name that ends in `.xml`, otherwise "cfg".
 QString formatOf(const QString &path);
 
-/// The content of the file; nothing when it cannot be read, which is told.
+/// Whether the file can be read; false when it cannot, which is told. A pipe stays untouched: it
+/// gives its content once.
+bool isReadable(const tools::Call &call, const Source &source);
+/// The content of the file; nothing when it cannot be read or has more bytes than the store reads,
+/// which is told.
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source);
 
 } // namespace configtool
