@@ -59,7 +59,7 @@ public:
     int end()
     {
         if (asJson)
-            note(tools::printOut(tools::findingsAsJson(files)));
+            note(tools::printBytes(tools::findingsAsJson(files).toUtf8()));
         return status;
     }
 
