@@ -172,14 +172,13 @@ int compareConfigurations(const tools::Call &call, const Options &options, const
     std::optional<std::vector<Comparison>> comparisons = readRequests(call, names);
     if (!comparisons)
         return tools::Trouble;
-    ConfigurationInUse configuration;
+    tools::ConfigurationInUse configuration;
     Printer printer(call, false);
     if (!useConfiguration(call, options, configuration)
         || !printAll(printer, *comparisons, &Comparison::before))
         return tools::Trouble;
-    if (const QString fault = configuration.use(options.other); !fault.isEmpty())
-        return tell(call, options.other, fault);
-    if (!printAll(printer, *comparisons, &Comparison::after))
+    if (!configuration.use(call, options.other)
+        || !printAll(printer, *comparisons, &Comparison::after))
         return tools::Trouble;
     Report report(call, options);
     for (const Comparison &comparison : *comparisons)

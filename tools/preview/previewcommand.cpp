@@ -37,9 +37,7 @@ void addOptions(tools::CommandLine &line)
                     u"The characters in a line of the paper; unless given, as the configuration "
                     u"says, or as a print file's first rule is long."_s,
                     u"COLUMNS"_s});
-    line.addOption({{u"c"_s, u"config"_s},
-                    u"Renders with FILE instead of ~/.zentaro/conf/zentaro.conf."_s,
-                    u"FILE"_s});
+    tools::addConfigurationOption(line);
     line.addOption({u"against"_s,
                     u"Renders the requests with FILE too, and shows only what changes."_s,
                     u"FILE"_s});
@@ -205,7 +203,7 @@ private:
 
     const tools::Call &call;
     const Options &options;
-    ConfigurationInUse configuration;
+    tools::ConfigurationInUse configuration;
     bool configured = false; // print files need no configuration
     Printer printer;
     Output output;
@@ -254,14 +252,13 @@ QString Options::configurationName() const
 }
 
 bool useConfiguration(const tools::Call &call, const Options &options,
-                      ConfigurationInUse &configuration)
+                      tools::ConfigurationInUse &configuration)
 {
-    if (options.configuration.isEmpty()) {
-        configuration.useOwn();
-        return true;
-    }
-    const QString fault = configuration.use(options.configuration);
-    return fault.isEmpty() || tell(call, options.configuration, fault) == tools::Fine;
+    if (!configuration.use(call, options.configuration))
+        return false;
+    if (configuration.isMissing())
+        tell(call, options.configurationName(), u"no such file: every setting has its default"_s);
+    return true;
 }
 
 bool Output::write(const QString &text)

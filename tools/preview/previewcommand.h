@@ -4,8 +4,8 @@
 #include "tools/preview/picturefile.h"
 
 #include "tools/command.h"
-#include "tools/preview/configurationinuse.h"
 #include "tools/preview/document.h"
+#include "tools/requests/configurationinuse.h"
 
 class QTextCodec;
 
@@ -38,7 +38,7 @@ int compareConfigurations(const tools::Call &call, const Options &options,
 
 /// Loads the first configuration; false when it cannot be read, which is told.
 bool useConfiguration(const tools::Call &call, const Options &options,
-                      ConfigurationInUse &configuration);
+                      tools::ConfigurationInUse &configuration);
 
 /// All rows of a document, up to one more than a picture may have.
 std::vector<Row> rowsOf(const Document &document, const Options &options);

@@ -4,13 +4,11 @@
 #include "render/companyprinterdriver.h"
 #include "render/elements.h"
 #include "render/requestreader.h"
+#include "tools/requests/divertedoutput.h"
 
 #include <QXmlLocator>
 
 #include <algorithm>
-#include <cstdio>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace preview {
 
@@ -111,7 +109,7 @@ std::optional<int> Trace::paperWidthAt(qint64 offset) const
 
 Rendering render(QIODevice &request, const QString &printName, bool traceElements)
 {
-    const DivertedOutput diverted(DivertedOutput::Target::Errors);
+    const tools::DivertedOutput diverted(tools::DivertedOutput::Target::Errors);
     TracingPrinter printer(printName, traceElements);
     const bool whole = requestreader::read(request, printer);
     Rendering rendering;
@@ -122,25 +120,6 @@ Rendering render(QIODevice &request, const QString &printName, bool traceElement
                           + ": the print run stops reading here"_L1;
     rendering.trace = std::move(printer.trace);
     return rendering;
-}
-
-DivertedOutput::DivertedOutput(Target target)
-{
-    std::fflush(stdout);
-    output = dup(STDOUT_FILENO);
-    const int nowhere = target == Target::Nowhere ? ::open("/dev/null", O_WRONLY) : -1;
-    dup2(nowhere >= 0 ? nowhere : STDERR_FILENO, STDOUT_FILENO);
-    if (nowhere >= 0)
-        ::close(nowhere);
-}
-
-DivertedOutput::~DivertedOutput()
-{
-    std::fflush(stdout);
-    if (output < 0)
-        return;
-    dup2(output, STDOUT_FILENO);
-    ::close(output);
 }
 
 bool isRequest(const QByteArray &begin)

@@ -45,21 +45,6 @@ struct Rendering
 /// in use, by the device of the print run. What that tells goes to standard error.
 Rendering render(QIODevice &request, const QString &printName, bool traceElements);
 
-/// Sends what this process writes to standard output somewhere else, as long as it lives.
-class DivertedOutput
-{
-public:
-    enum class Target { Errors, Nowhere };
-
-    explicit DivertedOutput(Target target);
-    DivertedOutput(const DivertedOutput &) = delete;
-    DivertedOutput &operator=(const DivertedOutput &) = delete;
-    ~DivertedOutput();
-
-private:
-    int output; // the descriptor that standard output had; -1: none
-};
-
 /// Whether a file that begins with these bytes is a print request, whatever its encoding: its first
 /// character other than white space is `<`.
 bool isRequest(const QByteArray &begin);

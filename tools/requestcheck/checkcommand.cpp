@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/requestcheck/requestcheck.h"
 
-#include "app/syncsingleton.h"
-#include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "tools/requestcheck/codes.h"
 #include "tools/requests/configurationinuse.h"
@@ -10,7 +8,6 @@
 #include "tools/terminal.h"
 
 #include <QCoreApplication>
-#include <QTranslator>
 
 #include <algorithm>
 
@@ -116,15 +113,12 @@ int run(const tools::Call &call)
     line.addArgument(u"REQUEST"_s, u"A print request, or a folder of them."_s, u"REQUEST..."_s);
     if (const auto done = line.read(1, -1))
         return *done;
-    const auto use = tools::useConfiguration(call, line);
-    const auto files = use ? tools::requestFiles(call, line.arguments()) : std::nullopt;
-    if (!files)
-        return tools::Trouble;
     const QCoreApplication application(call.argc, call.argv);
-    QTranslator translator; // the printed labels have the lengths that they have on the paper
-    loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
-    QCoreApplication::installTranslator(&translator);
-    return checkFiles(call, *files, line, *use == tools::ConfigurationUse::Present);
+    tools::ConfigurationInUse configuration; // its labels have the lengths that they have on paper
+    if (!configuration.use(call, line.value(u"config"_s)))
+        return tools::Trouble;
+    const auto files = tools::requestFiles(call, line.arguments());
+    return files ? checkFiles(call, *files, line, !configuration.isMissing()) : tools::Trouble;
 }
 
 } // namespace requestcheck

@@ -2,10 +2,13 @@
 #include "tools/requests/configurationinuse.h"
 
 #include "app/syncsingleton.h"
+#include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "tools/config/source.h"
+#include "tools/requests/divertedoutput.h"
 #include "tools/terminal.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 namespace tools {
@@ -20,21 +23,29 @@ void addConfigurationOption(CommandLine &line)
          u"FILE"_s});
 }
 
-std::optional<ConfigurationUse> useConfiguration(const Call &call, const CommandLine &line)
+ConfigurationInUse::~ConfigurationInUse()
 {
-    const bool isNamed = line.isSet(u"config"_s);
-    QString path = isNamed ? line.value(u"config"_s) : ZTConfiguration::userFile();
-    const QString format = isNamed ? configtool::formatOf(path) : u"cfg"_s;
-    const bool isMissing = !isNamed && !QFile::exists(path);
-    if (isMissing) {
-        path = u"/dev/null"_s; // an empty one in its place: the reader would tell of it
-    } else if (QFile file(path); !file.open(QIODevice::ReadOnly)) {
+    QCoreApplication::removeTranslator(&translator);
+}
+
+bool ConfigurationInUse::use(const Call &call, const QString &fileName)
+{
+    const bool isOwn = fileName.isEmpty();
+    const QString path = isOwn ? ZTConfiguration::userFile() : fileName;
+    missing = isOwn && !QFile::exists(path);
+    if (QFile file(path); !missing && !file.open(QIODevice::ReadOnly)) {
         printError(call.command + ": "_L1 + path + ": "_L1 + file.errorString() + u'\n');
-        return std::nullopt;
+        return false;
     }
-    static ZTConfiguration configuration(path, format);
-    SyncSingleton<ZTConfiguration>::instance_pointer.store(&configuration);
-    return isMissing ? ConfigurationUse::Missing : ConfigurationUse::Present;
+    // The first use reads the user's own file, whose absence is told by whoever minds it.
+    const DivertedOutput diverted(DivertedOutput::Target::Nowhere);
+    ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();
+    if (!isOwn)
+        configuration->readFile(path, configtool::formatOf(path));
+    QCoreApplication::removeTranslator(&translator);
+    if (loadTranslation(translator, *configuration))
+        QCoreApplication::installTranslator(&translator);
+    return true;
 }
 
 } // namespace tools
