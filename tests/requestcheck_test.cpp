@@ -264,7 +264,7 @@ Outcome checked(const QStringList &words, const QStringList &variables = {})
 TEST(RequestCheck, FindsNoFaultInTheSamples)
 {
     const std::pair<QString, Codes> papers[] = {
-        {u"zentaro-40.conf"_s, {"cut-description", "prints-nothing", "switch-off"}},
+        {u"zentaro-40.conf"_s, {"prints-nothing", "switch-off"}},
         // The labels of the report's tables and of the unpaid amount are wider by themselves.
         {u"zentaro-32.conf"_s,
          {"cut-description", "prints-nothing", "switch-off", "line-too-long"}}};
