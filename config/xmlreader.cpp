@@ -7,6 +7,27 @@
 #include <QXmlStreamReader>
 
 namespace libconfig {
+namespace {
+
+/// The toolkit walks up to the root of the tree for every element that joins it: the time it takes
+/// grows with the square of the depth. It also reads a file whole, however long.
+constexpr int MaxDepth = 1'000;
+constexpr qint64 MaxBytes = 64 * 1'024 * 1'024;
+
+bool nestsTooDeep(const QByteArray &content)
+{
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    int depth = 0;
+    while (!reader.atEnd() && depth <= MaxDepth) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : 0;
+        depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+    }
+    return depth > MaxDepth;
+}
+
+} // namespace
 
 void Config::loadXmlFile()
 {
@@ -15,7 +36,9 @@ void Config::loadXmlFile()
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    const QByteArray content = file.readAll();
+    const QByteArray content = file.read(MaxBytes + 1);
+    if (content.size() > MaxBytes || nestsTooDeep(content))
+        return;
     if (!document->setContent(content, false)) {
         newDocument(); // without what was read before the fault
         return;

@@ -20,7 +20,8 @@ PrinterDriver::PrinterDriver(const QString &fileName, bool append)
     , file(std::make_unique<text::LocaleFile>(fileName))
     , justify(u"left"_s)
 {
-    QIODevice::OpenMode mode = QIODevice::WriteOnly;
+    // The stream gathers what is written; a second buffer would forget why a write failed.
+    QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (append)
         mode |= QIODevice::Append;
     if (file->open(mode))
@@ -31,9 +32,18 @@ PrinterDriver::PrinterDriver(const QString &fileName, bool append)
 
 PrinterDriver::~PrinterDriver()
 {
-    if (stream)
-        stream->flush();
+    if (!stream)
+        return; // that the file could not be opened was told
+    stream->flush();
+    bool isWhole = stream->status() == QTextStream::Ok && file->error() == QFileDevice::NoError;
+    QString fault = file->errorString(); // closing forgets it
     file->close();
+    if (isWhole && file->error() != QFileDevice::NoError) { // a server's disk may tell so late
+        isWhole = false;
+        fault = file->errorString();
+    }
+    if (!isWhole)
+        text::printLine("The document was not written completely: " + text::toLocale(fault));
 }
 
 bool PrinterDriver::startDocument()

@@ -177,10 +177,9 @@ private:
     {
         tell();
         do {
-            const bool readable = request.isOpen() && !ended && !exceedsLimits();
-            const qint64 size = readable ? request.read(piece.data(), PieceBytes) : 0;
-            ended = size <= 0;
-            if (ended)
+            ended = ended || exceedsLimits();
+            const qint64 size = readPiece();
+            if (size == 0)
                 return QChar(EndOfDocument);
             decodePiece(QByteArrayView(piece).first(size));
             bytesRead += size;
@@ -190,13 +189,28 @@ private:
         return next();
     }
 
+    /// Fills the piece unless the request ends, and answers its size: a pipe gives no more than has
+    /// come, be it a single byte, and the first piece tells the encoding.
+    qint64 readPiece()
+    {
+        qint64 size = 0;
+        while (size < PieceBytes && request.isOpen() && !ended) {
+            const qint64 got = request.read(piece.data() + size, PieceBytes - size);
+            ended = got <= 0;
+            size += ended ? 0 : got;
+        }
+        return size;
+    }
+
     /// Counts what the present piece uses of the limits, and tells whether one is exceeded.
     bool exceedsLimits()
     {
         documentTypeBytes = progress.isInDocumentType() ? documentTypeBytes + PieceBytes : 0;
         if (progress.entitiesAreDeclared())
             references += text.count(u'&');
-        if (documentTypeBytes > MaxDocumentTypeBytes)
+        if (bytesRead > MaxRequestBytes)
+            stop = Stop::Size;
+        else if (documentTypeBytes > MaxDocumentTypeBytes)
             stop = Stop::DocumentType;
         else if (references > MaxEntityReferences)
             stop = Stop::EntityReferences;

@@ -20,6 +20,8 @@ protected:
     qint64 writeData(const char *data, qint64 length) override;
 
 private:
+    bool writeWhole(QByteArrayView bytes);
+
     QTextCodec *const codec; // null: the locale is UTF-8, bytes pass as they are
     QStringDecoder decoder;
 };

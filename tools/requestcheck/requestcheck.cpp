@@ -17,6 +17,8 @@ QString exceededLimit(requestreader::Stop why)
     switch (why) {
     case Depth:
         return u"elements nest deeper than %1"_s.arg(requestreader::MaxDepth);
+    case Size:
+        return u"the request is longer than %1 bytes"_s.arg(requestreader::MaxRequestBytes);
     case DocumentType:
         return u"the document type is longer than %1 bytes"_s.arg(
             requestreader::MaxDocumentTypeBytes);
