@@ -44,17 +44,16 @@ Configuration configurationOf(const QByteArray &text)
 
 Configuration bundled(const char *name)
 {
-    return configurationOf(fuzz::read(QStringLiteral(ZENTARO_SOURCE_DIR "/") + QLatin1String(name)));
+    return configurationOf(
+        fuzz::read(QStringLiteral(ZENTARO_SOURCE_DIR "/") + QLatin1String(name)));
 }
 
 /// The size of the request chooses, so that requests stand in the corpus as they are.
 ZTConfiguration *configurationFor(size_t size)
 {
     static const std::array configurations = {
-        bundled("samples/zentaro-40.conf"),
-        bundled("samples/zentaro-32.conf"),
-        bundled("tests/golden/odd/zentaro.conf"),
-        configurationOf({}),
+        bundled("samples/zentaro-40.conf"),       bundled("samples/zentaro-32.conf"),
+        bundled("tests/golden/odd/zentaro.conf"), configurationOf({}),
         configurationOf(absurdConfiguration()),
     };
     return configurations[size % configurations.size()].get();
