@@ -52,7 +52,7 @@ QByteArray encoded(QByteArray utf8, const Encoding &encoding)
 TEST(Locale, EncodesThePrintFileAndItsLabels)
 {
     const QByteArray request =
-        QByteArray("<p><method name=\"printFullOrder\"/><headers/><receipe name=\"") + text
+        QByteArray("<p><method name=\"printFullOrder\"/><headers/><receipe name=\"") + sample
         + "\" number=\"1\"/></p>";
     const Home home("zentaro:{language:{file=\"" ZENTARO_TRANSLATIONS_DIR "/zentaro_fr\";};};");
     const QByteArray utf8 = support::printed(request, home);
