@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
-#include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "tests/support.h"
 
 #include <gtest/gtest.h>
-
-#include <thread>
 
 using namespace Qt::StringLiterals;
 using libconfig::Config;
@@ -224,29 +221,6 @@ TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)
     EXPECT_EQ(config.getStrValue(u"zentaro.caff\u00E8"_s), u"\u00E8\u0080"_s);
     EXPECT_EQ(config.getStrValue(u"zentaro.caff\u20AC"_s), u"asked for in Latin-1"_s);
     EXPECT_FALSE(config.getStrValue(u"zentaro.missing"_s).isNull());
-}
-
-TEST(SyncSingleton, IsCreatedOnceByManyThreads)
-{
-    struct Counted
-    {
-        Counted() { ++created(); }
-        static std::atomic<int> &created()
-        {
-            static std::atomic<int> count = 0;
-            return count;
-        }
-    };
-    std::array<Counted *, 8> seen{};
-    std::vector<std::thread> threads;
-    threads.reserve(seen.size());
-    for (Counted *&one : seen)
-        threads.emplace_back([&one] { one = SyncSingleton<Counted>::instance(); });
-    for (std::thread &thread : threads)
-        thread.join();
-    EXPECT_EQ(Counted::created(), 1);
-    for (const Counted *one : seen)
-        EXPECT_EQ(one, SyncSingleton<Counted>::instance_pointer.load());
 }
 
 } // namespace
