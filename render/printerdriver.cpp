@@ -14,10 +14,24 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A request that repeats a long text can ask for terabytes.
+constexpr qint64 MaxPrintFileBytes = 1'024 * 1'024 * 1'024;
+
+std::unique_ptr<QFile> printFile(const QString &name)
+{
+    auto file = std::make_unique<text::LocaleFile>(name);
+    file->limitTo(MaxPrintFileBytes);
+    return file;
+}
+
+} // namespace
+
 PrinterDriver::PrinterDriver(const QString &fileName, bool append)
     : config(SyncSingleton<ZTConfiguration>::instance())
     , currentMethod(u""_s)
-    , file(std::make_unique<text::LocaleFile>(fileName))
+    , file(printFile(fileName))
     , justify(u"left"_s)
 {
     // The stream gathers what is written; a second buffer would forget why a write failed.
@@ -61,6 +75,8 @@ bool PrinterDriver::endDocument()
 bool PrinterDriver::startElement(const QString &, const QString &, const QString &qName,
                                  const QXmlAttributes &atts)
 {
+    if (stream && stream->status() != QTextStream::Ok)
+        return false; // nothing more would be written
     if (qName == element::method)
         return startMethod(valueOf(atts, "name"_L1));
     if (method)

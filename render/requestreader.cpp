@@ -8,6 +8,7 @@
 #include <QXmlSimpleReader>
 
 #include <optional>
+#include <utility>
 
 namespace requestreader {
 namespace {
@@ -27,6 +28,7 @@ public:
 
     bool isInDocumentType() const { return inDocumentType; }
     bool entitiesAreDeclared() const { return declared; }
+    qint64 elementsSeen() const { return elements; }
     /// Why the reading was stopped from here, if it was.
     std::optional<Stop> reason() const { return stop; }
     /// The reader's word for the fault that it met.
@@ -103,6 +105,7 @@ private:
     QString faultText;
     bool inDocumentType = false;
     bool declared = false;
+    qint64 elements = 0;
     int depth = 0; // of the element that is being read; the root has 1
 };
 
@@ -208,12 +211,18 @@ private:
         documentTypeBytes = progress.isInDocumentType() ? documentTypeBytes + PieceBytes : 0;
         if (progress.entitiesAreDeclared())
             references += text.count(u'&');
+        if (std::exchange(elements, progress.elementsSeen()) != progress.elementsSeen())
+            attributes = 0; // of one that began in this piece; few pieces see none begin
+        else
+            attributes += text.count(u'=');
         if (bytesRead > MaxRequestBytes)
             stop = Stop::Size;
         else if (documentTypeBytes > MaxDocumentTypeBytes)
             stop = Stop::DocumentType;
         else if (references > MaxEntityReferences)
             stop = Stop::EntityReferences;
+        else if (attributes > MaxAttributes)
+            stop = Stop::Attributes;
         return stop.has_value();
     }
 
@@ -238,6 +247,8 @@ private:
     bool ended = false;
     qint64 bytesRead = 0;
     qint64 documentTypeBytes = 0; // of the one being read
+    qint64 elements = 0;          // seen before the present piece
+    qsizetype attributes = 0;     // of the element being read, but for its first piece
     qsizetype references = 0;     // counted where they may be to entities of the request's own
     QString text;                 // of the present piece
     QString::const_iterator at = text.cbegin();
@@ -250,6 +261,7 @@ bool ElementFilter::startElement(const QString &namespaceURI, const QString &loc
 {
     if (source)
         source->tell();
+    ++elements;
     if (!go(++depth <= MaxDepth, Stop::Depth))
         return false;
     for (int i = 0; i < atts.count(); ++i) {

@@ -181,6 +181,14 @@ TEST(Config, ReadsXml)
     config.load("<z><z a=\"1\"/>", u"xml"_s); // not well-formed: nothing of it is kept
     EXPECT_EQ(config.lookup(u"z.a"_s), u""_s);
     EXPECT_EQ(config.lookup(u"z.z.a"_s), u""_s);
+    for (const int depth : {1'000, 1'001}) { // one takes a moment, a hundred thousand would minutes
+        config.load(QByteArray("<z>").repeated(depth - 1) + "<z a='1'/>"
+                        + QByteArray("</z>").repeated(depth - 1),
+                    u"xml"_s);
+        EXPECT_EQ(config.lookup(u"z."_s.repeated(depth) + u'a'), depth > 1'000 ? u""_s : u"1"_s);
+    }
+    config.readFile(u"/dev/zero"_s, u"xml"_s); // never ends
+    EXPECT_EQ(config.tree(), u"[]()"_s);
     config.load("<z a=\"1\"/>", u"XML"_s); // an unknown format word
     EXPECT_EQ(config.tree(), u"[]()"_s);
 }

@@ -92,6 +92,12 @@ TEST(Fault, OfThePrintFile)
          "status 0\n" + whole},
         {"pipe whose reader goes", "mkfifo pipe; head -c 1 pipe >out & run long pipe; wait",
          notWhole + "Broken pipe\nstatus 0\n"},
+        {"far more than the request",
+         "{ echo \"<p><method name='printPartialOrder'/><printers name='\"; yes y | head -c "
+         "2000000\n"
+         "echo \"'/>\"; yes '<headers/>' | head -n 1000; echo '</p>'; } >amplified\n"
+         "run amplified /dev/null",
+         notWhole + "File too large\nstatus 0\n"},
         {"the request itself", "run request request; show request", "status 0\n"},
     };
     expect(rows);
@@ -116,6 +122,9 @@ TEST(Fault, OfTheRequest)
          "while read -r line; do echo \"$line\"; done <rest >>part & run part out; wait\n"
          "cmp -n $(wc -c <out) out all || cmp out all",
          "status 0\nstatus 0\n"},
+        {"attributes without an end",
+         "{ head -c 37 request; echo '<a'; yes \" a=''\"; } | run /dev/stdin out; show out",
+         "status 0\n\nj\n"},
         {"100,000 deep",
          "{ head -c 37 request; yes '<a>' | head -n 100000; } >deep; run deep out; show out",
          "status 0\n\nj\n"},
@@ -160,6 +169,7 @@ TEST(Fault, OfTheConfiguration)
         {"a value of 10 MB",
          "{ echo 'zentaro:{doc:{paperWidth='; yes 4 | head -c 10000000; } >" + conf + print,
          "status 0\n" + whole},
+        {"endless", "ln -sf /dev/zero " + conf + print, "status 0\n" + whole},
         {"100,000 groups deep", "yes 'zentaro:{' | head -n 100000 >" + conf + print,
          "status 0\n" + whole},
         {"10 MB of settings, the one that counts behind them",

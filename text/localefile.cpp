@@ -3,6 +3,8 @@
 
 #include "text/localeencoding.h"
 
+#include <cerrno>
+
 namespace text {
 
 LocaleFile::LocaleFile(const QString &name)
@@ -24,6 +26,11 @@ qint64 LocaleFile::writeData(const char *data, qint64 length)
 /// A disk that fills up takes a part; only the write after it tells the reason.
 bool LocaleFile::writeWhole(QByteArrayView bytes)
 {
+    room -= bytes.size();
+    if (room < 0) {
+        setErrorString(qt_error_string(EFBIG));
+        return false;
+    }
     while (!bytes.isEmpty()) {
         const qint64 taken = QFile::writeData(bytes.data(), bytes.size());
         if (taken <= 0)
