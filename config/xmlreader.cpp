@@ -14,6 +14,17 @@ namespace {
 constexpr int MaxDepth = 1'000;
 constexpr qint64 MaxBytes = 64 * 1'024 * 1'024;
 
+/// The content of a file up to the limit, and a piece more of one that exceeds it.
+QByteArray limitedContent(QFile &file)
+{
+    constexpr qint64 PieceBytes = 64 * 1'024;
+    QByteArray content;
+    for (QByteArray piece = file.read(PieceBytes); !piece.isEmpty() && content.size() <= MaxBytes;
+         piece = file.read(PieceBytes))
+        content += piece;
+    return content;
+}
+
 bool nestsTooDeep(const QByteArray &content)
 {
     QXmlStreamReader reader(content);
@@ -36,7 +47,7 @@ void Config::loadXmlFile()
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    const QByteArray content = file.read(MaxBytes + 1);
+    const QByteArray content = limitedContent(file);
     if (content.size() > MaxBytes || nestsTooDeep(content))
         return;
     if (!document->setContent(content, false)) {
