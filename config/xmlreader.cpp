@@ -9,9 +9,7 @@
 namespace libconfig {
 namespace {
 
-/// The toolkit walks up to the root of the tree for every element that joins it: the time it takes
-/// grows with the square of the depth. It also reads a file whole, however long.
-constexpr int MaxDepth = 1'000;
+/// A longer file is not read: it may be a link to a device that never ends.
 constexpr qint64 MaxBytes = 64 * 1'024 * 1'024;
 
 /// The content of a file up to the limit, and a piece more of one that exceeds it.
@@ -30,12 +28,12 @@ bool nestsTooDeep(const QByteArray &content)
     QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
     int depth = 0;
-    while (!reader.atEnd() && depth <= MaxDepth) {
+    while (!reader.atEnd() && depth <= Config::MaxXmlDepth) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         depth += token == QXmlStreamReader::StartElement ? 1 : 0;
         depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
     }
-    return depth > MaxDepth;
+    return depth > Config::MaxXmlDepth;
 }
 
 } // namespace
