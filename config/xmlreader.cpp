@@ -10,12 +10,12 @@ namespace libconfig {
 namespace {
 
 /// A longer file is not read: it may be a link to a device that never ends.
-constexpr qint64 MaxBytes = 64 * 1'024 * 1'024;
+constexpr qint64 MaxBytes = qint64(64) * 1'024 * 1'024;
 
 /// The content of a file up to the limit, and a piece more of one that exceeds it.
 QByteArray limitedContent(QFile &file)
 {
-    constexpr qint64 PieceBytes = 64 * 1'024;
+    constexpr qint64 PieceBytes = qint64(64) * 1'024;
     QByteArray content;
     for (QByteArray piece = file.read(PieceBytes); !piece.isEmpty() && content.size() <= MaxBytes;
          piece = file.read(PieceBytes))

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A request that repeats a long text can ask for terabytes.
-constexpr qint64 MaxPrintFileBytes = 1'024 * 1'024 * 1'024;
+constexpr qint64 MaxPrintFileBytes = qint64(1'024) * 1'024 * 1'024;
 
 std::unique_ptr<QFile> printFile(const QString &name)
 {
