@@ -53,8 +53,12 @@ public:
     /// Reads the body of the group `name`, up to and including its `};`, from the open stream. The
     /// group's element joins `parent` with its first member; without members it never does.
     void loadFile(QString const &name, QDomNode parent);
-    /// Reads the whole "xml" file; one that is missing or not well-formed leaves an empty tree.
+    /// Reads the whole "xml" file; one that is missing, not well-formed, over 64 MiB or nested more
+    /// than MaxXmlDepth deep leaves an empty tree.
     void loadXmlFile();
+    /// The toolkit walks up to the root of the tree for every element that joins it: the time that
+    /// reading takes grows with the square of the depth.
+    static constexpr int MaxXmlDepth = 1'000;
     /// Skips the input up to and including `c`; false when the end of the file came first.
     bool jump(char c);
 

@@ -7,6 +7,36 @@
 #include <QXmlStreamReader>
 
 namespace libconfig {
+namespace {
+
+/// A longer file is not read: it may be a link to a device that never ends.
+constexpr qint64 MaxBytes = qint64(64) * 1'024 * 1'024;
+
+/// The content of a file up to the limit, and a piece more of one that exceeds it.
+QByteArray limitedContent(QFile &file)
+{
+    constexpr qint64 PieceBytes = qint64(64) * 1'024;
+    QByteArray content;
+    for (QByteArray piece = file.read(PieceBytes); !piece.isEmpty() && content.size() <= MaxBytes;
+         piece = file.read(PieceBytes))
+        content += piece;
+    return content;
+}
+
+bool nestsTooDeep(const QByteArray &content)
+{
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    int depth = 0;
+    while (!reader.atEnd() && depth <= Config::MaxXmlDepth) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : 0;
+        depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+    }
+    return depth > Config::MaxXmlDepth;
+}
+
+} // namespace
 
 void Config::loadXmlFile()
 {
@@ -15,7 +45,9 @@ void Config::loadXmlFile()
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    const QByteArray content = file.readAll();
+    const QByteArray content = limitedContent(file);
+    if (content.size() > MaxBytes || nestsTooDeep(content))
+        return;
     if (!document->setContent(content, false)) {
         newDocument(); // without what was read before the fault
         return;

@@ -14,13 +14,28 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A request that repeats a long text can ask for terabytes.
+constexpr qint64 MaxPrintFileBytes = qint64(1'024) * 1'024 * 1'024;
+
+std::unique_ptr<QFile> printFile(const QString &name)
+{
+    auto file = std::make_unique<text::LocaleFile>(name);
+    file->limitTo(MaxPrintFileBytes);
+    return file;
+}
+
+} // namespace
+
 PrinterDriver::PrinterDriver(const QString &fileName, bool append)
     : config(SyncSingleton<ZTConfiguration>::instance())
     , currentMethod(u""_s)
-    , file(std::make_unique<text::LocaleFile>(fileName))
+    , file(printFile(fileName))
     , justify(u"left"_s)
 {
-    QIODevice::OpenMode mode = QIODevice::WriteOnly;
+    // The stream gathers what is written; a second buffer would forget why a write failed.
+    QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     if (append)
         mode |= QIODevice::Append;
     if (file->open(mode))
@@ -31,9 +46,18 @@ PrinterDriver::PrinterDriver(const QString &fileName, bool append)
 
 PrinterDriver::~PrinterDriver()
 {
-    if (stream)
-        stream->flush();
+    if (!stream)
+        return; // that the file could not be opened was told
+    stream->flush();
+    bool isWhole = stream->status() == QTextStream::Ok && file->error() == QFileDevice::NoError;
+    QString fault = file->errorString(); // closing forgets it
     file->close();
+    if (isWhole && file->error() != QFileDevice::NoError) { // a server's disk may tell so late
+        isWhole = false;
+        fault = file->errorString();
+    }
+    if (!isWhole)
+        text::printLine("The document was not written completely: " + text::toLocale(fault));
 }
 
 bool PrinterDriver::startDocument()
@@ -51,6 +75,8 @@ bool PrinterDriver::endDocument()
 bool PrinterDriver::startElement(const QString &, const QString &, const QString &qName,
                                  const QXmlAttributes &atts)
 {
+    if (stream && stream->status() != QTextStream::Ok)
+        return false; // nothing more would be written
     if (qName == element::method)
         return startMethod(valueOf(atts, "name"_L1));
     if (method)

@@ -8,6 +8,7 @@
 #include <QXmlSimpleReader>
 
 #include <optional>
+#include <utility>
 
 namespace requestreader {
 namespace {
@@ -27,6 +28,7 @@ public:
 
     bool isInDocumentType() const { return inDocumentType; }
     bool entitiesAreDeclared() const { return declared; }
+    qint64 elementsSeen() const { return elements; }
     /// Why the reading was stopped from here, if it was.
     std::optional<Stop> reason() const { return stop; }
     /// The reader's word for the fault that it met.
@@ -103,6 +105,7 @@ private:
     QString faultText;
     bool inDocumentType = false;
     bool declared = false;
+    qint64 elements = 0;
     int depth = 0; // of the element that is being read; the root has 1
 };
 
@@ -177,10 +180,9 @@ private:
     {
         tell();
         do {
-            const bool readable = request.isOpen() && !ended && !exceedsLimits();
-            const qint64 size = readable ? request.read(piece.data(), PieceBytes) : 0;
-            ended = size <= 0;
-            if (ended)
+            ended = ended || exceedsLimits();
+            const qint64 size = readPiece();
+            if (size == 0)
                 return QChar(EndOfDocument);
             decodePiece(QByteArrayView(piece).first(size));
             bytesRead += size;
@@ -190,16 +192,37 @@ private:
         return next();
     }
 
+    /// Fills the piece unless the request ends, and answers its size: a pipe gives no more than has
+    /// come, be it a single byte, and the first piece tells the encoding.
+    qint64 readPiece()
+    {
+        qint64 size = 0;
+        while (size < PieceBytes && request.isOpen() && !ended) {
+            const qint64 got = request.read(piece.data() + size, PieceBytes - size);
+            ended = got <= 0;
+            size += ended ? 0 : got;
+        }
+        return size;
+    }
+
     /// Counts what the present piece uses of the limits, and tells whether one is exceeded.
     bool exceedsLimits()
     {
         documentTypeBytes = progress.isInDocumentType() ? documentTypeBytes + PieceBytes : 0;
         if (progress.entitiesAreDeclared())
             references += text.count(u'&');
-        if (documentTypeBytes > MaxDocumentTypeBytes)
+        if (std::exchange(elements, progress.elementsSeen()) != progress.elementsSeen())
+            attributes = 0; // of one that began in this piece; few pieces see none begin
+        else
+            attributes += text.count(u'=');
+        if (bytesRead > MaxRequestBytes)
+            stop = Stop::Size;
+        else if (documentTypeBytes > MaxDocumentTypeBytes)
             stop = Stop::DocumentType;
         else if (references > MaxEntityReferences)
             stop = Stop::EntityReferences;
+        else if (attributes > MaxAttributes)
+            stop = Stop::Attributes;
         return stop.has_value();
     }
 
@@ -224,6 +247,8 @@ private:
     bool ended = false;
     qint64 bytesRead = 0;
     qint64 documentTypeBytes = 0; // of the one being read
+    qint64 elements = 0;          // seen before the present piece
+    qsizetype attributes = 0;     // of the element being read, but for its first piece
     qsizetype references = 0;     // counted where they may be to entities of the request's own
     QString text;                 // of the present piece
     QString::const_iterator at = text.cbegin();
@@ -236,6 +261,7 @@ bool ElementFilter::startElement(const QString &namespaceURI, const QString &loc
 {
     if (source)
         source->tell();
+    ++elements;
     if (!go(++depth <= MaxDepth, Stop::Depth))
         return false;
     for (int i = 0; i < atts.count(); ++i) {

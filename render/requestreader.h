@@ -13,6 +13,14 @@ namespace requestreader {
 /// recurses for every level, and a hostile request would overflow its stack.
 constexpr int MaxDepth = 1'000;
 
+/// So does what is behind these bytes, give or take a piece of 16 KiB: the value of an attribute is
+/// in memory as a whole, and a pipe need not end.
+constexpr int MaxRequestBytes = 64 * 1'024 * 1'024;
+
+/// And an element of more attributes, counted by pieces and equals signs: they are in memory
+/// together, and each takes far more there than in the request.
+constexpr int MaxAttributes = 1'000'000;
+
 /// A longer document type stops the reading as a fault does, give or take a piece of 16 KiB: the
 /// reader also recurses in content models, and its checks of entities take time that grows with the
 /// square of their number.
@@ -29,6 +37,8 @@ enum class Stop {
     Fault,            ///< the XML is not well-formed
     Refused,          ///< the handler answered an event with false
     Depth,            ///< MaxDepth is exceeded
+    Size,             ///< MaxRequestBytes is exceeded
+    Attributes,       ///< MaxAttributes is exceeded
     DocumentType,     ///< MaxDocumentTypeBytes is exceeded
     Entity,           ///< an entity exceeds MaxEntitySize or holds others
     EntityReferences, ///< MaxEntityReferences is exceeded

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
-#include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "tests/support.h"
 
 #include <gtest/gtest.h>
-
-#include <thread>
 
 using namespace Qt::StringLiterals;
 using libconfig::Config;
@@ -184,6 +181,14 @@ TEST(Config, ReadsXml)
     config.load("<z><z a=\"1\"/>", u"xml"_s); // not well-formed: nothing of it is kept
     EXPECT_EQ(config.lookup(u"z.a"_s), u""_s);
     EXPECT_EQ(config.lookup(u"z.z.a"_s), u""_s);
+    for (const int depth : {1'000, 1'001}) { // one takes a moment, a hundred thousand would minutes
+        config.load(QByteArray("<z>").repeated(depth - 1) + "<z a='1'/>"
+                        + QByteArray("</z>").repeated(depth - 1),
+                    u"xml"_s);
+        EXPECT_EQ(config.lookup(u"z."_s.repeated(depth) + u'a'), depth > 1'000 ? u""_s : u"1"_s);
+    }
+    config.readFile(u"/dev/zero"_s, u"xml"_s); // never ends
+    EXPECT_EQ(config.tree(), u"[]()"_s);
     config.load("<z a=\"1\"/>", u"XML"_s); // an unknown format word
     EXPECT_EQ(config.tree(), u"[]()"_s);
 }
@@ -224,29 +229,6 @@ TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)
     EXPECT_EQ(config.getStrValue(u"zentaro.caff\u00E8"_s), u"\u00E8\u0080"_s);
     EXPECT_EQ(config.getStrValue(u"zentaro.caff\u20AC"_s), u"asked for in Latin-1"_s);
     EXPECT_FALSE(config.getStrValue(u"zentaro.missing"_s).isNull());
-}
-
-TEST(SyncSingleton, IsCreatedOnceByManyThreads)
-{
-    struct Counted
-    {
-        Counted() { ++created(); }
-        static std::atomic<int> &created()
-        {
-            static std::atomic<int> count = 0;
-            return count;
-        }
-    };
-    std::array<Counted *, 8> seen{};
-    std::vector<std::thread> threads;
-    threads.reserve(seen.size());
-    for (Counted *&one : seen)
-        threads.emplace_back([&one] { one = SyncSingleton<Counted>::instance(); });
-    for (std::thread &thread : threads)
-        thread.join();
-    EXPECT_EQ(Counted::created(), 1);
-    for (const Counted *one : seen)
-        EXPECT_EQ(one, SyncSingleton<Counted>::instance_pointer.load());
 }
 
 } // namespace

@@ -102,6 +102,9 @@ TEST(ConfigCheck, TellsWhatIsWrongAndWhere)
     EXPECT_EQ(checked("<zentaro>\n <doc paperWidht='1'/></zentaro>", u"xml"_s),
               u"2:2 unknown-key\n"_s);
     EXPECT_EQ(checked("<zentaro>\n <doc", u"xml"_s), u"0:0 no-settings\n2:6 xml\n"_s);
+    const QByteArray deep =
+        QByteArray("<a>\n").repeated(1'001) + QByteArray("</a>").repeated(1'001);
+    EXPECT_EQ(checked(deep, u"xml"_s), u"0:0 no-settings\n1001:4 xml\n"_s);
 }
 
 TEST(ConfigCheck, ListsAHundredFindingsOfACode)

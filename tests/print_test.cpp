@@ -2,14 +2,11 @@
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
 #include "tests/recordingdevice.h"
-#include "text/localeencoding.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRandomGenerator>
-#include <QTextCodec>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
@@ -72,7 +69,6 @@ TEST(PrintRun, EndsNormallyWhateverTheRequest)
         {"1,000 deep", start + deep + item + QByteArray("</a>").repeated(998) + "</p>",
          "\nj\n" + printedItem + "J\n", ""},
         {"1,001 deep", start + deep + "<a>" + item, "\nj\n", ""},
-        {"100,000 deep", start + QByteArray("<a>").repeated(100'000), "\nj\n", ""},
         {"entities",
          "<!DOCTYPE p [<!ENTITY e SYSTEM \"/etc/passwd\"><!ENTITY n \"y\">]>" + start
              + "&e;<receipe number=\"1\" name=\"&n;\"/></p>",
@@ -103,29 +99,6 @@ TEST(PrintRun, EndsNormallyWhateverTheRequest)
     }
 }
 
-TEST(PrintRun, TellsWhatItCannotOpen)
-{
-    const Home home;
-    const QByteArray noSettings = "Error in the method FileReader::open( "
-                                  + home.configurationPath().toUtf8() + " ): File Not Found\n";
-    support::writeFile(home.path(u"out"_s), "old");
-    Outcome outcome = support::zentaroPrint({u"missing.xml"_s, home.path(u"out"_s)}, home);
-    EXPECT_EQ(outcome.exitStatus, 0);
-    EXPECT_EQ(outcome.output, noSettings);
-    EXPECT_EQ(outcome.errors, "");
-    EXPECT_EQ(support::readFile(home.path(u"out"_s)), "");
-
-    // The toolkit itself would complain of the empty name.
-    const QString sample = support::sourceDir() + u"/samples/printFullOrderFiscal.xml"_s;
-    for (const QString &unwritable : {home.path(u"no/folder"_s), home.path(), u""_s}) {
-        outcome = support::zentaroPrint({sample, unwritable}, home, {u"QT_FATAL_WARNINGS=1"_s});
-        EXPECT_EQ(outcome.exitStatus, 0);
-        EXPECT_EQ(outcome.output,
-                  noSettings + "PrintManager::printAbstractOrder(...): Unable To Open File\n");
-        EXPECT_EQ(outcome.errors, "");
-    }
-}
-
 /// File names are bytes: those of a Latin-1 system, and what the toolkit takes for its own.
 TEST(PrintRun, OpensFilesOfAnyName)
 {
@@ -141,63 +114,6 @@ TEST(PrintRun, OpensFilesOfAnyName)
         support::run(u"sh"_s, {u"-c"_s, script, support::zentaroPrintProgram(), home.path()}, home);
     EXPECT_EQ(outcome.output, "\nj\n\"\"@\nJ\n\nj\n\"\"@\nJ\n");
     EXPECT_EQ(outcome.errors, "");
-}
-
-TEST(PrintRun, KeepsDiagnosticsOutOfThePrintFile)
-{
-    const Home home(noConfiguration);
-    support::writeFile(home.path(u"in"_s), "<p><method name=\"printPartialOrder\"/><method/></p>");
-    const QString command = u"exec \"$0\" \"$1/in\" \"$1/out\" "_s;
-    for (const QString &closed : {u"<&- >&- 2>&-"_s, u">&-"_s}) {
-        const Outcome outcome = support::run(
-            u"sh"_s, {u"-c"_s, command + closed, support::zentaroPrintProgram(), home.path()},
-            home);
-        EXPECT_EQ(outcome.exitStatus, 0);
-        EXPECT_EQ(outcome.errors, "");
-        EXPECT_EQ(support::readFile(home.path(u"out"_s)), "\nj\n") << closed.toStdString();
-    }
-}
-
-TEST(PrintRun, OutlivesSignalsOfItsStreams)
-{
-    const Home home(noConfiguration);
-    support::writeFile(home.path(u"in"_s), "<p><method/></p>");
-    for (const QString &command : {u"\"$0\""_s, u"\"$0\" \"$1/in\" \"$1/out\""_s,
-                                   u"ulimit -f 0; \"$0\" \"$1/in\" \"$1/out\" >/dev/null"_s}) {
-        const QString script =
-            u"{ sleep 0.2; "_s + command + u"; echo $? >&2; } | true; sleep 0.3"_s;
-        const Outcome outcome = support::run(
-            u"sh"_s, {u"-c"_s, script, support::zentaroPrintProgram(), home.path()}, home);
-        EXPECT_EQ(outcome.errors, "0\n") << command.toStdString();
-    }
-}
-
-TEST(PrintRun, WritesInTheEncodingOfTheLocale)
-{
-    const QByteArray request = "<p><method name=\"printFullOrderFiscal\"/><receipe "
-                               "name=\"caff\u00E8 \u20AC \U0001F355.\u0416\" number=\"1\"/></p>";
-    const auto row = [](const QByteArray &name) { return "\n\"" + name + "\"1*HR\r\n1T\n"; };
-    const Home home(noConfiguration);
-    const QByteArray utf8 = row("caff\u00E8 \u20AC \U0001F355.\u0416");
-    EXPECT_EQ(support::printed(request, home), utf8);
-    EXPECT_EQ(support::printed(request, home, {u"LC_ALL=C"_s}), utf8);
-    EXPECT_EQ(support::printed(request, home, {u"LC_ALL=xx_XX.ISO-8859-1"_s}), utf8);
-    const support::Locale latin9(u"ISO-8859-15"_s);
-    EXPECT_EQ(support::printed(request, home, latin9.variables()), row("caff\xE8 \xA4 ?.?"));
-    const support::Locale latin1(u"ISO-8859-1"_s);
-    EXPECT_EQ(support::printed(request, home, latin1.variables()), row("caff\xE8 ? ?.?"));
-    const support::Locale cyrillic(u"CP1251"_s);
-    EXPECT_EQ(support::printed(request, home, cyrillic.variables()), row("caff? \x88 ?.\xC6"));
-}
-
-TEST(LocaleEncoding, LosesNoCharacter)
-{
-    EXPECT_EQ(text::encoded(u"\u00E8\U0001F355\u0416", QTextCodec::codecForName("GB18030")),
-              "\xA8\xA8\x94\x39\xB8\x33\xA7\xA8");
-    EXPECT_EQ(text::encoded(u"a\U0001F355", QTextCodec::codecForName("ISO-8859-1")), "a?");
-    EXPECT_EQ(text::encoded(u"\u200B\uFE0F\uFEFF|", QTextCodec::codecForName("ISO-8859-15")),
-              "???|");
-    EXPECT_EQ(text::encoded(u"a\U0001F355", nullptr), "a\U0001F355");
 }
 
 /// Changes, drops and doubles bytes at random, the ones that XML and the configuration live on

@@ -3,6 +3,8 @@
 
 #include "text/localeencoding.h"
 
+#include <cerrno>
+
 namespace text {
 
 LocaleFile::LocaleFile(const QString &name)
@@ -16,10 +18,26 @@ LocaleFile::LocaleFile(const QString &name)
 qint64 LocaleFile::writeData(const char *data, qint64 length)
 {
     if (!codec)
-        return QFile::writeData(data, length);
+        return writeWhole({data, length}) ? length : -1;
     const QString text = decoder(QByteArrayView(data, length));
-    const QByteArray bytes = encoded(text, codec);
-    return QFile::writeData(bytes.constData(), bytes.size()) == bytes.size() ? length : -1;
+    return writeWhole(encoded(text, codec)) ? length : -1;
+}
+
+/// A disk that fills up takes a part; only the write after it tells the reason.
+bool LocaleFile::writeWhole(QByteArrayView bytes)
+{
+    room -= bytes.size();
+    if (room < 0) {
+        setErrorString(qt_error_string(EFBIG));
+        return false;
+    }
+    while (!bytes.isEmpty()) {
+        const qint64 taken = QFile::writeData(bytes.data(), bytes.size());
+        if (taken <= 0)
+            return false;
+        bytes = bytes.sliced(taken);
+    }
+    return true;
 }
 
 } // namespace text

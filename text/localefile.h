@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QStringDecoder>
 
+#include <limits>
+
 class QTextCodec;
 
 namespace text {
@@ -15,11 +17,16 @@ class LocaleFile : public QFile
 {
 public:
     explicit LocaleFile(const QString &name);
+    /// From now on, what leads the bytes written beyond `bytes` fails as it does on a full disk.
+    void limitTo(qint64 bytes) { room = bytes; }
 
 protected:
     qint64 writeData(const char *data, qint64 length) override;
 
 private:
+    bool writeWhole(QByteArrayView bytes);
+
+    qint64 room = std::numeric_limits<qint64>::max(); // bytes that may still be written
     QTextCodec *const codec; // null: the locale is UTF-8, bytes pass as they are
     QStringDecoder decoder;
 };

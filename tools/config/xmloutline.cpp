@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/config/xmloutline.h"
 
+#include "config/config.h"
 #include "tools/terminal.h"
 
 #include <QXmlStreamReader>
@@ -60,18 +61,23 @@ void noteLoss(Outline &outline, const QXmlStreamReader &reader, qsizetype group,
 
 Outline readXmlOutline(const QByteArray &content)
 {
+    constexpr int MaxDepth = libconfig::Config::MaxXmlDepth;
     Outline outline = emptyOutline();
     QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
     qsizetype open = 0;
+    int depth = 0;
     while (!reader.atEnd()) {
         const Place at = placeOf(reader); // a token begins where the one before it ended
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             open = addElement(outline, reader, open, at);
+            if (++depth > MaxDepth)
+                reader.raiseError(u"groups nest more than %1 deep"_s.arg(MaxDepth));
             break;
         case QXmlStreamReader::EndElement:
             open = outline.entries[size_t(open)].parent;
+            --depth;
             break;
         case QXmlStreamReader::Characters:
         case QXmlStreamReader::Comment:
@@ -85,10 +91,11 @@ Outline readXmlOutline(const QByteArray &content)
     }
     if (reader.hasError() && !content.isEmpty()) {
         outline = emptyOutline();
-        outline.faults.push_back(
-            {Severity::Error, "xml"_L1,
-             "not well-formed, nothing of the file is read: "_L1 + reader.errorString(),
-             placeOf(reader)});
+        const auto cause =
+            reader.error() == QXmlStreamReader::CustomError ? ""_L1 : "not well-formed, "_L1;
+        outline.faults.push_back({Severity::Error, "xml"_L1,
+                                  cause + "nothing of the file is read: "_L1 + reader.errorString(),
+                                  placeOf(reader)});
     }
     return outline;
 }

@@ -17,6 +17,10 @@ QString exceededLimit(requestreader::Stop why)
     switch (why) {
     case Depth:
         return u"elements nest deeper than %1"_s.arg(requestreader::MaxDepth);
+    case Size:
+        return u"the request is longer than %1 bytes"_s.arg(requestreader::MaxRequestBytes);
+    case Attributes:
+        return u"an element has more than %1 attributes"_s.arg(requestreader::MaxAttributes);
     case DocumentType:
         return u"the document type is longer than %1 bytes"_s.arg(
             requestreader::MaxDocumentTypeBytes);

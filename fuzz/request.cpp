@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// A print request of any bytes, printed as the program prints it.
+#include "app/syncsingleton.h"
+#include "app/ztconfiguration.h"
+#include "fuzz/scratch.h"
+#include "render/companyprinterdriver.h"
+#include "render/requestreader.h"
+
+#include <QFile>
+
+#include <array>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Every switch on, and no width that makes sense.
+constexpr char absurdSettings[] =
+    "paperWidth = 2000000000; quantityFieldWidth = -2147483648; priceFieldWidth = 2147483647;"
+    "totalPriceFieldWidth = 70000; topMargin = 2000000000; descriptionWidth = -1;"
+    "printGeometry = true; printHeader = true; printCompany = true; printCustomer = true;"
+    "printBillingAddress = true; printDeliveryAddress = true; printTelephone = true;"
+    "printLicenseNumber = true; printFiscalCode = true; printDate = true; printTime = true;"
+    "printTable = true; printWaiter = true; printNote = true; printCredit = true;";
+
+QByteArray absurdConfiguration()
+{
+    QByteArray text = "zentaro : {";
+    for (const DocumentType &type : documentTypes()) {
+        const QStringView group = QString(type.keyPrefix).section(u'.', 1, 1);
+        text += group.toUtf8() + " : {" + absurdSettings + "};";
+    }
+    return text + "};";
+}
+
+using Configuration = std::unique_ptr<ZTConfiguration>;
+
+Configuration configurationOf(const QByteArray &text)
+{
+    return std::make_unique<ZTConfiguration>(fuzz::write(u"conf"_s, text.data(), text.size()),
+                                             u"cfg"_s);
+}
+
+Configuration bundled(const char *name)
+{
+    return configurationOf(
+        fuzz::read(QStringLiteral(ZENTARO_SOURCE_DIR "/") + QLatin1String(name)));
+}
+
+/// The size of the request chooses, so that requests stand in the corpus as they are.
+ZTConfiguration *configurationFor(size_t size)
+{
+    static const std::array configurations = {
+        bundled("samples/zentaro-40.conf"),       bundled("samples/zentaro-32.conf"),
+        bundled("tests/golden/odd/zentaro.conf"), configurationOf({}),
+        configurationOf(absurdConfiguration()),
+    };
+    return configurations[size % configurations.size()].get();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    SyncSingleton<ZTConfiguration>::instance_pointer = configurationFor(size);
+    QFile request(fuzz::write(u"request"_s, data, size));
+    const QString printFile = fuzz::path(u"print"_s);
+    bool isWhole = false;
+    {
+        CompanyPrinterDriver device(printFile);
+        isWhole = requestreader::read(request, device);
+    }
+    const QByteArray printed = fuzz::read(printFile);
+    if (isWhole && !printed.endsWith("J\n")) // then the section is closed
+        fuzz::expectEqual(QString::fromUtf8(printed.right(3)), u"1T\n"_s);
+    return 0;
+}

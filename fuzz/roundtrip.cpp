@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// A configuration of any bytes, read, written and read again: the second tree is the first one, but
+// for what the written form does not hold.
+#include "config/config.h"
+#include "config/elementwalk.h"
+#include "fuzz/scratch.h"
+
+#include <QRegularExpression>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using libconfig::Config;
+
+namespace {
+
+class Tree : public Config
+{
+public:
+    using Config::Config;
+
+    /// What stands below the file element, whose name is the file's.
+    QString content() const { return configTreeText().section(u'\n', 2); }
+    bool hasSettingsOutsideGroups() const { return document->firstChildElement().hasAttributes(); }
+    QDomElement top() const { return document->firstChildElement().firstChildElement(); }
+
+    /// Takes away what is never written, the top-level groups after the first, and if asked also
+    /// the groups without a member, which the "cfg" form does not give back.
+    void prune(bool emptyGroups)
+    {
+        for (QDomNode other = top().nextSibling(); !other.isNull(); other = top().nextSibling())
+            document->firstChildElement().removeChild(other);
+        std::vector<QDomElement> empty;
+        libconfig::walkElements(
+            top(),
+            [&](const QDomElement &group) {
+                if (emptyGroups && !group.hasAttributes() && group.firstChildElement().isNull())
+                    empty.push_back(group);
+                return true;
+            },
+            [](const QDomElement &) {});
+        for (QDomElement &group : empty)
+            group.parentNode().removeChild(group);
+    }
+};
+
+/// Whether every name and every value of the tree matches.
+bool holds(const Tree &tree, const QRegularExpression &name, const QRegularExpression &value)
+{
+    bool all = true;
+    libconfig::walkElements(
+        tree.top(),
+        [&](const QDomElement &group) {
+            all = name.match(group.tagName()).hasMatch();
+            const QDomNamedNodeMap settings = group.attributes();
+            for (int i = 0; all && i < settings.count(); ++i) {
+                all = name.match(settings.item(i).nodeName()).hasMatch()
+                      && value.match(settings.item(i).nodeValue()).hasMatch();
+            }
+            return all;
+        },
+        [](const QDomElement &) {});
+    return all;
+}
+
+/// Whether the "cfg" form holds the names and values: those of a "cfg" file it always does.
+bool isCfgText(const Tree &tree)
+{
+    static const QRegularExpression name(uR"(\A[!-9<>-|~]*\z)"_s);
+    static const QRegularExpression value(uR"(\A[^";\0\x{100}-\x{10FFFF}]*\z)"_s);
+    return holds(tree, name, value);
+}
+
+/// Whether the XML form, which escapes nothing, holds them.
+bool isXmlText(const Tree &tree)
+{
+    static const QRegularExpression name(uR"(\A[A-Za-z_][-A-Za-z0-9_.]*\z)"_s);
+    static const QRegularExpression value(uR"(\A[ !#-%'-;=-~\xA1-\x{D7FF}]*\z)"_s);
+    return !tree.hasSettingsOutsideGroups() && holds(tree, name, value);
+}
+
+void expectCfgBack(Tree &tree)
+{
+    const QString path = fuzz::path(u"written"_s);
+    tree.buildConfigFile(path);
+    tree.prune(true);
+    fuzz::expectEqual(Tree(path, u"cfg"_s).content(), tree.content());
+}
+
+void expectXmlBack(Tree &tree)
+{
+    const QString path = fuzz::path(u"written"_s);
+    tree.buildConfigXmlFile(path);
+    tree.prune(false);
+    fuzz::expectEqual(Tree(path, u"xml"_s).content(), tree.content());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QString path = fuzz::write(u"conf"_s, data, size);
+    for (const QString &form : {u"cfg"_s, u"xml"_s}) {
+        Tree tree(path, form);
+        if (isXmlText(tree))
+            expectXmlBack(tree);
+        if (form == "cfg"_L1 || isCfgText(tree))
+            expectCfgBack(tree);
+    }
+    return 0;
+}
