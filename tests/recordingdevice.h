@@ -6,8 +6,6 @@
 #include "render/companyprinterdriver.h"
 #include "tests/support.h"
 
-#include <QXmlAttributes>
-
 #include <utility>
 
 namespace support {
@@ -17,21 +15,13 @@ namespace support {
 inline void configure(const QByteArray &groups)
 {
     static const Home home("");
-    writeFile(home.path(QStringLiteral("test.conf")), "zentaro:{" + groups + "};");
-    SyncSingleton<ZTConfiguration>::instance()->readFile(home.path(QStringLiteral("test.conf")),
+    writeFile(home.configurationPath(), "zentaro:{" + groups + "};");
+    SyncSingleton<ZTConfiguration>::instance()->readFile(home.configurationPath(),
                                                          QStringLiteral("cfg"));
 }
 
-/// Attributes in the given order.
-inline QXmlAttributes attributes(std::initializer_list<std::pair<const char *, const char *>> pairs)
-{
-    QXmlAttributes atts;
-    for (const auto &[name, value] : pairs)
-        atts.append(QString::fromUtf8(name), {}, QString::fromUtf8(name), QString::fromUtf8(value));
-    return atts;
-}
-
-/// Notes what the driver asks of its device, one call a line; texts stand between bars.
+/// Notes what the driver asks of its device, one call a line, with what the driver keeps for it;
+/// printed texts stand between bars. Its paper is 48 characters wide.
 class RecordingDevice : public PrinterDriver
 {
 public:
@@ -40,15 +30,8 @@ public:
     {
     }
 
-    /// Sends an element and answers what came of it.
-    QString element(const char *name, const QXmlAttributes &atts = {})
-    {
-        accepted = startElement({}, {}, QString::fromUtf8(name), atts);
-        return takeCalls();
-    }
     /// The calls since it was last asked.
-    QString takeCalls() { return std::exchange(calls, {}).join(u'\n'); }
-    QString method(const char *name) { return element("method", attributes({{"name", name}})); }
+    QByteArray takeCalls() { return std::exchange(calls, {}); }
 
     unsigned int getPaperWidth() override { return 48; }
     void reset() override { note("reset"); }
@@ -58,9 +41,22 @@ public:
     void setCenterJustify() override { note("center"); }
     void fullCut() override { note("cut"); }
     void generatePulse() override { note("pulse"); }
-    void startSection() override { note("start"); }
-    void endSection() override { note("end"); }
-    void initPrinter() override { note("init"); }
+    void startSection() override
+    {
+        note(QStringLiteral("start %1, paper %2x%3, duplicate %4, drawer %5, credit %6")
+                 .arg(currentMethod)
+                 .arg(settings.paperWidth)
+                 .arg(settings.paperRows)
+                 .arg(printDuplicate())
+                 .arg(settings.openCashDrawer)
+                 .arg(credit)
+                 .toUtf8());
+    }
+    void endSection() override { note("end, credit " + credit.toUtf8()); }
+    void initPrinter() override
+    {
+        note(QStringList{printerInfo, charsize, ipaddress, port}.join(u'/').toUtf8());
+    }
     void print(unsigned int indent, const QString &text) override
     {
         note("+" + QByteArray::number(indent) + "|" + text.toUtf8() + "|");
@@ -70,7 +66,6 @@ public:
         note(QByteArray::number(indent) + "|" + text.toUtf8() + "|");
     }
     void println(const QString &text) override { note("|" + text.toUtf8() + "|"); }
-    using PrinterDriver::printRowFiscal;
     void printRowFiscal(const QString &name, const QXmlAttributes &) override
     {
         note("payments of " + name.toUtf8());
@@ -82,20 +77,12 @@ public:
     }
     void printLogo() override { note("logo"); }
 
-    using PrinterDriver::charsize;
-    using PrinterDriver::credit;
-    using PrinterDriver::currentMethod;
-    using PrinterDriver::ipaddress;
-    using PrinterDriver::port;
-    using PrinterDriver::printerInfo;
     using PrinterDriver::settings;
 
-    bool accepted = true; ///< what startElement answered last
-
 private:
-    void note(const QByteArray &call) { calls += QString::fromUtf8(call); }
+    void note(const QByteArray &call) { calls += call + '\n'; }
 
-    QStringList calls;
+    QByteArray calls;
 };
 
 } // namespace support

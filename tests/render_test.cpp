@@ -1,351 +1,121 @@
 // SPDX-License-Identifier: MIT
-#include "render/documentmethod.h"
 #include "render/rowlayout.h"
 #include "tests/recordingdevice.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using support::attributes;
-using support::configure;
 using support::RecordingDevice;
+
+// What no request brings about; what requests do is in the golden files.
 
 namespace {
 
-constexpr char columns40[] =
-    "quantityFieldWidth=3; priceFieldWidth=8; totalPriceFieldWidth=9; paperWidth=40;";
-
-TEST(RowLayout, LaysOutTheSixLayouts)
+QXmlAttributes attributes(std::initializer_list<std::pair<QString, QString>> pairs)
 {
-    configure("doc:{" + QByteArray(columns40) + "};");
+    QXmlAttributes atts;
+    for (const auto &[name, value] : pairs)
+        atts.append(name, {}, name, value);
+    return atts;
+}
+
+TEST(RowLayout, LaysOutWhatNoDocumentAsksFor)
+{
     RecordingDevice device;
-    device.method("printPartialOrder");
-    const struct
-    {
-        QString layout;
-        char16_t fill;
-        QString a1, a2, a3, a4, line;
-    } rows[] = {
-        {u"qdpt"_s, u'.', u"2"_s, u"Pizza Margherita"_s, u"7.50"_s, u"15.00"_s,
-         u"  2 Pizza Margherita.......7.50    15.00"_s},
-        {u"qdpt"_s, u' ', u"Qty"_s, u"Description"_s, u"Price"_s, u"Total"_s,
-         u"Qty Description           Price    Total"_s},
-        {u"qxdpt"_s, u'.', u"2"_s, u"Pizza Margherita"_s, u"7.50"_s, u"15.00"_s,
-         u"  2 x Pizza Margherita.....7.50    15.00"_s},
-        {u"qxdpt"_s, u'.', u"12"_s, u"Spaghetti alla carbonara grande"_s, u"9.00"_s, u"108.00"_s,
-         u" 12 x Spaghetti alla ca....9.00   108.00"_s},
-        {u"qxdtDoubleLine"_s, u'.', u"2"_s, u"Pizza Margherita"_s, u"7.50"_s, u"15.00"_s,
-         u"2 x 7.50\nPizza Margherita...................15.00"_s},
-        {u"qxd"_s,
-         u' ',
-         u"2"_s,
-         u"Pizza Margherita"_s,
-         {},
-         {},
-         u"  2 x Pizza Margherita                  "_s},
-        {u"qd"_s,
-         u'.',
-         u"2"_s,
-         u"Pizza Margherita"_s,
-         {},
-         {},
-         u"  2 Pizza Margherita                  "_s},
-        {u"date-amount-type"_s,
-         u'.',
-         u"01/02/2009"_s,
-         u"Payment"_s,
-         u"50.00"_s,
-         {},
-         u"01/02/2009     Payment..........50.00"_s},
-        {u"QDPT"_s, u'.', u"2"_s, u"Pizza"_s, u"7.50"_s, u"15.00"_s, u""_s},
-        // What is too long for its column is cut in the description only.
-        {u"qdpt"_s, u'.', u"12345"_s, u"exactly-19-chars-xx"_s, u"123456789"_s, u"1234567890"_s,
-         u"12345 exactly-19-chars-xx1234567891234567890"_s},
-        {u"qdpt"_s, u'.', {}, {}, {}, {}, u"    ...........................         "_s},
-        {u"date-amount-type"_s,
-         u'.',
-         u"date of 17 chars."_s,
-         u"Fifteen letters"_s,
-         {},
-         {},
-         u"date of 17 chars.Fifteen letter........"_s},
-        // The cut falls into a surrogate pair: its place is filled.
-        {u"qdpt"_s,
-         u'.',
-         u"1"_s,
-         u"eighteen letters..\U0001F355"_s,
-         u"7.50"_s,
-         {},
-         u"  1 eighteen letters.......7.50         "_s},
-    };
-    for (const auto &row : rows) {
-        EXPECT_EQ(device.descriptionRow(row.a1, row.a2, row.a3, row.a4, row.fill, row.layout),
-                  row.line)
-            << row.layout.toStdString();
-    }
+    device.settings.quantityFieldWidth = 3;
+    device.settings.totalPriceFieldWidth = 9;
+    device.settings.paperWidth = 40;
+    const std::pair<QString, QString> rows[] = {
+        {u"qxdtDoubleLine"_s, u"2 x 7.50\nPizza..............................15.00"_s},
+        {u"qxd"_s, u"  2 x Pizza............................."_s},
+        {u"QDPT"_s, u""_s}};
+    for (const auto &[layout, line] : rows)
+        EXPECT_EQ(device.descriptionRow(u"2"_s, u"Pizza"_s, u"7.50"_s, u"15.00"_s, u'.', layout),
+                  line);
 }
 
 TEST(RowLayout, SurvivesWidthsThatDoNotFit)
 {
+    constexpr int Huge = std::numeric_limits<int>::max();
     RecordingDevice device;
-    device.settings.paperWidth = 10;
-    device.settings.quantityFieldWidth = 2;
-    device.settings.totalPriceFieldWidth = 20; // the description's width is negative: kept whole
+    DocumentSettings &settings = device.settings;
+    settings.paperWidth = 10;
+    settings.totalPriceFieldWidth = 20; // the description's width is negative: kept whole
     EXPECT_EQ(device.descriptionRow(u"1"_s, u"Pizza"_s, u"7.50"_s, u"15.00"_s, u'.', u"qdpt"_s),
-              u" 1 Pizza7.50               15.00"_s);
-    device.settings.totalPriceFieldWidth = 7; // it is zero
-    EXPECT_EQ(device.descriptionRow(u"1"_s, u"Pizza"_s, u"7"_s, u"5"_s, u'.', u"qdpt"_s),
-              u" 1 7      5"_s);
-    constexpr int huge = std::numeric_limits<int>::max();
-    device.settings.quantityFieldWidth = -huge;
-    device.settings.priceFieldWidth = -huge;
-    device.settings.totalPriceFieldWidth = 0;
-    device.settings.paperWidth = huge;
-    const QString line = device.descriptionRow(u"1"_s, u"a"_s, u"b"_s, {}, u'.', u"qdpt"_s);
-    EXPECT_EQ(line.size(), 2 + rowlayout::MaxPaddedWidth + 1);
-    device.settings.paperWidth = -1;
-    device.printSeparatorLine();
-    EXPECT_EQ(device.takeCalls(), u"||"_s);
+              u"1 Pizza7.50               15.00"_s);
+    settings.quantityFieldWidth = settings.priceFieldWidth = -Huge;
+    settings.totalPriceFieldWidth = 0;
+    settings.paperWidth = Huge;
+    EXPECT_EQ(device.descriptionRow(u"1"_s, u"a"_s, u"b"_s, {}, u'.', u"qdpt"_s).size(),
+              2 + rowlayout::MaxPaddedWidth + 1);
+    EXPECT_EQ(rowlayout::rightJustified(u"a", Huge, u' ').size(), rowlayout::MaxPaddedWidth);
 }
 
-TEST(Driver, ChoosesTheMethodAndItsSettings)
+TEST(Driver, TakesNoUnknownNames)
 {
-    configure("doc:{paperWidth=11;}; prefiscaldoc:{paperWidth=12;}; receiptdoc:{paperWidth=13;};"
-              "invoicedoc:{paperWidth=14;}; deliverydoc:{paperWidth=15;};"
-              "fiscaldoc:{paperWidth=16;}; reportdoc:{paperWidth=17;}; solddoc:{paperWidth=18;};");
-    const struct
-    {
-        const char *method;
-        int paperWidth;
-        bool duplicate;
-    } rows[] = {
-        {"printPartialOrder", 11, false},
-        {"printFullOrder", 12, false},
-        {"printFullOrderReceipt", 13, false},
-        {"printFullOrderInvoice", 14, true},
-        {"printFullOrderDelivery", 15, true},
-        {"printFullOrderFiscal", 16, false},
-        {"printAbstractOrder", 11, false},
-        {"printAbstractOrderReceipt", 13, false},
-        {"printAbstractOrderInvoice", 14, true},
-        {"printAbstractOrderFiscal", 16, false},
-        {"printReport", 17, false},
-        {"printSold", 18, false},
-        {"printStatementOfAccount", 17, false},
-    };
-    RecordingDevice device; // one for all: the duplicate flag carries over where it is unchanged
-    EXPECT_EQ(device.element("receipe"), u""_s);
-    for (const auto &row : rows) {
-        EXPECT_EQ(device.method(row.method), u"start"_s);
-        EXPECT_TRUE(device.accepted);
-        EXPECT_EQ(device.currentMethod, QString::fromLatin1(row.method));
-        EXPECT_EQ(device.settings.paperWidth, row.paperWidth) << row.method;
-        EXPECT_EQ(device.printDuplicate(), row.duplicate) << row.method;
-    }
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(device.method("printfullorder"), u""_s);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "File Format Not Supported\n");
-    EXPECT_FALSE(device.accepted);
-    EXPECT_EQ(device.currentMethod, u""_s);
-    EXPECT_EQ(device.element("total"), u""_s);
-}
-
-TEST(Driver, ReadsSettingsAsTextSaysThem)
-{
-    configure("doc:{quantityFieldWidth=\" +4 \"; priceFieldWidth=1e1; totalPriceFieldWidth=40.0;"
-              "paperWidth=99999999999; paperRows=-7; printDate=true; printTime=True; printNote=1;"
-              "printTable=\" true\"; openCashDrawer=true;};");
     RecordingDevice device;
-    device.loadValues(u"ORDER"_s);
-    EXPECT_EQ(device.settings.quantityFieldWidth, 4);
-    EXPECT_EQ(device.settings.priceFieldWidth, 0);
-    EXPECT_EQ(device.settings.totalPriceFieldWidth, 0);
-    EXPECT_EQ(device.settings.paperWidth, 48); // bad text: the device's own width
-    EXPECT_EQ(device.settings.paperRows, -7);
-    const DocumentSettings &settings = device.settings;
-    EXPECT_TRUE(settings.printDate && settings.openCashDrawer);
-    EXPECT_FALSE(settings.printTime || settings.printNote || settings.printTable);
-
+    device.startElement({}, {}, u"method"_s, attributes({{u"name"_s, u"printFullOrder"_s}}));
+    device.takeCalls();
     testing::internal::CaptureStdout();
+    EXPECT_FALSE(
+        device.startElement({}, {}, u"method"_s, attributes({{u"name"_s, u"printfullorder"_s}})));
+    EXPECT_TRUE(device.startElement({}, {}, u"total"_s, {}));
+    EXPECT_EQ(device.takeCalls(), "");
+    EXPECT_EQ(device.documentPath(u"ORDER"_s), u"zentaro.doc."_s);
     EXPECT_EQ(device.documentPath(u"Bill"_s), u"zentaro.prefiscaldoc."_s);
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "Error into PrinterDriver::documentPath:  bill\n");
+              "File Format Not Supported\nError into PrinterDriver::documentPath:  bill\n");
 }
 
-TEST(Driver, KeepsThePrinterAndTheFirstOfTwoAttributes)
+TEST(Driver, PrintsAMarginWithinReason)
 {
-    configure("");
+    support::configure("doc:{printGeometry=true; topMargin=2000000000;};");
     RecordingDevice device;
-    EXPECT_TRUE(device.startDocument());
-    EXPECT_EQ(device.takeCalls(), u"reset"_s);
-    device.method("printPartialOrder");
-    EXPECT_EQ(device.element("printers", attributes({{"name", "first"},
-                                                     {"name", "second"},
-                                                     {"charsize", "c"},
-                                                     {"ipaddress", "i"},
-                                                     {"port", "p"}})),
-              u"init"_s);
-    const QStringList kept{device.printerInfo, device.charsize, device.ipaddress, device.port};
-    EXPECT_EQ(kept, QStringList({u"first"_s, u"c"_s, u"i"_s, u"p"_s}));
+    device.loadValues(u"order"_s);
+    device.printGeometry({});
+    EXPECT_EQ(device.takeCalls(), QByteArray("||\n").repeated(1'000));
 }
 
-const QString rule = u"|========================================|"_s;
-
-/// What each element of the top makes the driver ask of its device, with everything switched on and
-/// with everything switched off.
-TEST(Documents, PrintTheTopUnderItsSwitches)
+/// The print file of a fiscal document.
+template <typename Write>
+QByteArray fiscal(Write write)
 {
-    const QByteArray on = columns40
-                          + QByteArray("printGeometry=true; topMargin=2; printHeader=true;"
-                                       "printCompany=true; printDate=true; printCredit=true;"
-                                       "printCustomer=true; printBillingAddress=true;"
-                                       "printTelephone=true; printFiscalCode=true;");
-    configure("prefiscaldoc:{" + on
-              + "}; doc:{paperWidth=40;};"
-                "receiptdoc:{paperWidth=40; printCustomer=true;};");
-    const QXmlAttributes customer = attributes({{"name", "Zo\u00EB"},
-                                                {"billingaddress", "Via A, 1,  ,B,,C"},
-                                                {"deliveryaddress", "X"},
-                                                {"telephone", "5"}});
-    const struct
+    const support::Folder folder;
     {
-        const char *element;
-        QXmlAttributes atts;
-        QString on, off;
-    } rows[] = {
-        {"geometry", {}, u"||\n||"_s, u""_s},
-        {"headers", attributes({{"b", "one"}, {"a", "two"}}),
-         u"|one|\n|two|\n"_s + rule + u"\ncenter\n||\n"_s + rule, u"center\n||\n"_s + rule},
-        {"logo", {}, u"logo"_s, u"logo"_s},
-        {"company", attributes({{"b", "one"}}), u"size\ncenter\n|one|\nsize\n"_s + rule, u""_s},
-        {"orderinfo", attributes({{"date", "d"}, {"time", "t"}, {"credit", "c"}}),
-         u"size\n+1|Date:|\n1|d|\n+1|Credit:|\n1|c|\n"_s + rule, u"size\n"_s + rule},
-        {"customer", customer,
-         u"|CUSTOMER|\n1|Zo\u00EB|\n1|Via A|\n1|1|\n1||\n1|B|\n+1|Telephone:|\n1|5|\n"
-         "+1|Fiscal Code:|\n1||\n"_s
-             + rule,
-         u""_s},
-    };
-    for (const auto &row : rows) {
-        RecordingDevice device;
-        device.method("printFullOrder");
-        EXPECT_EQ(device.element(row.element, row.atts), row.on) << row.element;
-        device.method("printPartialOrder");
-        EXPECT_EQ(device.element(row.element, row.atts), row.off) << row.element;
+        CompanyPrinterDriver device(folder.path(u"out"_s));
+        device.startElement({}, {}, u"method"_s,
+                            attributes({{u"name"_s, u"printFullOrderFiscal"_s}}));
+        write(device);
     }
-    RecordingDevice receipt;
-    receipt.method("printFullOrderReceipt");
-    EXPECT_EQ(receipt.element("customer", customer), u"|CUSTOMER|\n1|Zo\u00EB|\n"_s + rule);
+    return support::readFile(folder.path(u"out"_s));
 }
 
-/// How the documents treat their elements, where the print file alone does not show it.
-TEST(Documents, TellTheirElementsApart)
+TEST(Device, WritesFiscalCommands)
 {
-    const QByteArray groups = QByteArray(columns40) + "printCustomer=true;";
-    configure("doc:{" + groups + "}; receiptdoc:{" + groups + "}; invoicedoc:{" + groups
-              + "}; prefiscaldoc:{" + groups + "};");
-    const QXmlAttributes item = attributes({{"department", "1"},
-                                            {"number", "2"},
-                                            {"name", "T\u00E8"},
-                                            {"price", "1.50"},
-                                            {"totalPrice", "3.00"}});
-    const QXmlAttributes price = attributes({{"price", "9.00"}});
-    const struct
-    {
-        const char *method, *element;
-        QXmlAttributes atts;
-        QString calls;
-    } rows[] = {
-        {"printFullOrder", "receipe", item,
-         u"bold\n|Num Description           Price   Amount|\nsize\n"
-         "|  2 T\u00E8.....................1.50     3.00|"_s},
-        {"printFullOrder", "receipe", attributes({{"name", "=Note"}}), u""_s},
-        {"printFullOrder", "total", price,
-         u"||\nbold\n|    TOTAL......................     9.00|"_s},
-        {"printFullOrder", "notPaid", price, u""_s},
-        {"printPartialOrder", "receipe", item,
-         u"size\n|  2 T\u00E8                                |"_s},
-        {"printPartialOrder", "otherreceipe", item,
-         u"size 1\n|  2 T\u00E8                                |"_s},
-        {"printPartialOrder", "total", price, u""_s},
-        {"printFullOrderReceipt", "total", price,
-         u"||\n|    TOTAL......................     9.00|"_s},
-        {"printFullOrderReceipt", "variant", item, u""_s},
-        {"printFullOrderReceipt", "totals", price, u""_s},
-        {"printFullOrderInvoice", "totals", attributes({{"tax", "1.00"}}),
-         u"bold\n||\n|    Taxable....................         |\n"
-         "|    TaxRate....................         |\n"
-         "|    Tax........................     1.00|\n"
-         "|    TOTAL......................         |\nsize"_s},
-        {"printFullOrderInvoice", "notPaid", price, u""_s},
-        {"printFullOrderInvoice", "total", price, u""_s},
-        {"printFullOrderFiscal", "total", price, u"payments of total"_s},
-        {"printFullOrderFiscal", "totals", price, u""_s},
-        {"printFullOrderFiscal", "logo", {}, u""_s},
-        {"printAbstractOrder", "logo", {}, u""_s},
-        {"printAbstractOrderReceipt", "customer", item, u""_s},
-        {"printAbstractOrderReceipt", "receipe", item, u""_s},
-        {"printAbstractOrderFiscal", "receipe_type", item, u"1/1/T\u00E8/1.50"_s},
-        {"printAbstractOrderFiscal", "receipe", item, u""_s},
-        {"printAbstractOrderFiscal", "total", price, u"payments of total"_s},
-    };
-    for (const auto &row : rows) {
-        RecordingDevice device;
-        device.method(row.method);
-        EXPECT_EQ(device.element(row.element, row.atts), row.calls)
-            << row.method << ' ' << row.element;
-    }
-}
-
-TEST(Documents, KeepStateFromOneElementToTheNext)
-{
-    configure("receiptdoc:{printCredit=true;}; prefiscaldoc:{printCredit=false;};");
-    RecordingDevice device;
-    device.method("printFullOrderReceipt");
-    device.element("printers", attributes({{"name", "P"}}));
-    EXPECT_TRUE(device.element("headers").startsWith(u"center\n|P|\n"_s)); // without its switch
-    device.element("orderinfo", attributes({{"credit", "3"}}));
-    EXPECT_EQ(device.credit, u"3"_s);
-    EXPECT_TRUE(device.element("receipe").startsWith(u"bold"_s));
-    EXPECT_FALSE(device.element("receipe").startsWith(u"bold"_s)); // the titles stand only once
-    EXPECT_FALSE(device.oneTime());
-    device.method("printFullOrder");
-    device.element("orderinfo", attributes({{"credit", "4"}}));
-    EXPECT_EQ(device.credit, u"3"_s);                              // not printed, not kept
-    EXPECT_FALSE(device.element("receipe").startsWith(u"bold"_s)); // nor in a second section
-
-    RecordingDevice other;
-    EXPECT_TRUE(other.oneTime());
-    other.method("printFullOrderReceipt");
-    EXPECT_FALSE(other.element("receipe").startsWith(u"bold"_s)); // the latch is shared
-}
-
-TEST(Documents, SignVariantsByTheirQuantity)
-{
-    configure("");
-    RecordingDevice device;
-    device.method("printFullOrder");
-    const std::pair<const char *, QString> rows[] = {
-        {"-1", u"-"_s},  {"0", u"-"_s},   {"", u"-"_s},    {"x", u"-"_s},
-        {"nan", u"-"_s}, {"inf", u"-"_s}, {"1", u"+"_s},   {"1.0", u"+"_s},
-        {" 1 ", u"+"_s}, {"2", u"2"_s},   {"-2", u"-2"_s}, {"0.5", u"0.5"_s}};
-    for (const auto &[quantity, sign] : rows) {
-        EXPECT_TRUE(device.element("variant", attributes({{"quantity", quantity}, {"name", "Oil"}}))
-                        .contains(sign + u" Oil"_s))
-            << quantity;
-    }
-}
-
-TEST(Documents, PrintAMarginWithinReason)
-{
-    const std::pair<const char *, qsizetype> rows[] = {
-        {"3", 3}, {"-1", 0}, {"", 0}, {"x", 0}, {"2000000000", 1000}};
-    for (const auto &[margin, lines] : rows) {
-        configure(QByteArray("doc:{printGeometry=true; topMargin=") + margin + ";};");
-        RecordingDevice device;
-        device.method("printPartialOrder");
-        EXPECT_EQ(device.element("geometry").count(u"||"), lines) << margin;
-    }
+    EXPECT_EQ(fiscal([](auto &device) {
+                  device.printRowFiscal(u"1"_s, u"2.5"_s, u"P\"x"_s, u"7.50"_s, u"-1.50"_s);
+                  device.printRowFiscal(u"1"_s, u"2"_s, u"P"_s, u"7.50"_s, u"2-"_s);
+                  device.printRowFiscal(u""_s, u""_s, u""_s, u""_s, u""_s);
+              }),
+              "\n\"P\"x\"2.5*7,50H1R-1,50*5M\r\n\"P\"2*7,50H1R2-*1M\r\n\"\"*HR*1M\r\n");
+    EXPECT_EQ(fiscal([](auto &device) {
+                  const auto payments = attributes({{u"ticket"_s, u"0.50"_s},
+                                                    {u"cheque"_s, u"3"_s},
+                                                    {u"creditCard"_s, u"-2.00"_s},
+                                                    {u"cash"_s, u" 10.00"_s},
+                                                    {u"discountRate"_s, u"5.5"_s}});
+                  device.printRowFiscal(u"total"_s, payments);
+                  device.printRowFiscal(u"totals"_s, payments);
+                  for (const QString &none : u" 0 0.00 -0 12abc 1.2.3 inf nan"_s.split(u' '))
+                      device.printRowFiscal(u"totals"_s, attributes({{u"cash"_s, none}}));
+              }),
+              "\n=5,5*2M\r\n 10,00H1T\r\n-2,00H3T\r\n3H2T\r\n0,50H5T\r\n");
+    EXPECT_EQ(fiscal([](auto &device) { // a line lacks its opening quote until the next one
+                  device.println(u"a"_s);
+                  device.println(u"b"_s);
+                  device.print(1, u"never ended"_s);
+              }),
+              "\na\"@\n\"b\"@\n");
 }
 
 } // namespace
