@@ -182,7 +182,6 @@ TEST_F(Editor, ShowsWhatASearchFinds)
     open("zentaro : { doc : { printDate = true; paperWidth = 40; }; bin : { path = /date; }; };");
     editor.searchField()->setText(u"DATE"_s);
     EXPECT_FALSE(item(u"printDate = true"_s)->isHidden());
-    EXPECT_FALSE(item(u"doc"_s)->isHidden());
     EXPECT_TRUE(item(u"paperWidth = 40"_s)->isHidden());
     EXPECT_TRUE(item(u"bin"_s)->isHidden()); // the text is in a value
     editor.searchField()->setText(u"bin"_s);
@@ -255,10 +254,9 @@ TEST_F(Editor, HasKeysOfItsOwn)
 {
     open(small);
     QStringList shortcuts;
-    for (const QAction *const action : editor.findChildren<QAction *>()) {
-        if (!action->shortcut().isEmpty())
-            shortcuts.append(action->shortcut().toString());
-    }
+    for (const QAction *const action : editor.findChildren<QAction *>())
+        shortcuts.append(action->shortcut().toString());
+    shortcuts.removeAll(QString());
     EXPECT_EQ(shortcuts.removeDuplicates(), 0) << "of two actions with one shortcut none works";
     EXPECT_GE(shortcuts.size(), 10);
 }

@@ -65,17 +65,19 @@ TEST_F(ConfigViews, ShowTheTreeAndSaveWhatAPersonMakesOfIt)
     EXPECT_EQ(written(), text);
 
     QTreeWidgetItem *const z = top->child(1);
-    z->child(0)->setText(0, u"b=new"_s); // a person leaves the blanks away
-    z->child(1)->setText(0, u"a"_s);     // and the value
+    z->child(0)->setText(0, u" b=new"_s); // a person sets other blanks
+    z->child(1)->setText(0, u"a"_s);      // and the value
     z->child(2)->setText(0, u"m"_s);
     z->child(2)->addChild(new QTreeWidgetItem({u"k =  two"_s})); // items that nobody typed
     z->child(2)->addChild(new QTreeWidgetItem({u"group"_s}));
     delete z->child(2)->takeChild(0);
     z->child(2)->child(1)->addChild(new QTreeWidgetItem({u"x = 1"_s}));
+    z->child(2)->child(1)->addChild(new QTreeWidgetItem({u"empty"_s}));
     EXPECT_TRUE(config.loadListView(view.get()));
     EXPECT_EQ(written(), "t = \"1\";\nz: \n{\n    b = \"new\";\n    a = \"\";\n    m: \n    {\n"
                          "        k = \" two\";\n        group: \n        {\n"
-                         "            x = \"1\";\n        };\n\n    };\n\n};\n\n");
+                         "            x = \"1\";\n            empty: \n            {\n            "
+                         "};\n\n        };\n\n    };\n\n};\n\n");
     EXPECT_EQ(config.lookup(u"z.m.k"_s), u" two"_s);
 }
 
@@ -99,6 +101,8 @@ TEST_F(ConfigViews, AcceptWhatIsNotThere)
     Config config(file("z : { a = 1; };"), u"cfg"_s);
     EXPECT_FALSE(config.loadListView(static_cast<QTreeWidget *>(nullptr)));
     config.loadListView(nullptr, static_cast<QDomDocument *>(nullptr));
+    QDomDocument document;
+    config.loadListView(nullptr, &document);
     config.loadListView(nullptr, QDomNode());
     config.buildConfigListView(QDomNode(), static_cast<QTreeWidget *>(nullptr));
     EXPECT_EQ(View(Config().buildConfigListView())->topLevelItemCount(), 0);
