@@ -186,9 +186,9 @@ private:
                 return QChar(EndOfDocument);
             decodePiece(QByteArrayView(piece).first(size));
             bytesRead += size;
+            told = at = text.cbegin();
+            end = text.cend();
         } while (text.isEmpty());
-        told = at = text.cbegin();
-        end = text.cend();
         return next();
     }
 
