@@ -18,7 +18,7 @@ class CfgScanner
 public:
     /// What is behind these bytes is not read: a file that never ends, such as a link to a device,
     /// would take all memory.
-    static constexpr qint64 MaxBytes = 64 * 1'024 * 1'024;
+    static constexpr qint64 MaxBytes = qint64(64) * 1'024 * 1'024;
 
     enum class Statement {
         GroupBegin, ///< `name : {`

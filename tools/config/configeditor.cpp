@@ -109,8 +109,9 @@ void ConfigEditor::removeSelected()
     undoStack.beginMacro(u"remove"_s);
     // From the last one, so that none moves those behind it; to show each would take minutes.
     ShowItem show = [this](QTreeWidgetItem *shown) { showItem(shown); };
-    for (auto item = chosen.crbegin(); item != chosen.crend(); ++item)
-        undoStack.push(new PresenceChange({}, *item, std::exchange(show, {})));
+    std::ranges::reverse(chosen);
+    for (QTreeWidgetItem *const item : std::as_const(chosen))
+        undoStack.push(new PresenceChange({}, item, std::exchange(show, {})));
     undoStack.endMacro();
 }
 
