@@ -101,11 +101,12 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
         tellNotCentred(u"it begins at the edge of the paper"_s);
 }
 
-/// Tells the attribute that is wider than its column, else the longest in the line.
+/// Tells the attributes that are wider than their columns, else the longest in the line.
 void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
 {
     const codes::Code &code = codes::lineTooLong;
     int longest = -1;
+    bool isTold = false;
     const auto sizeAt = [this](int i) { return current.atts.value(i).size(); };
     for (int i = 0; i < current.atts.count() && !findings.isFull(code.name); ++i) {
         const AttributeUse *const use =
@@ -119,11 +120,13 @@ void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
                      + QString::number(width) + ": the line is "_L1 + QString::number(excess)
                      + " longer than the paper"_L1,
                  places.attribute(i));
-            return;
+            isTold = true;
         }
         if (longest < 0 || sizeAt(i) > sizeAt(longest))
             longest = i;
     }
+    if (isTold)
+        return;
     const QString what = longest < 0
                              ? tools::excerpt(text)
                              : "the line of "_L1 + tools::excerpt(current.atts.qName(longest));
