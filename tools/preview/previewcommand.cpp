@@ -119,6 +119,10 @@ bool readTextOptions(const tools::CommandLine &line, Options &options)
         }
         options.sideBySide = form == "side"_L1;
     }
+    if (line.isSet(u"against"_s) && options.other.isEmpty()) {
+        line.wrongUsage(u"--against takes the name of a configuration"_s);
+        return false;
+    }
     if (options.annotate && !options.other.isEmpty()) {
         line.wrongUsage(u"--annotate and --against do not go together"_s);
         return false;

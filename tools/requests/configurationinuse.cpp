@@ -4,16 +4,39 @@
 #include "app/syncsingleton.h"
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
+#include "tools/config/outline.h"
 #include "tools/config/source.h"
 #include "tools/requests/divertedoutput.h"
 #include "tools/terminal.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace tools {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Tells that the store leaves away a part of the file, about which it says nothing. A pipe, which
+/// gives its content once, is left alone.
+void tellFaults(const Call &call, const configtool::Source &source)
+{
+    if (!QFileInfo(source.path).isFile())
+        return;
+    const std::optional<QByteArray> content = configtool::contentOf(call, source);
+    if (!content)
+        return;
+    const configtool::Outline outline = configtool::readOutline(*content, source.format);
+    if (std::ranges::find(outline.faults, Severity::Error, &Finding::severity)
+        != outline.faults.end())
+        printError(call.command + ": "_L1 + inOneLine(source.path)
+                   + ": it has faults, which `zentaro config check` tells\n"_L1);
+}
+
+} // namespace
 
 void addConfigurationOption(CommandLine &line)
 {
@@ -42,6 +65,8 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
     ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();
     if (!isOwn)
         configuration->readFile(path, configtool::formatOf(path));
+    if (!missing)
+        tellFaults(call, {path, isOwn ? u"cfg"_s : configtool::formatOf(path)});
     QCoreApplication::removeTranslator(&translator);
     if (loadTranslation(translator, *configuration))
         QCoreApplication::installTranslator(&translator);

@@ -22,7 +22,7 @@ public:
 
     /// Uses a file, cfg or xml by its name; for an empty name the user's own, as the print run
     /// reads it, and where there is none a configuration without settings. False when the file
-    /// cannot be read, which is told.
+    /// cannot be read, which is told; faults in it are told too.
     bool use(const Call &call, const QString &fileName);
     /// Whether the user's own was to be used and there is none.
     bool isMissing() const { return missing; }
