@@ -71,6 +71,7 @@ public:
         --depth;
         return target.endElement(namespaceURI, localName, qName);
     }
+    bool skippedEntity(const QString &name) override;
     /// No document reads text; a handler learns here where the tag after it begins.
     bool characters(const QString &text) override { return target.characters(text); }
 
@@ -270,6 +271,13 @@ bool ElementFilter::startElement(const QString &namespaceURI, const QString &loc
                       Stop::Refused);
     }
     return go(target.startElement(namespaceURI, localName, qName, atts), Stop::Refused);
+}
+
+bool ElementFilter::skippedEntity(const QString &name)
+{
+    if (source)
+        source->tell();
+    return target.skippedEntity(name);
 }
 
 } // namespace

@@ -50,7 +50,8 @@ class Observer
 public:
     virtual ~Observer() = default;
     /// What the reader took since it was last told, a piece of it at most: told before the handler
-    /// gets an element, whose tag it then ends with, and when the reading ends. `utf8`: whether
+    /// gets an element, whose tag it then ends with, or an undeclared entity, and when the reading
+    /// ends. `utf8`: whether
     /// the request is in UTF-8.
     virtual void taken(QStringView text, bool utf8) = 0;
     /// The reading ended early, at the last character taken; `fault` is the reader's word for it.

@@ -158,7 +158,7 @@ TEST(RequestTable, KnowsTheColumns)
             const qsizetype fitting = longestWith(nullptr, 0, 99);
             EXPECT_EQ(fitting, longestWith(nullptr, 0, 1)) << row.element.toString().toStdString();
             for (const requestcheck::AttributeUse &use : row.attributes) {
-                const bool isCut = use.column == Column::Description;
+                const bool isCut = use.column == Column::Description || use.column == Column::Sign;
                 if (use.column == Column::None)
                     continue;
                 ++columns;

@@ -72,6 +72,15 @@ bool CheckingDevice::endElement(const QString &namespaceURI, const QString &loca
     return CompanyPrinterDriver::endElement(namespaceURI, localName, qName);
 }
 
+bool CheckingDevice::skippedEntity(const QString &name)
+{
+    tools::Place at = places.last(); // its semicolon
+    at.column -= name.size() + 1;
+    tell(codes::unknownEntity,
+         tools::excerpt(u'&' + name + u';') + " is not declared, and prints nothing"_L1, at);
+    return CompanyPrinterDriver::skippedEntity(name);
+}
+
 bool CheckingDevice::endDocument()
 {
     if (method < 0)
@@ -152,6 +161,8 @@ void CheckingDevice::checkAttributes()
                  places.tag());
         return;
     }
+    if (isOff(row.onlyIf))
+        tellSwitchedOff(row.onlyIf, current.name, places.tag());
     for (int i = 0; i < current.atts.count(); ++i)
         checkAttribute(i);
     checkMissing();
@@ -167,17 +178,15 @@ void CheckingDevice::checkAttribute(int position)
         tellUnread(position);
         break;
     case Fate::Printed:
-        checkValue(position);
+        if (!row.isHidden(current.atts))
+            checkValue(position);
         break;
-    case Fate::SwitchedOff:
-        if (!current.atts.value(position).isEmpty()) {
-            const AttributeUse *const use = row.find(current.atts.qName(position));
-            const bool isOwn = use && use->onlyIf && (!row.onlyIf || settings.*row.onlyIf);
-            tellSwitchedOff(isOwn ? use->onlyIf : row.onlyIf,
-                            isOwn ? current.atts.qName(position) : current.name,
-                            isOwn ? places.attribute(position) : places.tag());
-        }
+    case Fate::SwitchedOff: {
+        const AttributeUse *const use = row.find(current.atts.qName(position));
+        if (!isOff(row.onlyIf) && use && !current.atts.value(position).isEmpty())
+            tellSwitchedOff(use->onlyIf, current.atts.qName(position), places.attribute(position));
         break;
+    }
     case Fate::Kept:
         break;
     }
@@ -203,6 +212,11 @@ void CheckingDevice::tellUnread(int position)
          at);
 }
 
+bool CheckingDevice::isOff(bool DocumentSettings::*aSwitch) const
+{
+    return aSwitch && !(settings.*aSwitch);
+}
+
 /// Once for a switch.
 void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
                                      tools::Place at)
@@ -219,14 +233,15 @@ void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QStr
 void CheckingDevice::checkMissing()
 {
     const ElementRow &row = *current.row;
-    if (row.onlyIf && !(settings.*row.onlyIf))
+    if (isOff(row.onlyIf) || row.isHidden(current.atts))
         return;
     for (const AttributeUse &use : row.attributes) {
-        const bool isOff = use.onlyIf && !(settings.*use.onlyIf);
-        if (!isOff && use.need == Need::Expected && current.atts.index(use.name) < 0)
-            tell(codes::missingAttribute,
-                 u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints empty"_L1,
-                 places.tag());
+        if (isOff(use.onlyIf) || use.need != Need::Expected || current.atts.index(use.name) >= 0)
+            continue;
+        const auto instead = use.column == Column::Sign ? "`-`"_L1 : "empty"_L1;
+        tell(codes::missingAttribute,
+             u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints "_L1 + instead,
+             places.tag());
     }
 }
 

@@ -24,6 +24,7 @@ public:
                       const QXmlAttributes &atts) override;
     bool endElement(const QString &namespaceURI, const QString &localName,
                     const QString &qName) override;
+    bool skippedEntity(const QString &name) override;
     bool endDocument() override;
 
     void println(unsigned int indent, const QString &text) override;
@@ -44,6 +45,7 @@ private:
 
     void tell(const codes::Code &code, const QString &text, tools::Place at);
     tools::Place placeOf(QLatin1StringView attribute) const;
+    bool isOff(bool DocumentSettings::*aSwitch) const; ///< not for null, which is no switch
 
     bool startMethod(const QXmlAttributes &atts);
     void checkElement();

@@ -34,6 +34,7 @@ constexpr Code beforeMethod{"before-method"_L1, Severity::Warning};
 constexpr Code secondMethod{"second-method"_L1, Severity::Warning};
 constexpr Code unknownElement{"unknown-element"_L1, Severity::Warning};
 constexpr Code unknownAttribute{"unknown-attribute"_L1, Severity::Warning};
+constexpr Code unknownEntity{"unknown-entity"_L1, Severity::Warning};
 constexpr Code duplicateAttribute{"duplicate-attribute"_L1, Severity::Warning};
 constexpr Code missingAttribute{"missing-attribute"_L1, Severity::Warning};
 constexpr Code attributeOrder{"attribute-order"_L1, Severity::Warning};
@@ -64,6 +65,7 @@ inline constexpr std::array all = {xml,
                                    secondMethod,
                                    unknownElement,
                                    unknownAttribute,
+                                   unknownEntity,
                                    duplicateAttribute,
                                    missingAttribute,
                                    attributeOrder,

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/requestcheck/elementtable.h"
 
+#include "render/attributes.h"
 #include "render/elements.h"
-
-#include <QXmlAttributes>
 
 #include <algorithm>
 #include <array>
@@ -74,7 +73,7 @@ constexpr auto number = AttributeUse{"number"_L1, Quantity};
 constexpr auto name = AttributeUse{"name"_L1, Description};
 constexpr auto price = AttributeUse{"price"_L1, Price};
 constexpr auto totalPrice = AttributeUse{"totalPrice"_L1, Total};
-constexpr auto sign = AttributeUse{"quantity"_L1};
+constexpr auto sign = AttributeUse{"quantity"_L1, Sign};
 
 constexpr std::array ticketItem = {number, name};
 constexpr std::array ticketVariant = {number, name, sign};
@@ -128,7 +127,8 @@ constexpr std::array rows = {
     ElementRow{element::receipe, Tickets, ticketItem},
     ElementRow{element::otherReceipe, Tickets, ticketItem},
     ElementRow{element::variant, Tickets, ticketVariant},
-    ElementRow{element::receipe, Full | FullReceipt | FullInvoice, pricedItem},
+    ElementRow{element::receipe, Full, pricedItem, nullptr, Rest::Nothing, true},
+    ElementRow{element::receipe, FullReceipt | FullInvoice, pricedItem},
     ElementRow{element::variant, Full, pricedVariant},
     ElementRow{element::receipeType, AbstractReceipt | AbstractInvoice, itemType},
     ElementRow{element::total, Full | Receipts, total},
@@ -174,6 +174,7 @@ int widthOf(Column column, const DocumentSettings &settings)
         return 10;
     case None:
     case Description:
+    case Sign:
         break;
     }
     return -1;
@@ -184,6 +185,11 @@ const AttributeUse *ElementRow::find(QStringView name) const
     const auto found = std::ranges::find_if(
         attributes, [name](const AttributeUse &use) { return use.name == name; });
     return found == attributes.end() ? nullptr : &*found;
+}
+
+bool ElementRow::isHidden(const QXmlAttributes &atts) const
+{
+    return hidesMarked && valueOf(atts, "name"_L1).startsWith(u'=');
 }
 
 bool ElementRow::hasColumns() const
@@ -234,11 +240,6 @@ Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
         return Fate::Kept;
     const auto isOff = [&](bool S::*aSwitch) { return aSwitch && !(settings.*aSwitch); };
     return isOff(row.onlyIf) || (isNamed && isOff(use->onlyIf)) ? Fate::SwitchedOff : Fate::Printed;
-}
-
-bool DocumentSettings::*switchOf(const ElementRow &row, const AttributeUse *use)
-{
-    return use && use->onlyIf ? use->onlyIf : row.onlyIf;
 }
 
 } // namespace requestcheck

@@ -25,6 +25,7 @@ enum class Column {
     Date,
     TaxRate,
     Money, ///< of the table of tax rates
+    Sign,  ///< of a variant, before its name
 };
 
 /// The width of a column in characters; -1 for one without a width of its own.
@@ -60,7 +61,10 @@ struct ElementRow
     std::span<const AttributeUse> attributes;
     bool DocumentSettings::*onlyIf = nullptr; ///< the switch that its attributes are printed under
     Rest rest = Rest::Nothing;
+    bool hidesMarked = false; ///< an item whose name begins with `=` is never printed
 
+    /// Whether it prints nothing with these attributes, whatever the settings.
+    bool isHidden(const QXmlAttributes &atts) const;
     /// The attribute of this name, or null.
     const AttributeUse *find(QStringView name) const;
     /// Whether it prints its attributes in columns.
@@ -82,7 +86,5 @@ enum class Fate { Printed, SwitchedOff, Kept, Unread };
 /// The fate of the attribute at `position` under the settings.
 Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
             const DocumentSettings &settings);
-/// The switch that decides about an attribute: its own, else its element's; null without one.
-bool DocumentSettings::*switchOf(const ElementRow &row, const AttributeUse *use);
 
 } // namespace requestcheck
