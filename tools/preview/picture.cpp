@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/picture.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace preview {
@@ -9,7 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr size_t MostNoteCells = 60;
+constexpr size_t MostRemarkCells = 60;
+
+/// What is written around the paper loses its end where it is long.
+Cells shortened(const Cells &text)
+{
+    return text.size() > MostRemarkCells ? text.substr(0, MostRemarkCells - 1) + U"…" : text;
+}
 
 int pixels(double millimetres, int dpi)
 {
@@ -34,17 +42,16 @@ CellsView shownOverrun(const Row &row)
 
 Cells noteOf(const Row &row)
 {
-    Cells note;
+    QStringList parts;
     if (row.overrun() > 0)
-        note = U"+" + cellsOf(QString::number(row.overrun())) + U" ";
-    note += cellsOf(row.note);
+        parts.append(u'+' + QString::number(row.overrun()));
+    if (!row.note.isEmpty())
+        parts.append(row.note);
     for (const char32_t c : row.text) {
         if (drawable(c) != c)
-            note += U" " + cellsOf(numberOf(c));
+            parts.append(numberOf(c));
     }
-    if (note.size() > MostNoteCells)
-        note = note.substr(0, MostNoteCells - 1) + U"…";
-    return note;
+    return shortened(cellsOf(parts.join(u' ')));
 }
 
 Cells markOf(const Row &row)
@@ -121,6 +128,8 @@ PictureLayout::Grid PictureLayout::gridOf(const Sheet &sheet) const
     }
     grid.cell = std::max(printedWidth(paper) / grid.columns, 1);
     grid.margin = (pixels(paper.widthMm, paper.dpi) - grid.columns * grid.cell) / 2;
+    const int title = int(shortened(cellsOf(sheet.title)).size()) * grid.cell;
+    grid.beyond = std::max(title - grid.paperWidth(), 0);
     for (const Row &row : sheet.rows)
         grid.beyond = std::max(grid.beyond, beyondPaper(row, grid.columns, grid.cell, grid.margin)
                                                 + int(noteOf(row).size()) * grid.cell);
@@ -145,9 +154,7 @@ void PictureLayout::draw(Picture &picture, size_t index, QPoint corner) const
     const int height = 2 * grid.cell;
     QPoint at(corner.x() + grid.left(), corner.y() + height);
     if (!sheet.title.isEmpty()) {
-        const auto room = size_t((grid.width() - grid.left()) / grid.cell);
-        const Cells title = cellsOf(sheet.title).substr(0, room);
-        picture.runs.push_back({at, grid.cell, title, Tone::Remark});
+        picture.runs.push_back({at, grid.cell, shortened(cellsOf(sheet.title)), Tone::Remark});
         at.ry() += height + grid.cell;
     }
     for (size_t i = 0; i < sheet.rows.size(); ++i, at.ry() += height) {

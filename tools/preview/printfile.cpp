@@ -113,9 +113,12 @@ qsizetype PrintFile::characterAt(const QByteArray &bytes, qsizetype at, Cells &c
     for (qsizetype size = 1; size <= 4 && at + size <= bytes.size(); ++size) {
         QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
         const QString text = codec->toUnicode(bytes.constData() + at, int(size), &state);
-        const bool isCharacter = !text.isEmpty() && state.invalidChars == 0
-                                 && state.remainingChars == 0 && text.front() != u'\uFFFD';
-        if (isCharacter) {
+        const bool isDecoded =
+            !text.isEmpty() && state.invalidChars == 0 && state.remainingChars == 0;
+        // Not every codec counts what it replaces.
+        if (isDecoded
+            && (text.front() != QChar::ReplacementCharacter
+                || codec->fromUnicode(text) == bytes.sliced(at, size))) {
             cells += cellsOf(text);
             return size;
         }
