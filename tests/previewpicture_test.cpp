@@ -56,70 +56,44 @@ int differing(const std::vector<double> &a, const std::vector<double> &b)
     return count;
 }
 
-struct Golden
+TEST(Picture, IsItsReferenceCellByCell)
 {
-    const char *name;
-    QSize cell; ///< pixels
-    QStringList words;
-    int exitStatus;
-};
-
-void PrintTo(const Golden &golden, std::ostream *out)
-{
-    *out << golden.name;
-}
-
-class PictureGolden : public testing::TestWithParam<Golden>
-{
-};
-
-TEST_P(PictureGolden, IsItsReferenceCellByCell)
-{
-    const Golden &golden = GetParam();
+    constexpr QSize Cell(7, 14); // of 40 columns on 80 mm at 100 dots per inch
+    const struct
+    {
+        QString name;
+        QStringList words;
+        int exitStatus;
+    } goldens[] = {
+        {u"receipt.png"_s, {u"--annotate"_s, u"@/samples/printFullOrderReceipt.xml"_s}, 0},
+        {u"papers.png"_s,
+         {u"--columns"_s, u"40"_s, u"@/samples/printFullOrderFiscal.xml"_s,
+          u"@/tests/golden/odd/columns-wider-than-paper.prn"_s},
+         0},
+        {u"changes.png"_s,
+         {u"--columns"_s, u"40"_s, u"--against"_s, u"@/samples/zentaro-32.conf"_s,
+          u"@/tests/golden/preview/sold.xml"_s},
+         1},
+    };
     const support::Folder folder;
-    const QString drawn = folder.path(u"drawn.png"_s);
-    const Outcome outcome = draw(golden.words + QStringList{u"-o"_s, drawn});
-    ASSERT_EQ(outcome.exitStatus, golden.exitStatus);
-    EXPECT_EQ(outcome.errors, "");
-    const QString reference =
-        sourceDir() + u"/tests/golden/preview/"_s + QLatin1StringView(golden.name) + u".png"_s;
-    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN")) {
-        support::writeFile(reference, support::readFile(drawn));
-        return;
+    for (const auto &golden : goldens) {
+        const QString drawn = folder.path(golden.name);
+        const Outcome outcome =
+            draw(golden.words + QStringList{u"--dpi"_s, u"100"_s, u"-o"_s, drawn});
+        ASSERT_EQ(outcome.exitStatus, golden.exitStatus);
+        EXPECT_EQ(outcome.errors, "");
+        const QString reference = sourceDir() + u"/tests/golden/preview/"_s + golden.name;
+        if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
+            support::writeFile(reference, support::readFile(drawn));
+        const QImage expected(reference);
+        const QImage image(drawn);
+        ASSERT_FALSE(expected.isNull());
+        ASSERT_EQ(image.size(), expected.size()) << golden.name.toStdString();
+        const std::vector<double> cells = greyOfCells(expected, Cell);
+        EXPECT_EQ(differing(greyOfCells(image, Cell), cells), 0) << golden.name.toStdString();
+        EXPECT_GT(differing(greyOfCells(image, Cell, 1), cells), 30) << "too tolerant";
     }
-    const QImage expected(reference);
-    const QImage image(drawn);
-    ASSERT_FALSE(expected.isNull());
-    ASSERT_EQ(image.size(), expected.size());
-    const std::vector<double> cells = greyOfCells(expected, golden.cell);
-    EXPECT_EQ(differing(greyOfCells(image, golden.cell), cells), 0);
-    EXPECT_GT(differing(greyOfCells(image, golden.cell, 1), cells), 30) << "too tolerant";
 }
-
-std::string nameOf(const testing::TestParamInfo<Golden> &golden)
-{
-    return golden.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Preview, PictureGolden,
-    testing::Values(Golden{"receipt",
-                           {7, 14},
-                           {u"--dpi"_s, u"100"_s, u"--annotate"_s,
-                            u"@/samples/printFullOrderReceipt.xml"_s},
-                           0},
-                    Golden{"papers",
-                           {7, 14},
-                           {u"--dpi"_s, u"100"_s, u"--columns"_s, u"40"_s,
-                            u"@/samples/printFullOrderFiscal.xml"_s,
-                            u"@/tests/golden/odd/columns-wider-than-paper.prn"_s},
-                           0},
-                    Golden{"changes",
-                           {7, 14},
-                           {u"--dpi"_s, u"100"_s, u"--columns"_s, u"40"_s, u"--against"_s,
-                            u"@/samples/zentaro-32.conf"_s, u"@/tests/golden/preview/sold.xml"_s},
-                           1}),
-    nameOf);
 
 /// Every character has the place of its cell, however the viewer's font runs.
 TEST(SvgPicture, PlacesEveryCharacter)
