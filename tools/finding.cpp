@@ -60,6 +60,11 @@ std::vector<Finding> abridged(std::vector<Finding> findings)
     return store.take();
 }
 
+bool hasError(const std::vector<Finding> &findings)
+{
+    return std::ranges::find(findings, Severity::Error, &Finding::severity) != findings.end();
+}
+
 QLatin1StringView severityName(Severity severity)
 {
     switch (severity) {

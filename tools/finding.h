@@ -51,6 +51,8 @@ private:
 /// them.
 std::vector<Finding> abridged(std::vector<Finding> findings);
 
+bool hasError(const std::vector<Finding> &findings);
+
 /// The word for a severity, as messages bear it.
 QLatin1StringView severityName(Severity severity);
 /// `file:line:column: severity: text [code]`, a line each; the place is left away where there is

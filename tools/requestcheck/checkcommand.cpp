@@ -9,8 +9,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace requestcheck {
 
 using namespace Qt::StringLiterals;
@@ -26,12 +24,6 @@ void promoteWarnings(std::vector<tools::Finding> &findings)
     }
 }
 
-bool hasError(const tools::FileFindings &file)
-{
-    return std::ranges::find(file.findings, tools::Severity::Error, &tools::Finding::severity)
-           != file.findings.end();
-}
-
 /// Prints the findings as they come, or keeps them for one array.
 class Printer
 {
@@ -43,7 +35,7 @@ public:
 
     void add(tools::FileFindings file)
     {
-        if (hasError(file))
+        if (tools::hasError(file.findings))
             status = qMax(status, int(tools::Findings));
         if (asJson)
             files.push_back(std::move(file));

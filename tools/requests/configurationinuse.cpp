@@ -12,8 +12,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace tools {
 
 using namespace Qt::StringLiterals;
@@ -27,11 +25,7 @@ void tellFaults(const Call &call, const configtool::Source &source)
     if (!QFileInfo(source.path).isFile())
         return;
     const std::optional<QByteArray> content = configtool::contentOf(call, source);
-    if (!content)
-        return;
-    const configtool::Outline outline = configtool::readOutline(*content, source.format);
-    if (std::ranges::find(outline.faults, Severity::Error, &Finding::severity)
-        != outline.faults.end())
+    if (content && hasError(configtool::readOutline(*content, source.format).faults))
         printError(call.command + ": "_L1 + inOneLine(source.path)
                    + ": it has faults, which `zentaro config check` tells\n"_L1);
 }
