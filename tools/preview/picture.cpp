@@ -50,6 +50,8 @@ Cells noteOf(const Row &row)
     for (const char32_t c : row.text) {
         if (drawable(c) != c)
             parts.append(numberOf(c));
+        if (parts.size() > qsizetype(MostRemarkCells))
+            break; // more than is shown
     }
     return shortened(cellsOf(parts.join(u' ')));
 }
