@@ -5,8 +5,11 @@ install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
         RENAME copyright COMPONENT print)
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools"
         RENAME copyright COMPONENT tools)
-install(FILES CHANGELOG.md SECURITY.md doc/configuration.md doc/faults.md
+install(FILES CHANGELOG.md SECURITY.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print" COMPONENT print)
+# The pages point at each other as they do in the source tree.
+install(FILES doc/configuration.md doc/faults.md
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print/doc" COMPONENT print)
 install(DIRECTORY samples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
         COMPONENT print)
 
