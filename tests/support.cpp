@@ -32,6 +32,20 @@ void writeFile(const QString &path, const QByteArray &content)
     EXPECT_EQ(file.write(content), content.size());
 }
 
+void expectReference(const QString &reference, const QByteArray &found)
+{
+    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
+        writeFile(reference, found);
+    if (found == readFile(reference))
+        return;
+    const Folder folder;
+    writeFile(folder.path(u"found"_s), found);
+    QProcess diff;
+    diff.start(u"diff"_s, {u"-au"_s, reference, folder.path(u"found"_s)});
+    diff.waitForFinished();
+    ADD_FAILURE() << diff.readAll().toStdString();
+}
+
 Home::Home(const QByteArray &configuration)
 {
     if (!configuration.isNull())
