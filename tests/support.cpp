@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 namespace support {
@@ -70,6 +72,14 @@ QStringList Locale::variables() const
 {
     // The C library itself leaks the search path, which is no finding of ours.
     return {u"LOCPATH="_s + path(), u"LC_ALL="_s + name, u"ASAN_OPTIONS=detect_leaks=0"_s};
+}
+
+FileLimit::FileLimit(rlim_t bytes)
+{
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit limit{bytes, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 Outcome run(const QString &program, const QStringList &words, const Home &home,
