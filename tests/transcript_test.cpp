@@ -37,7 +37,8 @@ QByteArray outcomeOf(const QByteArray &commands)
     const support::Outcome outcome =
         support::run(words.takeFirst(), words, home,
                      {u"PATH="_s + programs + u':' + qEnvironmentVariable("PATH"),
-                      u"SOURCE="_s + support::sourceDir()});
+                      u"SOURCE="_s + support::sourceDir(),
+                      QStringLiteral("TRANSLATIONS=" ZENTARO_TRANSLATIONS_DIR)});
 
     QByteArray told = outcome.output;
     if (!told.isEmpty() && !told.endsWith('\n'))
