@@ -5,7 +5,6 @@
 #include "tools/config/outline.h"
 #include "tools/config/settingcheck.h"
 #include "tools/knownkeys.h"
-#include "tools/nearest.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -90,23 +89,6 @@ TEST(ConfigLosses, AreNamedWhateverTheFile)
     }
 }
 
-TEST(ConfigCheck, EndsAtDeepXml)
-{
-    const QByteArray deep =
-        QByteArray("<a>\n").repeated(1'001) + QByteArray("</a>").repeated(1'001);
-    const Outline outline = readOutline(deep, u"xml"_s);
-    ASSERT_EQ(outline.faults.size(), 1U);
-    EXPECT_EQ(outline.faults[0].at.line, 1'001);
-}
-
-TEST(ConfigCheck, ListsAHundredFindingsOfACode)
-{
-    const Outline outline = readOutline(QByteArray("a = 1;\n").repeated(150), u"cfg"_s);
-    const std::vector<Finding> findings = tools::abridged(checkSettings(outline));
-    ASSERT_EQ(findings.size(), 102U);
-    EXPECT_EQ(findings.back().text, u"50 more like this"_s);
-}
-
 TEST(ConfigCheck, KnowsTheKeysOfTheDocumentedConfiguration)
 {
     const QString page = QString::fromUtf8(support::readFile(root + u"doc/configuration.md"_s));
@@ -124,22 +106,6 @@ TEST(ConfigCheck, KnowsTheKeysOfTheDocumentedConfiguration)
             known += word;
     }
     EXPECT_EQ(known, documented);
-}
-
-TEST(Nearest, FindsWhatWasMeant)
-{
-    const std::span<const QString> words = tools::knownWords(u"doc");
-    const QString rows[][2] = {
-        {u"paperWidht"_s, u"paperWidth"_s},
-        {u"PAPERWIDTH"_s, u"paperWidth"_s},
-        {u"papeWidth"_s, u"paperWidth"_s},
-        {u"printdat"_s, u"printDate"_s},
-        {u"colour"_s, u""_s},
-        {u""_s, u""_s},
-        {u"x"_s, u""_s},
-    };
-    for (const auto &[word, meant] : rows)
-        EXPECT_EQ(tools::nearest(word, words), meant) << word.toStdString();
 }
 
 TEST(ConfigTemplate, SetsEveryNumberAndSwitch)

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -112,11 +114,14 @@ TEST_F(Log, AFullDiskLosesLinesAndNothingElse)
 {
     configure();
     Logger logger({});
-    {
-        const support::FileLimit limit(40);
-        for (int i = 0; i < 1000; ++i)
-            logger.error(QString(100, u'x'));
-    }
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit full = {40, limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    for (int i = 0; i < 1000; ++i)
+        logger.error(QString(100, u'x'));
+    setrlimit(RLIMIT_FSIZE, &limit);
     logger.info(u"after"_s);
     EXPECT_TRUE(lines().endsWith("\nINFO: after\n"));
     EXPECT_LT(lines().size(), 20'000);

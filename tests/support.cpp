@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-
 using namespace Qt::StringLiterals;
 
 namespace support {
@@ -80,14 +78,6 @@ QStringList Locale::variables() const
 {
     // The C library itself leaks the search path, which is no finding of ours.
     return {u"LOCPATH="_s + path(), u"LC_ALL="_s + name, u"ASAN_OPTIONS=detect_leaks=0"_s};
-}
-
-FileLimit::FileLimit(rlim_t bytes)
-{
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit limit{bytes, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 Outcome run(const QString &program, const QStringList &words, const Home &home,

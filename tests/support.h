@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 
 #include <ostream>
-#include <sys/resource.h>
 
 /// What the tests share: files of their own, and the real programs run as a till runs them.
 namespace support {
@@ -56,19 +55,6 @@ public:
 
 private:
     QString name;
-};
-
-/// Limits the files that the process writes to a number of bytes, as on a full disk.
-class FileLimit
-{
-public:
-    explicit FileLimit(rlim_t bytes);
-    FileLimit(const FileLimit &) = delete;
-    FileLimit &operator=(const FileLimit &) = delete;
-    ~FileLimit() { setrlimit(RLIMIT_FSIZE, &before); }
-
-private:
-    rlimit before = {};
 };
 
 /// What a program left behind.
