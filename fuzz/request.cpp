@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-// A print request of any bytes, printed as the program prints it.
+// A print request of any bytes, printed as the program prints it, and read as the toolkit reads it:
+// faster, but no differently up to the limits.
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "fuzz/scratch.h"
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QXmlInputSource>
+#include <QXmlSimpleReader>
 
 #include <array>
 #include <memory>
@@ -59,6 +63,61 @@ ZTConfiguration *configurationFor(size_t size)
     return configurations[size % configurations.size()].get();
 }
 
+/// Notes the elements that a reader hands over.
+class Elements : public QXmlDefaultHandler
+{
+public:
+    bool startElement(const QString &, const QString &, const QString &qName,
+                      const QXmlAttributes &atts) override
+    {
+        seen += u'<' + qName;
+        for (int i = 0; i < atts.count(); ++i)
+            seen += u' ' + atts.qName(i) + u'=' + atts.value(i);
+        return true;
+    }
+    bool endElement(const QString &, const QString &, const QString &qName) override
+    {
+        seen += u'>' + qName;
+        return true;
+    }
+    bool endDocument() override
+    {
+        seen += u'.';
+        return true;
+    }
+
+    QString seen;
+};
+
+/// Notes whether a limit ended the reading.
+class Limits : public requestreader::Observer
+{
+public:
+    void taken(QStringView, bool) override {}
+    void stopped(requestreader::Stop why, const QString &) override
+    {
+        isExceeded = why != requestreader::Stop::Fault;
+    }
+
+    bool isExceeded = false;
+};
+
+void expectSameElements(QByteArray request)
+{
+    QBuffer buffer(&request);
+    Elements found;
+    Limits limits;
+    requestreader::read(buffer, found, &limits);
+    if (limits.isExceeded)
+        return;
+    buffer.close();
+    Elements expected;
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&expected);
+    reader.parse(QXmlInputSource(&buffer));
+    fuzz::expectEqual(found.seen, expected.seen);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -74,5 +133,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray printed = fuzz::read(printFile);
     if (isWhole && !printed.endsWith("J\n")) // then the section is closed
         fuzz::expectEqual(QString::fromUtf8(printed.right(3)), u"1T\n"_s);
+    expectSameElements(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size)));
     return 0;
 }

@@ -5,7 +5,6 @@
 #include "tests/support.h"
 
 #include <QProcess>
-#include <QRegularExpression>
 #include <QSqlTableModel>
 
 #include <gtest/gtest.h>
@@ -18,7 +17,7 @@ namespace {
 
 /// The table "item" and its sequence on a server, `db` and the default connection to it. What a
 /// test does is held against its reference, database/<test>.txt: the log, into which the answers
-/// go too. With ZENTARO_REWRITE_REFERENCES set it is written there instead, for review.
+/// go too.
 class Database : public testing::Test
 {
 protected:
@@ -64,17 +63,12 @@ protected:
     ~Database() override
     {
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-        static const QRegularExpression stamp(uR"(^\[[-\d]{10} [:\d]{12}\] )"_s,
-                                              QRegularExpression::MultilineOption);
-        const QByteArray log = support::readFile(home->path(u"log"_s)); // in two encodings
-        QByteArray told = QString::fromLatin1(log).remove(stamp).toLatin1();
+        QByteArray told = support::withoutTimeStamps(support::readFile(home->path(u"log"_s)));
         told.replace(host.toUtf8(), "HOST").replace(home->path().toUtf8(), "HOME");
         const auto *const test = testing::UnitTest::GetInstance()->current_test_info();
-        const QString reference = support::sourceDir() + "/tests/database/"_L1
-                                  + QLatin1StringView(test->name()) + ".txt"_L1;
-        if (qEnvironmentVariableIsSet("ZENTARO_REWRITE_REFERENCES"))
-            support::writeFile(reference, told);
-        EXPECT_EQ(told.toStdString(), support::readFile(reference).toStdString());
+        support::expectReference(support::sourceDir() + "/tests/database/"_L1
+                                     + QLatin1StringView(test->name()) + ".txt"_L1,
+                                 told);
     }
 
     QSqlDatabase *connect(const QString &name, const QString &word = password,

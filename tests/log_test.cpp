@@ -5,7 +5,6 @@
 #include "tests/support.h"
 
 #include <QDateTime>
-#include <QRegularExpression>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -38,13 +37,7 @@ protected:
         SyncSingleton<ZTConfiguration>::instance()->readFile(home.configurationPath(), u"cfg"_s);
     }
 
-    /// The log without its time stamps, which every line must have.
-    QByteArray lines() const
-    {
-        static const QRegularExpression stamp(uR"(^\[[-\d]{10} [:\d]{12}\] )"_s,
-                                              QRegularExpression::MultilineOption);
-        return QString::fromUtf8(support::readFile(file)).remove(stamp).toUtf8();
-    }
+    QByteArray lines() const { return support::withoutTimeStamps(support::readFile(file)); }
 
     const support::Folder folder;
     const QString file = folder.path(u"print.log"_s);

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,27 @@ void writeFile(const QString &path, const QByteArray &content)
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
     EXPECT_EQ(file.write(content), content.size());
+}
+
+QByteArray withoutTimeStamps(const QByteArray &log)
+{
+    static const QRegularExpression stamp(uR"(^\[[-\d]{10} [:\d]{12}\] )"_s,
+                                          QRegularExpression::MultilineOption);
+    return QString::fromLatin1(log).remove(stamp).toLatin1(); // of any encoding
+}
+
+void expectReference(const QString &reference, const QByteArray &found)
+{
+    if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
+        writeFile(reference, found);
+    if (found == readFile(reference))
+        return;
+    const Folder folder;
+    writeFile(folder.path(u"found"_s), found);
+    QProcess diff;
+    diff.start(u"diff"_s, {u"-au"_s, reference, folder.path(u"found"_s)});
+    diff.waitForFinished();
+    ADD_FAILURE() << diff.readAll().toStdString();
 }
 
 Home::Home(const QByteArray &configuration)

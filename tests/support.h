@@ -19,6 +19,11 @@ QString sourceDir();
 QByteArray readFile(const QString &path);
 /// Writes a file and the folders above it; fails the test when it cannot be written.
 void writeFile(const QString &path, const QByteArray &content);
+/// A log without the time stamps, which every line should have.
+QByteArray withoutTimeStamps(const QByteArray &log);
+/// Fails the test with a diff when what was found is not what the reference file holds. With
+/// ZENTARO_UPDATE_GOLDEN set it becomes the reference instead, for review.
+void expectReference(const QString &reference, const QByteArray &found);
 
 /// A folder that is gone with the object.
 class Folder
