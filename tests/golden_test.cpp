@@ -4,7 +4,6 @@
 #include "tests/recordingdevice.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -84,15 +83,7 @@ TEST_P(GoldenTest, IsAsItsReference)
     const QByteArray found = golden.reference.endsWith(u".calls")
                                  ? callsFor(golden)
                                  : support::printed(support::readFile(golden.request), home);
-    if (rewrite)
-        support::writeFile(golden.reference, found);
-    if (found == support::readFile(golden.reference))
-        return;
-    support::writeFile(home.path(u"found"_s), found);
-    QProcess diff;
-    diff.start(u"diff"_s, {u"-u"_s, golden.reference, home.path(u"found"_s)});
-    diff.waitForFinished();
-    FAIL() << diff.readAll().toStdString();
+    support::expectReference(golden.reference, found);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, GoldenTest, testing::ValuesIn(goldens()), [](const auto &test) {

@@ -66,11 +66,9 @@ TEST(Preview, PrintsItsReferences)
         const QByteArray text = QByteArray(outcome.output)
                                     .replace(sourceDir().toUtf8(), "@")
                                     .replace(home.path().toUtf8(), "~");
-        const QString reference =
-            sourceDir() + u"/tests/golden/preview/"_s + QLatin1StringView(golden.name) + u".txt"_s;
-        if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
-            support::writeFile(reference, text);
-        EXPECT_EQ(text, support::readFile(reference)) << golden.name;
+        support::expectReference(sourceDir() + u"/tests/golden/preview/"_s
+                                     + QLatin1StringView(golden.name) + u".txt"_s,
+                                 text);
     }
 }
 
