@@ -9,6 +9,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
@@ -102,6 +103,14 @@ public:
     bool isExceeded = false;
 };
 
+/// Without the number of replacement characters in a row: where undecodable bytes stand across the
+/// end of a piece, it depends on the pieces.
+QString withShortRuns(QString text)
+{
+    static const QRegularExpression run(u"\uFFFD+"_s);
+    return text.replace(run, u"\uFFFD"_s);
+}
+
 void expectSameElements(QByteArray request)
 {
     QBuffer buffer(&request);
@@ -115,7 +124,7 @@ void expectSameElements(QByteArray request)
     QXmlSimpleReader reader;
     reader.setContentHandler(&expected);
     reader.parse(QXmlInputSource(&buffer));
-    fuzz::expectEqual(found.seen, expected.seen);
+    fuzz::expectEqual(withShortRuns(found.seen), withShortRuns(expected.seen));
 }
 
 } // namespace
