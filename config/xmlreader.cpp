@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
+#include "config/cfgscanner.h"
 #include "config/elementwalk.h"
 
 #include <QFile>
@@ -9,8 +10,8 @@
 namespace libconfig {
 namespace {
 
-/// A longer file is not read: it may be a link to a device that never ends.
-constexpr qint64 MaxBytes = qint64(64) * 1'024 * 1'024;
+/// The limit of the other form: a longer file is not read.
+constexpr qint64 MaxBytes = CfgScanner::MaxBytes;
 
 /// The content of a file up to the limit, and a piece more of one that exceeds it.
 QByteArray limitedContent(QFile &file)
