@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
+#include "config/cfgcontent.h"
 #include "config/cfgscanner.h"
 #include "text/standardoutput.h"
 
@@ -9,17 +10,6 @@
 #include <vector>
 
 namespace libconfig {
-namespace {
-
-/// A group whose body is being read. It joins the tree when the body ends, if it has a member: the
-/// toolkit walks up to the root of the tree for every node that joins it.
-struct OpenGroup
-{
-    QDomElement element;
-    bool hasMember = false;
-};
-
-} // namespace
 
 bool Config::openFile()
 {
@@ -58,51 +48,57 @@ bool Config::jump(char c)
 
 void Config::loadFile()
 {
-    if (!document)
+    if (!tree())
         newDocument();
     openFile();
-    const QDomElement fileElement = newElement(*document, fileName);
-    if (!loadBody(fileElement, *document))
+    content = std::make_unique<CfgContent>();
+    isGrown = false;
+    if (!content->read(stream))
         closeFile();
+    if (!document->firstChildElement().isNull())
+        tree(); // lookups are answered from the file that was read first
 }
 
 void Config::loadFile(QString const &name, QDomNode parent)
 {
-    if (!document)
+    if (!tree())
         newDocument();
-    loadBody(newElement(*document, name), parent);
+    CfgContent body;
+    body.read(stream);
+    appendGroup(body, name, parent);
 }
 
-/// Reads the body of `element`'s group, which joins `parent`. Answers true at the `}` that closes
-/// the body, false at the end of the file. Groups nest to any depth: those that are open stand in a
-/// list of their own, not on the call stack.
-bool Config::loadBody(const QDomElement &element, QDomNode &parent)
+QDomDocument *Config::tree()
 {
-    std::vector<OpenGroup> open{{element}};
-    const auto closeGroup = [&] {
-        const OpenGroup group = open.back();
-        open.pop_back();
-        if (group.hasMember)
-            (open.empty() ? parent : open.back().element).appendChild(group.element);
-    };
-    using Statement = CfgScanner::Statement;
-    CfgScanner scanner(stream);
-    for (Statement read = scanner.next(); read != Statement::EndOfFile; read = scanner.next()) {
-        if (read == Statement::GroupEnd) {
-            closeGroup();
-            if (open.empty())
-                return true;
-            continue;
-        }
-        open.back().hasMember = true; // also where the nested group turns out empty
-        if (read == Statement::GroupBegin)
-            open.push_back({newElement(*document, scanner.name())});
-        else
-            addSetting(open.back().element, scanner.name(), scanner.value());
-    }
-    while (!open.empty())
-        closeGroup();
-    return false;
+    grownTree();
+    content.reset(); // from now on the tree may differ
+    return document;
+}
+
+const QDomDocument *Config::grownTree() const
+{
+    const QMutexLocker lock(&growing);
+    if (content && !isGrown)
+        appendGroup(*content, fileName, *document);
+    isGrown = true;
+    return document;
+}
+
+/// Adds a group element to `parent`, if the group has a member. Elements join the tree when they
+/// are complete: the toolkit walks up to the root of the tree for every node that joins it.
+void Config::appendGroup(const CfgContent &body, const QString &name, QDomNode &parent) const
+{
+    std::vector<QDomElement> open{newElement(*document, name)};
+    body.visit(
+        [&](const QString &group) { open.push_back(newElement(*document, group)); },
+        [&](const QString &key, const QString &value) { addSetting(open.back(), key, value); },
+        [&] {
+            const QDomElement complete = open.back();
+            open.pop_back();
+            open.back().appendChild(complete);
+        });
+    if (body.hasMember())
+        parent.appendChild(open.front());
 }
 
 /// An element of any name: the toolkit creates none without a name, but holds one. A new document
@@ -114,7 +110,7 @@ QDomElement Config::newElement(QDomDocument &document, const QString &name)
     return element;
 }
 
-void Config::addSetting(QDomElement &element, const QString &name, const QString &value)
+void Config::addSetting(QDomElement &element, const QString &name, const QString &value) const
 {
     element.setAttribute(name, value);
     attributeOrder.append(element, name);

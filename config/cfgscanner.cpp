@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "config/cfgscanner.h"
 
+#include <algorithm>
 #include <limits>
-#include <string_view>
 
 namespace libconfig {
 namespace {
@@ -14,14 +14,31 @@ bool isSpace(char c)
 }
 
 /// A name or a value as it is kept: up to the first NUL, without the white space at its ends.
-QString trimmed(std::string_view text)
+std::string_view trimmed(std::string_view text)
 {
     text = text.substr(0, text.find('\0'));
     while (!text.empty() && isSpace(text.front()))
         text.remove_prefix(1);
     while (!text.empty() && isSpace(text.back()))
         text.remove_suffix(1);
-    return text.empty() ? QLatin1String("") : QString::fromLatin1(QByteArrayView(text));
+    return text;
+}
+
+/// The bytes that a stream's buffer holds ready, to which it gives access from inside only.
+struct GetArea : std::streambuf
+{
+    static std::string_view of(std::streambuf &buffer)
+    {
+        const char *const begin = (buffer.*&GetArea::gptr)();
+        return {begin, size_t((buffer.*&GetArea::egptr)() - begin)};
+    }
+
+    static void skip(std::streambuf &buffer, int bytes) { (buffer.*&GetArea::gbump)(bytes); }
+};
+
+QString fromLatin1(std::string_view text)
+{
+    return QLatin1StringView(text.data(), qsizetype(text.size()));
 }
 
 } // namespace
@@ -31,15 +48,26 @@ CfgScanner::CfgScanner(std::istream &stream)
 {
 }
 
-/// The next byte, or EndOfInput. It is taken from the stream's buffer: the stream's own operations
-/// look at its state for every byte, and made a third of what reading a configuration costs.
-inline int CfgScanner::nextByte()
+/// Appends to `text`, if any, all up to the byte that `isEnd` recognises, which is consumed and
+/// answered; EndOfInput when the file ends first. The bytes are taken from the stream's buffer as
+/// many at a time as it holds: one by one, through the stream, reading took five times as long.
+template <typename IsEnd>
+int CfgScanner::readUntil(IsEnd isEnd, std::string *text)
 {
-    if (offset == MaxBytes)
-        return EndOfInput;
-    const int read = input.rdbuf()->sbumpc();
-    offset += read == EndOfInput ? 0 : 1;
-    return read;
+    std::streambuf &buffer = *input.rdbuf();
+    while (offset < MaxBytes && buffer.sgetc() != EndOfInput) {
+        const std::string_view held = GetArea::of(buffer).substr(0, size_t(MaxBytes - offset));
+        const auto found = std::find_if(held.begin(), held.end(), isEnd);
+        const auto length = int(found - held.begin());
+        if (text)
+            text->append(held, 0, size_t(length));
+        const int taken = length + (found == held.end() ? 0 : 1);
+        GetArea::skip(buffer, taken);
+        offset += taken;
+        if (found != held.end())
+            return std::istream::traits_type::to_int_type(*found);
+    }
+    return EndOfInput;
 }
 
 CfgScanner::Statement CfgScanner::next()
@@ -59,34 +87,41 @@ CfgScanner::Statement CfgScanner::next()
 
 CfgScanner::Statement CfgScanner::nextFromBuffer()
 {
-    for (int read = nextByte(); read != EndOfInput; read = nextByte()) {
-        marked = offset - 1;
-        switch (read) {
-        case ':':
-            skipPast('{');
-            return Statement::GroupBegin;
-        case '=':
-            readValue();
-            return Statement::Setting;
-        case '}':
-            skipPast(';');
-            return Statement::GroupEnd;
-        default:
-            nameText += char(read);
-        }
+    const int read = readUntil([](char c) { return c == ':' || c == '=' || c == '}'; }, &nameText);
+    marked = offset - (read == EndOfInput ? 0 : 1);
+    switch (read) {
+    case ':':
+        skipPast('{');
+        return Statement::GroupBegin;
+    case '=':
+        readValue();
+        return Statement::Setting;
+    case '}':
+        skipPast(';');
+        return Statement::GroupEnd;
+    default:
+        return Statement::EndOfFile;
     }
-    marked = offset;
-    return Statement::EndOfFile;
 }
 
-QString CfgScanner::name() const
+std::string_view CfgScanner::trimmedName() const
 {
     return trimmed(nameText);
 }
 
+std::string_view CfgScanner::trimmedValue() const
+{
+    return trimmed(valueText);
+}
+
+QString CfgScanner::name() const
+{
+    return fromLatin1(trimmedName());
+}
+
 QString CfgScanner::value() const
 {
-    return trimmed(valueText).remove(u'"');
+    return fromLatin1(trimmedValue()).remove(u'"');
 }
 
 bool CfgScanner::skipPast(std::istream &stream, char c)
@@ -99,24 +134,14 @@ bool CfgScanner::skipPast(std::istream &stream, char c)
 
 void CfgScanner::skipPast(char c)
 {
-    while (!terminated) {
-        const int read = nextByte();
-        if (read == EndOfInput)
-            return;
-        terminated = read == c;
-    }
+    terminated = readUntil([c](char read) { return read == c; }, nullptr) != EndOfInput;
 }
 
 /// All up to the next `;`, which is consumed, or the end of the file.
 void CfgScanner::readValue()
 {
     valueText.clear();
-    for (int read = nextByte(); read != EndOfInput; read = nextByte()) {
-        terminated = read == ';';
-        if (terminated)
-            return;
-        valueText += char(read);
-    }
+    terminated = readUntil([](char read) { return read == ';'; }, &valueText) != EndOfInput;
 }
 
 } // namespace libconfig

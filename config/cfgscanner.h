@@ -5,6 +5,7 @@
 
 #include <istream>
 #include <string>
+#include <string_view>
 
 namespace libconfig {
 
@@ -38,6 +39,9 @@ public:
     QString name() const;
     /// The value of a setting, the same way and without its double quotes, wherever they stand.
     QString value() const;
+    /// Their bytes; those of a value still with its quotes.
+    std::string_view trimmedName() const;
+    std::string_view trimmedValue() const;
     /// The bytes before the structural character, and those between it and the end of a value.
     const std::string &rawName() const { return nameText; }
     const std::string &rawValue() const { return valueText; }
@@ -57,7 +61,8 @@ private:
     static constexpr int EndOfInput = std::istream::traits_type::eof();
 
     Statement nextFromBuffer();
-    int nextByte();
+    template <typename IsEnd>
+    int readUntil(IsEnd isEnd, std::string *text);
     void skipPast(char c);
     void readValue();
 

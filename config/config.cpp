@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 
-#include <QStringTokenizer>
-#include <QVarLengthArray>
+#include "config/cfgcontent.h"
 
 #include <vector>
 
@@ -10,30 +9,7 @@ namespace libconfig {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// A dotted key, split once: the group names from the top down and the name of the setting in the
-/// last of them. The names are views of the key.
-struct KeyPath
-{
-    explicit KeyPath(QStringView key)
-    {
-        for (const QStringView field : qTokenize(key, u'.'))
-            groups.append(field);
-        // An empty field after a setting's name ends the key there.
-        qsizetype last = 2;
-        while (last < groups.size() && !groups[last].isEmpty())
-            ++last;
-        if (groups.size() > 1)
-            setting = groups[last - 1].toString();
-        groups.resize(qMax(last - 1, qsizetype(1)));
-    }
-
-    QVarLengthArray<QStringView, 8> groups;
-    QString setting;
-};
-
-} // namespace
+Config::Config() = default;
 
 Config::Config(QString const &fileName, QString const &fileType)
 {
@@ -72,6 +48,8 @@ void Config::newDocument()
 /// nest its groups deeper than the stack reaches.
 void Config::deleteDocument()
 {
+    content.reset();
+    attributeOrder.clear();
     if (!document)
         return;
     std::vector<QDomNode> loose;
@@ -88,17 +66,19 @@ void Config::deleteDocument()
     }
     delete document;
     document = nullptr;
-    attributeOrder.clear();
 }
 
 QString Config::lookup(QString const &key) const
 {
+    if (content)
+        return content->lookup(KeyPath(key));
     return lookup(document ? document->firstChildElement().firstChild() : QDomNode(), key);
 }
 
 QString Config::lookup(QDomNode node, QString const &key) const
 {
     const KeyPath path(key);
+    const QString setting = path.setting.toString();
     const QDomNode top = node;
     qsizetype depth = 0; // of `node` below `top`
     while (!node.isNull()) {
@@ -107,7 +87,7 @@ QString Config::lookup(QDomNode node, QString const &key) const
             if (depth + 1 < path.groups.size()) {
                 next = node.firstChild();
                 depth += next.isNull() ? 0 : 1;
-            } else if (QString value = node.toElement().attribute(path.setting); !value.isEmpty()) {
+            } else if (QString value = node.toElement().attribute(setting); !value.isEmpty()) {
                 return value;
             }
         }

@@ -4,16 +4,20 @@
 #include "config/attributeorder.h"
 
 #include <QDomDocument>
+#include <QMutex>
 #include <QString>
 #include <QTextStream>
 
 #include <fstream>
 #include <functional>
+#include <memory>
 
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace libconfig {
+
+class CfgContent;
 
 /// The configuration store: a file of named groups and their settings, read into a tree and asked
 /// by dotted keys such as "zentaro.logger.level".
@@ -26,7 +30,7 @@ class Config
 {
 public:
     /// An object without a document: every lookup answers empty text.
-    Config() = default;
+    Config();
     /// As `readFile(fileName, fileType)` on an empty object.
     Config(QString const &fileName, QString const &fileType);
     Config(const Config &) = delete;
@@ -123,14 +127,19 @@ protected:
     QString fileName;                 ///< as given
     QString fileType;                 ///< the format word as given
     std::ifstream stream;             ///< the bytes of a "cfg" file
-    QDomDocument *document = nullptr; ///< the tree, owned; null until a file is read
+    QDomDocument *document = nullptr; ///< the tree, owned; null until a file is read; see tree()
+
+    /// The tree, for whoever reads or changes it by itself: what a "cfg" file holds joins it when
+    /// somebody first wants it.
+    QDomDocument *tree();
 
 private:
     using TreeWriter = void (Config::*)(QTextStream &);
 
-    bool loadBody(const QDomElement &element, QDomNode &parent);
+    const QDomDocument *grownTree() const;
+    void appendGroup(const CfgContent &body, const QString &name, QDomNode &parent) const;
     static QDomElement newElement(QDomDocument &document, const QString &name);
-    void addSetting(QDomElement &element, const QString &name, const QString &value);
+    void addSetting(QDomElement &element, const QString &name, const QString &value) const;
     void addSettingOf(const QTreeWidgetItem &item, QDomElement &group);
     void noteAttributeOrder(const QByteArray &content);
     void newDocument();
@@ -143,7 +152,12 @@ private:
     void writeFileSettings(QTextStream &ts);
     void writeCfgSettings(const QDomElement &group, const QString &indentation, QTextStream &ts);
 
-    AttributeOrder attributeOrder; ///< of `document`
+    // Operations that change nothing may be called by several threads at once, and some of them
+    // are the first to want the tree.
+    mutable QMutex growing;
+    mutable bool isGrown = false;          ///< whether `content` is in the tree
+    mutable AttributeOrder attributeOrder; ///< of `document`
+    std::unique_ptr<CfgContent> content;   ///< what lookups are answered from, where it is set
 };
 
 } // namespace libconfig

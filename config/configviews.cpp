@@ -108,7 +108,7 @@ QTreeWidget *Config::newConfigListView()
 QTreeWidget *Config::buildConfigListView()
 {
     auto *const view = new ConfigListView;
-    buildConfigListView(document ? document->firstChildElement() : QDomElement(), view);
+    buildConfigListView(tree() ? tree()->firstChildElement() : QDomElement(), view);
     return view;
 }
 

@@ -23,7 +23,8 @@ void printText(const QString &text)
 
 QString Config::configTreeText() const
 {
-    return "Tree \n"_L1 + configTreeText(document ? document->firstChildElement() : QDomElement());
+    const QDomDocument *const tree = grownTree();
+    return "Tree \n"_L1 + configTreeText(tree ? tree->firstChildElement() : QDomElement());
 }
 
 QString Config::configTreeText(QDomNode node) const
@@ -44,7 +45,8 @@ QString Config::configTreeText(QDomNode node) const
 void Config::forEachSetting(
     const std::function<void(const QString &key, const QString &value)> &visit) const
 {
-    const QDomElement file = document ? document->firstChildElement() : QDomElement();
+    const QDomDocument *const tree = grownTree();
+    const QDomElement file = tree ? tree->firstChildElement() : QDomElement();
     QString prefix; // of the keys in the group that is visited
     walkElements(
         file,
