@@ -21,6 +21,12 @@ QString helpOn(const CommandLine &line, const Call &call, const CommandGroup &gr
 
 } // namespace
 
+int tellTrouble(const Call &call, const QString &name, const QString &trouble)
+{
+    printError(call.command + ": "_L1 + inOneLine(name) + ": "_L1 + trouble + u'\n');
+    return Trouble;
+}
+
 int dispatch(const Call &call, const CommandGroup &group)
 {
     CommandLine line(call, group.description);
@@ -96,8 +102,8 @@ std::optional<int> CommandLine::read(int leastArguments, int mostArguments)
 
 int CommandLine::wrongUsage(const QString &mistake) const
 {
-    printError(call.command + ": "_L1 + mistake + "\nUsage: "_L1 + call.command + " [options]"_L1
-               + usage + "\n`"_L1 + call.command + " --help` tells more.\n"_L1);
+    printError(call.command + ": "_L1 + inOneLine(mistake) + "\nUsage: "_L1 + call.command
+               + " [options]"_L1 + usage + "\n`"_L1 + call.command + " --help` tells more.\n"_L1);
     return Trouble;
 }
 

@@ -27,6 +27,10 @@ struct Call
     char **argv;
 };
 
+/// Tells what is wrong with a file, or whatever has a name, in one line on standard error: the
+/// command, the name, the trouble. Answers Trouble.
+int tellTrouble(const Call &call, const QString &name, const QString &trouble);
+
 /// A row of a table of commands.
 struct Command
 {

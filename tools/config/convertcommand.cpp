@@ -31,8 +31,8 @@ std::vector<Finding> losses(const QByteArray &content, const Source &source, con
 /// Whether the file may be written, after a word with the person where there is a reason not to.
 bool isAllowed(const tools::Call &call, bool loses, const QString &target)
 {
-    const QString reason =
-        loses ? u"the file written lacks what is listed above"_s : target + " exists"_L1;
+    const QString reason = loses ? u"the file written lacks what is listed above"_s
+                                 : tools::inOneLine(target) + " exists"_L1;
     if (tools::canAsk())
         return tools::confirmed(call.command + ": "_L1 + reason + "; write it all the same?"_L1);
     tools::printError(call.command + ": "_L1 + reason + "; --force writes it all the same\n"_L1);
@@ -61,8 +61,7 @@ std::optional<Source> readableAgain(const tools::Call &call, const Source &sourc
     QFile copy(folder.filePath(u"read"_s));
     if (copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size() && copy.flush())
         return Source{copy.fileName(), source.format};
-    tools::printError(call.command + ": "_L1 + copy.fileName() + ": "_L1 + copy.errorString()
-                      + u'\n');
+    tools::tellTrouble(call, copy.fileName(), copy.errorString());
     return std::nullopt;
 }
 

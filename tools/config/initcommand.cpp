@@ -34,17 +34,14 @@ int init(const tools::Call &call)
         return line.wrongUsage("there is none for `"_L1 + line.value(u"columns"_s)
                                + "` columns, but for 32 and 40"_L1);
     if (QFileInfo::exists(source->path) && !line.isSet(u"force"_s)) {
-        tools::printError(call.command + ": "_L1 + source->path
+        tools::printError(call.command + ": "_L1 + tools::inOneLine(source->path)
                           + " exists; --force writes over it\n"_L1);
         return tools::Trouble;
     }
     QDir().mkpath(QFileInfo(source->path).path());
     libconfig::NewFile file(source->path);
-    if (!file.open() || !file.finish(file.device().write(content) == content.size())) {
-        tools::printError(call.command + ": "_L1 + source->path + ": "_L1 + file.errorString()
-                          + u'\n');
-        return tools::Trouble;
-    }
+    if (!file.open() || !file.finish(file.device().write(content) == content.size()))
+        return tools::tellTrouble(call, source->path, file.errorString());
     return tools::printOut(source->path + u'\n');
 }
 

@@ -2,7 +2,6 @@
 #include "tools/config/source.h"
 
 #include "app/ztconfiguration.h"
-#include "tools/terminal.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,17 +9,6 @@
 namespace configtool {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Answers false.
-bool tellUnreadable(const tools::Call &call, const Source &source, const QString &reason)
-{
-    tools::printError(call.command + ": "_L1 + source.path + ": "_L1 + reason + u'\n');
-    return false;
-}
-
-} // namespace
 
 QList<QCommandLineOption> sourceOptions()
 {
@@ -62,8 +50,10 @@ bool isReadable(const tools::Call &call, const Source &source)
     const QFileInfo info(source.path);
     const bool isStream = info.exists() && !info.isFile() && !info.isDir();
     QFile file(source.path);
-    return isStream || file.open(QIODevice::ReadOnly)
-           || tellUnreadable(call, source, file.errorString());
+    if (isStream || file.open(QIODevice::ReadOnly))
+        return true;
+    tools::tellTrouble(call, source.path, file.errorString());
+    return false;
 }
 
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
@@ -77,9 +67,9 @@ std::optional<QByteArray> contentOf(const tools::Call &call, const Source &sourc
             content += read;
     }
     if (file.error() != QFile::NoError)
-        tellUnreadable(call, source, file.errorString());
+        tools::tellTrouble(call, source.path, file.errorString());
     else if (content.size() > MaxContentBytes)
-        tellUnreadable(call, source, u"more than 64 MiB, which nothing reads"_s);
+        tools::tellTrouble(call, source.path, u"more than 64 MiB, which nothing reads"_s);
     else
         return content;
     return std::nullopt;

@@ -34,7 +34,7 @@ std::optional<std::vector<Comparison>> readRequests(const tools::Call &call,
         if (!source)
             return std::nullopt;
         if (!source->isRequest) {
-            tell(call, name, u"not a print request, which --against renders anew"_s);
+            tools::tellTrouble(call, name, u"not a print request, which --against renders anew"_s);
             return std::nullopt;
         }
         comparisons.push_back({*std::move(source), {}, {}});

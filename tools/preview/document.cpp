@@ -2,7 +2,6 @@
 #include "tools/preview/document.h"
 
 #include "tools/requests/requestfiles.h"
-#include "tools/terminal.h"
 
 #include <QFile>
 #include <QTemporaryFile>
@@ -37,12 +36,6 @@ std::unique_ptr<QIODevice> copied(QIODevice &source)
 
 } // namespace
 
-int tell(const tools::Call &call, const QString &name, const QString &trouble)
-{
-    tools::printError(call.command + ": "_L1 + tools::inOneLine(name) + ": "_L1 + trouble + u'\n');
-    return tools::Trouble;
-}
-
 std::optional<Source> readSource(const tools::Call &call, const QString &name)
 {
     constexpr int MostBlank = 4 * 1'024; // bytes before the first character of a request
@@ -52,7 +45,7 @@ std::optional<Source> readSource(const tools::Call &call, const QString &name)
     if (name == tools::StandardInput || source.content->isSequential())
         source.content = copied(*source.content);
     if (!source.content) {
-        tell(call, name, u"there is no room for a copy of it"_s);
+        tools::tellTrouble(call, name, u"there is no room for a copy of it"_s);
         return std::nullopt;
     }
     source.isRequest = isRequest(source.content->peek(MostBlank));
@@ -74,7 +67,7 @@ std::optional<Document> Printer::print(Source &source)
     else if (!printRequest(source, document))
         return std::nullopt;
     if (document.printFile->size() == 0)
-        tell(call, source.name, u"nothing is printed"_s);
+        tools::tellTrouble(call, source.name, u"nothing is printed"_s);
     return document;
 }
 
@@ -83,7 +76,7 @@ bool Printer::printRequest(Source &source, Document &document)
     const QString name = folder.filePath(QString::number(++printed));
     document.printFile = std::make_unique<OwnFile>(name);
     if (!source.content->open(QIODevice::ReadOnly)) {
-        tell(call, source.name, source.content->errorString());
+        tools::tellTrouble(call, source.name, source.content->errorString());
         return false;
     }
     Rendering rendering = render(*source.content, name, traceElements);
@@ -92,7 +85,7 @@ bool Printer::printRequest(Source &source, Document &document)
     document.isRendered = true;
     document.isWhole = rendering.fault.isEmpty();
     if (!document.isWhole)
-        tell(call, source.name, rendering.fault);
+        tools::tellTrouble(call, source.name, rendering.fault);
     return QFile::exists(name);
 }
 

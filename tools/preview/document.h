@@ -50,7 +50,4 @@ private:
     int printed = 0;
 };
 
-/// Tells what is wrong with a file, on standard error; answers Trouble.
-int tell(const tools::Call &call, const QString &name, const QString &trouble);
-
 } // namespace preview

@@ -196,7 +196,8 @@ private:
         if (!source)
             return std::nullopt;
         if (!source->isRequest && options.annotate) {
-            tell(call, name, u"a print file does not tell the lines of its request"_s);
+            tools::tellTrouble(call, name,
+                               u"a print file does not tell the lines of its request"_s);
             return std::nullopt;
         }
         if (source->isRequest && !std::exchange(configured, true)
@@ -261,7 +262,8 @@ bool useConfiguration(const tools::Call &call, const Options &options,
     if (!configuration.use(call, options.configuration))
         return false;
     if (configuration.isMissing())
-        tell(call, options.configurationName(), u"no such file: every setting has its default"_s);
+        tools::tellTrouble(call, options.configurationName(),
+                           u"no such file: every setting has its default"_s);
     return true;
 }
 
@@ -302,7 +304,7 @@ int writeSheets(const tools::Call &call, const Options &options, const std::vect
         fault = writePicture(layout.picture(), options.picture, options.format);
     if (fault.isEmpty())
         return tools::Fine;
-    return tell(call, options.picture, fault);
+    return tools::tellTrouble(call, options.picture, fault);
 }
 
 int run(const tools::Call &call)

@@ -7,7 +7,6 @@
 #include "tools/config/outline.h"
 #include "tools/config/source.h"
 #include "tools/requests/divertedoutput.h"
-#include "tools/terminal.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -26,8 +25,7 @@ void tellFaults(const Call &call, const configtool::Source &source)
         return;
     const std::optional<QByteArray> content = configtool::contentOf(call, source);
     if (content && hasError(configtool::readOutline(*content, source.format).faults))
-        printError(call.command + ": "_L1 + inOneLine(source.path)
-                   + ": it has faults, which `zentaro config check` tells\n"_L1);
+        tellTrouble(call, source.path, u"it has faults, which `zentaro config check` tells"_s);
 }
 
 } // namespace
@@ -51,7 +49,7 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
     const QString path = isOwn ? ZTConfiguration::userFile() : fileName;
     missing = isOwn && !QFile::exists(path);
     if (QFile file(path); !missing && !file.open(QIODevice::ReadOnly)) {
-        printError(call.command + ": "_L1 + path + ": "_L1 + file.errorString() + u'\n');
+        tellTrouble(call, path, file.errorString());
         return false;
     }
     // The first use reads the user's own file, whose absence is told by whoever minds it.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/requests/requestfiles.h"
 
-#include "tools/terminal.h"
-
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -12,11 +10,6 @@ namespace tools {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void tell(const Call &call, const QString &name, const QString &trouble)
-{
-    printError(call.command + ": "_L1 + name + ": "_L1 + trouble + u'\n');
-}
 
 QStringList requestsIn(const QString &folder)
 {
@@ -36,7 +29,7 @@ std::optional<QStringList> requestFiles(const Call &call, const QStringList &wor
     for (const QString &word : words) {
         const QFileInfo named(word);
         if (word != StandardInput && !named.exists()) {
-            tell(call, word, u"No such file or directory"_s);
+            tellTrouble(call, word, u"No such file or directory"_s);
             return std::nullopt;
         }
         if (word == StandardInput || !named.isDir()) {
@@ -45,7 +38,7 @@ std::optional<QStringList> requestFiles(const Call &call, const QStringList &wor
         }
         const QStringList inFolder = requestsIn(word);
         if (inFolder.isEmpty()) {
-            tell(call, word, u"holds no file whose name ends in .xml"_s);
+            tellTrouble(call, word, u"holds no file whose name ends in .xml"_s);
             return std::nullopt;
         }
         files.append(inFolder);
@@ -60,7 +53,7 @@ std::unique_ptr<QIODevice> openedRequest(const Call &call, const QString &name)
                                               : file->open(QIODevice::ReadOnly);
     if (opened)
         return file;
-    tell(call, name, file->errorString());
+    tellTrouble(call, name, file->errorString());
     return nullptr;
 }
 
