@@ -19,7 +19,7 @@ struct GroupedKey
     KnownKey key;
 };
 
-// The groups that are no document's.
+// The groups that are no document's, one after the other.
 constexpr std::array<GroupedKey, 11> plainKeys = {{
     {"language"_L1, {"basedir"_L1, KeyKind::Text}},
     {"language"_L1, {"file"_L1, KeyKind::Text}},
@@ -34,18 +34,20 @@ constexpr std::array<GroupedKey, 11> plainKeys = {{
     {"bin"_L1, {"path"_L1, KeyKind::Text}},
 }};
 
-// What a document's group holds beside the fields of its settings; an empty group means every one.
-constexpr std::array<GroupedKey, 10> documentKeys = {{
-    {"fiscaldoc"_L1, {"descriptionWidth"_L1, KeyKind::Number}},
-    {""_L1, {"topMargin"_L1, KeyKind::Number}},
-    {""_L1, {"style"_L1, KeyKind::Text}},
-    {"doc"_L1, {"copyNumber"_L1, KeyKind::Number}},
-    {"prefiscaldoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
-    {"fiscaldoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
-    {"receiptdoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
-    {"invoicedoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
-    {"deliverydoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
-    {"reportdoc"_L1, {"copyNumber"_L1, KeyKind::Number}},
+/// A key that documents' groups hold beside the fields of their settings: every one, unless one is
+/// the only one or the only one without it.
+struct DocumentKey
+{
+    KnownKey key;
+    QLatin1StringView only{};
+    QLatin1StringView without{};
+};
+
+constexpr std::array<DocumentKey, 4> documentKeys = {{
+    {.key = {"descriptionWidth"_L1, KeyKind::Number}, .only = "fiscaldoc"_L1},
+    {.key = {"topMargin"_L1, KeyKind::Number}},
+    {.key = {"style"_L1, KeyKind::Text}},
+    {.key = {"copyNumber"_L1, KeyKind::Number}, .without = "solddoc"_L1},
 }};
 
 /// A group and what it holds; built once, when the first key is asked about.
@@ -57,21 +59,16 @@ struct KnownGroup
     std::vector<QString> words; // of the keys
 };
 
-void addKeys(KnownGroup &group, std::span<const GroupedKey> rows)
-{
-    for (const GroupedKey &row : rows) {
-        if (row.group.isEmpty() || row.group == group.name)
-            group.keys.push_back(row.key);
-    }
-}
-
 KnownGroup documentGroup(const DocumentType &type)
 {
     // The key prefix without the product's group and the last point.
     KnownGroup group{QString(type.keyPrefix).section(u'.', 1, 1), true, {}, {}};
     for (const SettingKey<int> &number : numberSettings())
         group.keys.push_back({number.keyWord, KeyKind::Number});
-    addKeys(group, documentKeys);
+    for (const auto &[key, only, without] : documentKeys) {
+        if (group.name != without && (only.isEmpty() || group.name == only))
+            group.keys.push_back(key);
+    }
     for (const SettingKey<bool> &aSwitch : switchSettings())
         group.keys.push_back({aSwitch.keyWord, KeyKind::Switch});
     return group;
@@ -81,10 +78,9 @@ std::vector<KnownGroup> buildGroups()
 {
     std::vector<KnownGroup> groups;
     for (const GroupedKey &row : plainKeys) {
-        if (!groups.empty() && groups.back().name == row.group)
-            continue;
-        groups.push_back({row.group, false, {}, {}});
-        addKeys(groups.back(), plainKeys);
+        if (groups.empty() || groups.back().name != row.group)
+            groups.push_back({row.group, false, {}, {}});
+        groups.back().keys.push_back(row.key);
     }
     for (const DocumentType &type : documentTypes())
         groups.push_back(documentGroup(type));
