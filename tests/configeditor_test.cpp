@@ -16,8 +16,6 @@ using configtool::ConfigEditor;
 
 namespace {
 
-const auto *const environment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
-
 /// An editor on a file, whose questions are answered here.
 class Editor : public testing::Test
 {

@@ -15,8 +15,6 @@ using libconfig::Config;
 
 namespace {
 
-const auto *const environment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
-
 class ConfigViews : public testing::Test
 {
 protected:

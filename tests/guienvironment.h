@@ -7,8 +7,7 @@
 
 #include <memory>
 
-/// An application without a display for as long as the tests of a program run; the program adds it
-/// with testing::AddGlobalTestEnvironment.
+/// An application without a display for as long as the tests of a program run that includes this.
 class GuiEnvironment : public testing::Environment
 {
 public:
@@ -25,3 +24,5 @@ private:
     char *argv[2] = {name, nullptr};
     std::unique_ptr<QApplication> application;
 };
+
+inline const auto *const guiEnvironment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
