@@ -83,8 +83,7 @@ TEST(Picture, IsItsReferenceCellByCell)
         ASSERT_EQ(outcome.exitStatus, golden.exitStatus);
         EXPECT_EQ(outcome.errors, "");
         const QString reference = sourceDir() + u"/tests/golden/preview/"_s + golden.name;
-        if (qEnvironmentVariableIsSet("ZENTARO_UPDATE_GOLDEN"))
-            support::writeFile(reference, support::readFile(drawn));
+        support::updateReference(reference, support::readFile(drawn));
         const QImage expected(reference);
         const QImage image(drawn);
         ASSERT_FALSE(expected.isNull());

@@ -21,8 +21,10 @@ QByteArray readFile(const QString &path);
 void writeFile(const QString &path, const QByteArray &content);
 /// A log without the time stamps, which every line should have.
 QByteArray withoutTimeStamps(const QByteArray &log);
-/// Fails the test with a diff when what was found is not what the reference file holds. With
-/// ZENTARO_UPDATE_GOLDEN set it becomes the reference instead, for review.
+/// With ZENTARO_UPDATE_GOLDEN set, makes what was found the reference, for review.
+void updateReference(const QString &reference, const QByteArray &found);
+/// Fails the test with a diff when what was found is not what the reference file holds, which may
+/// be updated before.
 void expectReference(const QString &reference, const QByteArray &found);
 
 /// A folder that is gone with the object.
