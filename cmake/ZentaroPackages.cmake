@@ -7,6 +7,8 @@ install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools"
         RENAME copyright COMPONENT tools)
 install(FILES CHANGELOG.md SECURITY.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print" COMPONENT print)
+install(FILES CHANGELOG.md
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools" COMPONENT tools)
 # The pages point at each other as they do in the source tree.
 install(FILES doc/configuration.md doc/faults.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print/doc" COMPONENT print)
@@ -14,10 +16,12 @@ install(DIRECTORY samples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-prin
         COMPONENT print)
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_CONTACT "The developers of zentaro")
+set(CPACK_PACKAGE_CONTACT "The zentaro maintainers")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package's own is the first line of its description
 set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/packages")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/CompressForDebian.cmake")
 set(CPACK_COMPONENTS_ALL print tools)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -26,13 +30,15 @@ set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 
 set(CPACK_DEBIAN_PRINT_PACKAGE_NAME zentaro-print)
 set(CPACK_COMPONENT_PRINT_DESCRIPTION
-    "Turns the XML print requests of a restaurant or shop till (tickets, receipts,
+    "print-document compiler of a point-of-sale suite
+Turns the XML print requests of a restaurant or shop till (tickets, receipts,
 invoices, fiscal receipts, reports) into the command text of a receipt printer.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME zentaro-tools)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
-    "The companion tools: they check and preview print requests, and read, check,
-convert and edit the configuration of the suite.")
+    "checks, previews and configures the printed documents of a point-of-sale suite
+The companion tools of zentaro-print: they check and preview print requests,
+and read, check, convert and edit the configuration of the suite.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "zentaro-print (= ${PROJECT_VERSION})")
 # The pictures of a preview are drawn with it.
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS fonts-dejavu-core)
