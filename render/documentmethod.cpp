@@ -13,7 +13,7 @@ namespace {
 using D = PrinterDriver;
 using enum DuplicateFlag;
 
-constexpr std::array<DocumentMethod, 13> methods = {{
+constexpr auto methods = std::to_array<DocumentMethod>({
     {"printPartialOrder"_L1, "order"_L1, Unchanged, &D::printPartialOrder},
     {"printFullOrder"_L1, "prefiscal"_L1, Unchanged, &D::printFullOrder},
     {"printFullOrderReceipt"_L1, "receipt"_L1, Unchanged, &D::printFullOrderReceipt},
@@ -28,7 +28,7 @@ constexpr std::array<DocumentMethod, 13> methods = {{
     {"printSold"_L1, "sold"_L1, Unchanged, &D::printSold},
     // A statement of account has no settings of its own: it shares the report's.
     {"printStatementOfAccount"_L1, "report"_L1, Unchanged, &D::printStatementOfAccount},
-}};
+});
 
 } // namespace
 

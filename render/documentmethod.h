@@ -21,7 +21,7 @@ struct DocumentMethod
     void (PrinterDriver::*print)(const QString &, const QXmlAttributes &);
 };
 
-/// The thirteen methods, in the order of the driver's operations.
+/// All methods, in the order of the driver's operations.
 std::span<const DocumentMethod> documentMethods();
 
 /// The method of exactly this name, or null.

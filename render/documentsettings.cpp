@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<DocumentType, 8> types = {{
+constexpr auto types = std::to_array<DocumentType>({
     {"order"_L1, "zentaro.doc."_L1},
     {"prefiscal"_L1, "zentaro.prefiscaldoc."_L1},
     {"fiscal"_L1, "zentaro.fiscaldoc."_L1},
@@ -16,7 +16,7 @@ constexpr std::array<DocumentType, 8> types = {{
     {"delivery"_L1, "zentaro.deliverydoc."_L1},
     {"report"_L1, "zentaro.reportdoc."_L1},
     {"sold"_L1, "zentaro.solddoc."_L1},
-}};
+});
 
 using S = DocumentSettings;
 

@@ -95,7 +95,7 @@ public:
     virtual void printColumnsHeader(const QString &a1, const QString &a2, const QString &a3,
                                     const QString &a4);
 
-    // The thirteen document methods: each prints what one element contributes.
+    // The document methods: each prints what one element contributes.
 
     virtual void printPartialOrder(const QString &qName, const QXmlAttributes &atts);
     virtual void printFullOrder(const QString &qName, const QXmlAttributes &atts);

@@ -79,7 +79,7 @@ TEST(Preview, DrawsWhatThePrintRunPrints)
     const Home empty;
     const QDir samples(sourceDir() + u"/samples"_s);
     const QStringList names = samples.entryList({u"*.xml"_s});
-    ASSERT_EQ(names.size(), 13);
+    ASSERT_GE(names.size(), 13);
     for (const QString &name : names) {
         const QString request = samples.filePath(name);
         const QString printFile = home.path(u"print.out"_s);

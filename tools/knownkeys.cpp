@@ -20,7 +20,7 @@ struct GroupedKey
 };
 
 // The groups that are no document's, one after the other.
-constexpr std::array<GroupedKey, 11> plainKeys = {{
+constexpr auto plainKeys = std::to_array<GroupedKey>({
     {"language"_L1, {"basedir"_L1, KeyKind::Text}},
     {"language"_L1, {"file"_L1, KeyKind::Text}},
     {"logger"_L1, {"level"_L1, KeyKind::LogLevel}},
@@ -32,7 +32,7 @@ constexpr std::array<GroupedKey, 11> plainKeys = {{
     {"db"_L1, {"password"_L1, KeyKind::Text}},
     {"db"_L1, {"hostname"_L1, KeyKind::Text}},
     {"bin"_L1, {"path"_L1, KeyKind::Text}},
-}};
+});
 
 /// A key that documents' groups hold beside the fields of their settings: every one, unless one is
 /// the only one or the only one without it.
@@ -43,12 +43,12 @@ struct DocumentKey
     QLatin1StringView without{};
 };
 
-constexpr std::array<DocumentKey, 4> documentKeys = {{
+constexpr auto documentKeys = std::to_array<DocumentKey>({
     {.key = {"descriptionWidth"_L1, KeyKind::Number}, .only = "fiscaldoc"_L1},
     {.key = {"topMargin"_L1, KeyKind::Number}},
     {.key = {"style"_L1, KeyKind::Text}},
     {.key = {"copyNumber"_L1, KeyKind::Number}, .without = "solddoc"_L1},
-}};
+});
 
 /// A group and what it holds; built once, when the first key is asked about.
 struct KnownGroup
