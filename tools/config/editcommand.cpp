@@ -38,6 +38,7 @@ int edit(const tools::Call &call)
         return tools::Trouble;
     qInstallMessageHandler(endWhenFatal);
     const QApplication application(call.argc, call.argv);
+    QGuiApplication::setDesktopFileName(u"zentaro-config-edit"_s);
     ConfigEditor editor;
     if (!editor.open(*source))
         return tools::Trouble;
