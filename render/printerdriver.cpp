@@ -147,6 +147,8 @@ void PrinterDriver::loadValues(const QString &type)
     settings.style = setting("style"_L1);
     for (const SettingKey<bool> &aSwitch : switchSettings())
         settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
+    topMargin.reset();
+    descriptionWidth.reset();
 }
 
 /// The setting of the current document type; empty when the configuration has none.
@@ -159,4 +161,13 @@ QString PrinterDriver::setting(QLatin1StringView keyWord) const
 int PrinterDriver::numberSetting(QLatin1StringView keyWord) const
 {
     return setting(keyWord).toInt();
+}
+
+/// The setting, of which `known` keeps the value: few documents ask for it, but those may do so for
+/// every item, and a lookup takes longer the larger the configuration is.
+int PrinterDriver::numberOnce(std::optional<int> &known, QLatin1StringView keyWord) const
+{
+    if (!known)
+        known = numberSetting(keyWord);
+    return *known;
 }

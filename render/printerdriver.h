@@ -155,6 +155,7 @@ private:
     bool startMethod(const QString &name);
     QString setting(QLatin1StringView keyWord) const;
     int numberSetting(QLatin1StringView keyWord) const;
+    int numberOnce(std::optional<int> &known, QLatin1StringView keyWord) const;
     void printLabelLine(const QString &label, const QString &value);
     void printTitledRow(const QString &title, const QString &amount);
     void printAddress(const QString &address);
@@ -174,4 +175,6 @@ private:
 
     const DocumentMethod *method = nullptr; ///< the chosen one, by whose name currentMethod goes
     std::optional<ColumnTitles> translatedTitles; ///< once they were needed
+    std::optional<int> topMargin;                 ///< empty lines; once it was asked for
+    std::optional<int> descriptionWidth;          ///< characters; likewise
 };

@@ -98,7 +98,7 @@ void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttri
 void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &atts)
 {
     if (qName == element::receipe) {
-        const int setWidth = numberSetting("descriptionWidth"_L1);
+        const int setWidth = numberOnce(descriptionWidth, "descriptionWidth"_L1);
         const qint64 width = setWidth == 0 ? qint64(getPaperWidth()) : setWidth;
         const QString name = valueOf(atts, "name"_L1);
         printRowFiscal(valueOf(atts, "department"_L1), valueOf(atts, "number"_L1),
