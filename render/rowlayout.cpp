@@ -7,20 +7,14 @@ using namespace Qt::StringLiterals;
 
 namespace rowlayout {
 
-void pad(QString &line, qint64 count, QChar fill)
-{
-    if (count > 0)
-        line.resize(line.size() + qMin(count, MaxPaddedWidth), fill);
-}
-
 QString rightJustified(QStringView text, qint64 width, QChar fill)
 {
-    return Line(width).right(text, width, fill).take();
+    return Line().right(text, width, fill).toString();
 }
 
 QString leftJustified(QStringView text, qint64 width, QChar fill)
 {
-    return Line(width).left(text, width, fill).take();
+    return Line().left(text, width, fill).toString();
 }
 
 QStringView cut(QStringView text, qint64 width)
@@ -32,14 +26,9 @@ QStringView cut(QStringView text, qint64 width)
     return text.first(halvesPair ? width - 1 : width);
 }
 
-Line::Line(qint64 expectedWidth)
-{
-    line.reserve(qBound(qint64(0), expectedWidth, MaxPaddedWidth));
-}
-
 Line &Line::text(QStringView text)
 {
-    line.append(text);
+    line.append(text.data(), text.size());
     return *this;
 }
 
@@ -51,7 +40,7 @@ Line &Line::right(QStringView text, qint64 width, QChar fill)
 
 Line &Line::left(QStringView text, qint64 width, QChar fill)
 {
-    line.append(text);
+    this->text(text);
     pad(line, qMin(width, MaxPaddedWidth) - text.size(), fill);
     return *this;
 }
@@ -76,7 +65,7 @@ QString PrinterDriver::descriptionRow(const QString &a1, const QString &a2, cons
     // The price column is padded with the fill, the total column with blanks (but for the double
     // line): the dots lead from the description to the price. "qd" and "date-amount-type" end short
     // of the paper.
-    rowlayout::Line row(W);
+    rowlayout::Line row;
     if (layout == "qdpt"_L1)
         row.right(a1, Q, blank)
             .text(u" ")
@@ -97,7 +86,7 @@ QString PrinterDriver::descriptionRow(const QString &a1, const QString &a2, cons
         row.right(a1, Q, blank).text(u" ").exact(a2, W - Q - 3, blank);
     else if (layout == "date-amount-type"_L1)
         row.left(a1, Date, blank).exact(a2, W - Date - P - 3, fill).right(a3, P, fill);
-    return row.take();
+    return row.toString();
 }
 
 void PrinterDriver::printColumnsHeader(const QString &a1, const QString &a2, const QString &a3,
