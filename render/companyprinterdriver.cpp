@@ -101,8 +101,7 @@ void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
     if (justify == center && room > 1)
         line.insert(1, QString(room / 2, u' '));
     write(line);
-    line.truncate(0); // its memory serves the next line
-    line += u'"';
+    line = u'"'; // its memory serves the next line
 }
 
 void CompanyPrinterDriver::println(const QString &text)
