@@ -10,9 +10,7 @@
 using namespace Qt::StringLiterals;
 
 namespace inputs {
-namespace {
 
-/// The file, open for writing; without it there is nothing to measure.
 void openFor(QFile &file, QIODevice::OpenMode mode)
 {
     if (file.open(mode))
@@ -20,8 +18,6 @@ void openFor(QFile &file, QIODevice::OpenMode mode)
     std::fprintf(stderr, "bench: cannot open %s\n", qPrintable(file.fileName()));
     std::exit(2);
 }
-
-} // namespace
 
 void writeReceipt(const QString &path, int items)
 {

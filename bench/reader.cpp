@@ -9,7 +9,7 @@
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    QFile request(QFile::decodeName(argv[argc - 1]));
+    QFile request(QFile::decodeName(argv[1]));
     QXmlDefaultHandler handler;
     QXmlSimpleReader reader;
     reader.setContentHandler(&handler);
