@@ -14,6 +14,8 @@
 #include <QTranslator>
 
 #include <csignal>
+#include <cstdlib>
+#include <exception>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +23,13 @@ namespace {
 
 /// The toolkit warns on standard error, where the till expects nothing.
 void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+/// Where memory runs out nothing more can be printed, but the loss must not be silent.
+[[noreturn]] void endWithoutMemory()
+{
+    text::printLine("The document was not written completely: Cannot allocate memory");
+    std::_Exit(0);
+}
 
 void printRequest(const QString &requestName, const QString &printName)
 {
@@ -35,6 +44,7 @@ void shieldFromEnvironment()
     text::reserveStandardStreams();
     std::signal(SIGPIPE, SIG_IGN); // whoever reads the diagnostics or a piped print file is gone
     std::signal(SIGXFSZ, SIG_IGN); // the print file grows past a limit
+    std::set_terminate(endWithoutMemory); // no other exception is thrown here
     qunsetenv("QT_FATAL_WARNINGS");
     qunsetenv("QT_FATAL_CRITICALS");
     qInstallMessageHandler(dropMessage);

@@ -9,16 +9,18 @@ namespace {
 
 constexpr QStringView center = u"center";
 constexpr QStringView replacedWord = u"TOTALE";
+constexpr QStringView replacement = u"SOMMA";
 
-/// Most lines do not even hold the word's first letter, which the toolkit looks for much faster.
-bool holdsReplacedWord(QStringView text)
+/// Where the word stands next from `at` on, or -1. Most lines do not even hold its first letter,
+/// which the toolkit looks for much faster.
+qsizetype nextReplacedWord(QStringView text, qsizetype at)
 {
     const QChar letter = replacedWord.front();
-    for (qsizetype at = text.indexOf(letter); at >= 0; at = text.indexOf(letter, at + 1)) {
+    for (at = text.indexOf(letter, at); at >= 0; at = text.indexOf(letter, at + 1)) {
         if (text.sliced(at).startsWith(replacedWord))
-            return true;
+            break;
     }
-    return false;
+    return at;
 }
 
 } // namespace
@@ -86,10 +88,13 @@ void CompanyPrinterDriver::endSection()
 void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {
     rowlayout::pad(line, indent, u' ');
-    if (holdsReplacedWord(text))
-        line += QString(text).replace(replacedWord.toString(), u"SOMMA"_s);
-    else
-        line += text;
+    qsizetype from = 0; // the toolkit's own replacing takes minutes where the word is all there is
+    for (qsizetype at = nextReplacedWord(text, from); at >= 0; at = nextReplacedWord(text, from)) {
+        line += QStringView(text).sliced(from, at - from);
+        line += replacement;
+        from = at + replacedWord.size();
+    }
+    line += QStringView(text).sliced(from);
 }
 
 void CompanyPrinterDriver::println(unsigned int indent, const QString &text)

@@ -14,25 +14,47 @@ namespace {
 
 constexpr mode_t NewFileMode = 0666;
 
-QString openable(const QByteArray &bytes, int flags)
+bool isWithinReach(const QByteArray &bytes)
+{
+    return QFile::encodeName(QFile::decodeName(bytes)) == bytes;
+}
+
+QString nameWithinReach(const QByteArray &bytes)
 {
     const QString name = QFile::decodeName(bytes);
-    if (QFile::encodeName(name) == bytes)
-        return name.startsWith(u':') ? "./"_L1 + name : name;
-    const int descriptor = open(bytes.constData(), flags | O_CLOEXEC, NewFileMode);
-    return descriptor < 0 ? name : "/dev/fd/"_L1 + QString::number(descriptor);
+    return name.startsWith(u':') ? "./"_L1 + name : name;
+}
+
+/// A descriptor of the place alone, or -1: the file is opened once, by whoever asked for its name.
+/// A pipe opened twice would wait for a second writer.
+int placeOf(const QByteArray &bytes)
+{
+    return open(bytes.constData(), O_PATH | O_CLOEXEC);
+}
+
+QString nameOfDescriptor(int descriptor)
+{
+    return "/dev/fd/"_L1 + QString::number(descriptor);
 }
 
 } // namespace
 
 QString nameOfFile(const QByteArray &bytes)
 {
-    return openable(bytes, O_RDONLY);
+    if (isWithinReach(bytes))
+        return nameWithinReach(bytes);
+    const int descriptor = placeOf(bytes);
+    return descriptor < 0 ? QFile::decodeName(bytes) : nameOfDescriptor(descriptor);
 }
 
 QString nameOfNewFile(const QByteArray &bytes)
 {
-    return openable(bytes, O_WRONLY | O_CREAT);
+    if (isWithinReach(bytes))
+        return nameWithinReach(bytes);
+    int descriptor = placeOf(bytes);
+    if (descriptor < 0)
+        descriptor = open(bytes.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, NewFileMode);
+    return descriptor < 0 ? QString() : nameOfDescriptor(descriptor);
 }
 
 QString nameInFolder(const QByteArray &bytes)

@@ -6,13 +6,14 @@
 
 /// File names as the system has them, bytes, in a form that the toolkit opens: it takes every name
 /// for UTF-8, and one that begins with ":" for a resource of its own. A name that is not UTF-8 is
-/// opened here and stands as the path of its descriptor, which stays open until the process ends.
+/// looked up here and stands as the path of a descriptor, which stays open until the process ends.
 namespace text {
 
 /// The name of a file or folder that is there; of one that is not, a name that is not there either.
 QString nameOfFile(const QByteArray &bytes);
 
-/// The name of a file to be written, which is created where it would otherwise be out of reach.
+/// The name of a file to be written, which is created where it would otherwise be out of reach; no
+/// name, which cannot be opened, where that fails.
 QString nameOfNewFile(const QByteArray &bytes);
 
 /// A name whose last part the toolkit will add to or shorten: only the folder may be any bytes.

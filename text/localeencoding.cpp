@@ -32,28 +32,6 @@ QTextCodec *codecOfEnvironment()
     return codec && codec->mibEnum() != Utf8Mib ? codec : nullptr;
 }
 
-/// The text with a `?` for each character that `codec` lacks. The toolkit's codecs write one for
-/// each half of a surrogate pair, and drop invisible characters without a trace.
-QString withoutUnknown(QStringView text, const QTextCodec *codec)
-{
-    QString result;
-    result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool pair =
-            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-        const QStringView character = text.sliced(i, pair ? 2 : 1);
-        i += pair ? 1 : 0;
-        const bool ascii = character.front().unicode() < 0x80;
-        const bool known =
-            ascii || (codec->canEncode(character) && !codec->fromUnicode(character).isEmpty());
-        if (known)
-            result += character;
-        else
-            result += u'?';
-    }
-    return result;
-}
-
 } // namespace
 
 QTextCodec *localeCodec()
@@ -69,11 +47,55 @@ QByteArray toLocale(QStringView text)
 
 QByteArray encoded(QStringView text, QTextCodec *codec)
 {
+    return Encoder(codec).encode(text);
+}
+
+Encoder::Encoder(QTextCodec *codec)
+    : codec(codec)
+{
+}
+
+QByteArray Encoder::encode(QStringView text)
+{
     if (!codec)
         return text.toUtf8();
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString known = withoutUnknown(text, codec);
-    return codec->fromUnicode(known.constData(), int(known.size()), &state);
+    const QString encodable = withoutUnknown(text);
+    return codec->fromUnicode(encodable.constData(), int(encodable.size()), &state);
+}
+
+/// The text with a `?` for each character that the codec lacks. The toolkit's codecs write one for
+/// each half of a surrogate pair, and drop invisible characters without a trace.
+QString Encoder::withoutUnknown(QStringView text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool pair =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const QStringView character = text.sliced(i, pair ? 2 : 1);
+        i += pair ? 1 : 0;
+        if (isKnown(character))
+            result += character;
+        else
+            result += u'?';
+    }
+    return result;
+}
+
+bool Encoder::isKnown(QStringView character)
+{
+    const QChar first = character.front();
+    if (first.unicode() < 0x80)
+        return true;
+    const char32_t code = character.size() == 1 ? char32_t(first.unicode())
+                                                : QChar::surrogateToUcs4(first, character.back());
+    const auto seen = known.constFind(code);
+    if (seen != known.cend())
+        return *seen;
+    const bool has = codec->canEncode(character) && !codec->fromUnicode(character).isEmpty();
+    known.insert(code, has);
+    return has;
 }
 
 } // namespace text

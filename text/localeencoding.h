@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QStringView>
 
 class QTextCodec;
@@ -20,5 +21,21 @@ QByteArray toLocale(QStringView text);
 
 /// As toLocale(text), with `codec` in place of the locale's; null means UTF-8.
 QByteArray encoded(QStringView text, QTextCodec *codec);
+
+/// The same for one text after the other: remembers which characters the codec has, which takes it
+/// a microsecond to tell of each.
+class Encoder
+{
+public:
+    explicit Encoder(QTextCodec *codec);
+    QByteArray encode(QStringView text);
+
+private:
+    QString withoutUnknown(QStringView text);
+    bool isKnown(QStringView character);
+
+    QTextCodec *const codec;
+    QHash<char32_t, bool> known;
+};
 
 } // namespace text

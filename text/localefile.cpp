@@ -1,26 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "text/localefile.h"
 
-#include "text/localeencoding.h"
-
 #include <cerrno>
 
 namespace text {
 
 LocaleFile::LocaleFile(const QString &name)
     : QFile(name)
-    , codec(localeCodec())
+    , isUtf8(localeCodec() == nullptr)
     , decoder(QStringDecoder::Utf8,
               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom)
+    , encoder(localeCodec())
 {
 }
 
 qint64 LocaleFile::writeData(const char *data, qint64 length)
 {
-    if (!codec)
+    if (isUtf8)
         return writeWhole({data, length}) ? length : -1;
     const QString text = decoder(QByteArrayView(data, length));
-    return writeWhole(encoded(text, codec)) ? length : -1;
+    return writeWhole(encoder.encode(text)) ? length : -1;
 }
 
 /// A disk that fills up takes a part; only the write after it tells the reason.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "text/localeencoding.h"
+
 #include <QFile>
 #include <QStringDecoder>
 
 #include <limits>
-
-class QTextCodec;
 
 namespace text {
 
@@ -27,8 +27,9 @@ private:
     bool writeWhole(QByteArrayView bytes);
 
     qint64 room = std::numeric_limits<qint64>::max(); // bytes that may still be written
-    QTextCodec *const codec; // null: the locale is UTF-8, bytes pass as they are
+    const bool isUtf8;                                // of the locale: bytes pass as they are
     QStringDecoder decoder;
+    Encoder encoder;
 };
 
 } // namespace text
