@@ -33,7 +33,13 @@ struct GetArea : std::streambuf
         return {begin, size_t((buffer.*&GetArea::egptr)() - begin)};
     }
 
-    static void skip(std::streambuf &buffer, int bytes) { (buffer.*&GetArea::gbump)(bytes); }
+    /// One byte at least. The last goes by way of the buffer itself: one that holds nothing ready,
+    /// as the standard input's, knows of it in no other way.
+    static void skip(std::streambuf &buffer, int bytes)
+    {
+        (buffer.*&GetArea::gbump)(bytes - 1);
+        buffer.sbumpc();
+    }
 };
 
 QString fromLatin1(std::string_view text)
@@ -56,7 +62,10 @@ int CfgScanner::readUntil(IsEnd isEnd, std::string *text)
 {
     std::streambuf &buffer = *input.rdbuf();
     while (offset < MaxBytes && buffer.sgetc() != EndOfInput) {
-        const std::string_view held = GetArea::of(buffer).substr(0, size_t(MaxBytes - offset));
+        const char first = std::istream::traits_type::to_char_type(buffer.sgetc());
+        std::string_view held = GetArea::of(buffer).substr(0, size_t(MaxBytes - offset));
+        if (held.empty())
+            held = {&first, 1};
         const auto found = std::find_if(held.begin(), held.end(), isEnd);
         const auto length = int(found - held.begin());
         if (text)
