@@ -56,7 +56,8 @@ void Config::deleteDocument()
     const auto loosen = [&loose](QDomNode &parent, const QDomNode &child) {
         loose.push_back(parent.removeChild(child));
     };
-    if (const QDomElement top = document->firstChildElement(); !top.isNull())
+    for (QDomNode top = document->firstChildElement(); !top.isNull();
+         top = document->firstChildElement()) // a file that was loaded again has a second
         loosen(*document, top);
     while (!loose.empty()) {
         QDomNode node = loose.back();

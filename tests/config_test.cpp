@@ -2,6 +2,7 @@
 #include "config/config.h"
 
 #include "app/ztconfiguration.h"
+#include "config/cfgscanner.h"
 #include "tests/support.h"
 
 #include <gtest/gtest.h>
@@ -73,8 +74,33 @@ TEST(Config, KeepsTextOfAnyLengthAndGroupsOfAnyDepth)
     EXPECT_EQ(lengthy.lookup(u"z."_s + QString::fromLatin1(name)), QString::fromLatin1(value));
 
     constexpr int depth = 200'000;
-    const Loaded nested(QByteArray("z:{").repeated(depth) + "k=1;");
+    Loaded nested(QByteArray("z:{").repeated(depth) + "k=1;");
     EXPECT_EQ(nested.lookup(u"z."_s.repeated(depth) + u'k'), u"1"_s);
+    nested.loadFile(); // beside what is there
+    EXPECT_EQ(nested.lookup(u"z."_s.repeated(depth) + u'k'), u"1"_s);
+}
+
+TEST(CfgScanner, ReadsAStreamThatHoldsNothingReady)
+{
+    struct : std::streambuf
+    {
+        int underflow() override { return left.empty() ? traits_type::eof() : left.front(); }
+        int uflow() override
+        {
+            const int next = underflow();
+            left.remove_prefix(left.empty() ? 0 : 1);
+            return next;
+        }
+        std::string_view left = "z:{k=1;};";
+    } unbuffered;
+    std::istream stream(&unbuffered);
+    libconfig::CfgScanner scanner(stream);
+    using Statement = libconfig::CfgScanner::Statement;
+    EXPECT_EQ(scanner.next(), Statement::GroupBegin);
+    EXPECT_EQ(scanner.next(), Statement::Setting);
+    EXPECT_EQ(scanner.value(), u"1"_s);
+    EXPECT_EQ(scanner.next(), Statement::GroupEnd);
+    EXPECT_EQ(scanner.next(), Statement::EndOfFile);
 }
 
 TEST(Config, ReadsXmlUpToALimit)
