@@ -29,6 +29,7 @@ QString Config::configTreeText() const
 
 QString Config::configTreeText(QDomNode node) const
 {
+    grownTree(); // no other thread changes `attributeOrder` from now on
     QString text;
     walkElements(
         node,
