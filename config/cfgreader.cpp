@@ -48,49 +48,50 @@ bool Config::jump(char c)
 
 void Config::loadFile()
 {
-    if (!tree())
+    if (!document)
         newDocument();
     openFile();
     content = std::make_unique<CfgContent>();
     isGrown = false;
     if (!content->read(stream))
         closeFile();
-    if (!document->firstChildElement().isNull())
+    if (!treeSoFar->firstChildElement().isNull())
         tree(); // lookups are answered from the file that was read first
 }
 
 void Config::loadFile(QString const &name, QDomNode parent)
 {
-    if (!tree())
+    if (!document)
         newDocument();
     CfgContent body;
     body.read(stream);
     appendGroup(body, name, parent);
 }
 
+/// The tree, for whoever may change it: lookups are answered from it from now on.
 QDomDocument *Config::tree()
 {
     grownTree();
-    content.reset(); // from now on the tree may differ
-    return document;
+    content.reset();
+    return treeSoFar.get();
 }
 
 const QDomDocument *Config::grownTree() const
 {
     const QMutexLocker lock(&growing);
     if (content && !isGrown)
-        appendGroup(*content, fileName, *document);
+        appendGroup(*content, fileName, *treeSoFar);
     isGrown = true;
-    return document;
+    return treeSoFar.get();
 }
 
 /// Adds a group element to `parent`, if the group has a member. Elements join the tree when they
 /// are complete: the toolkit walks up to the root of the tree for every node that joins it.
 void Config::appendGroup(const CfgContent &body, const QString &name, QDomNode &parent) const
 {
-    std::vector<QDomElement> open{newElement(*document, name)};
+    std::vector<QDomElement> open{newElement(*treeSoFar, name)};
     body.visit(
-        [&](const QString &group) { open.push_back(newElement(*document, group)); },
+        [&](const QString &group) { open.push_back(newElement(*treeSoFar, group)); },
         [&](const QString &key, const QString &value) { addSetting(open.back(), key, value); },
         [&] {
             const QDomElement complete = open.back();

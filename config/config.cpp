@@ -41,7 +41,7 @@ void Config::constructor(QString const &name, QString const &type)
 void Config::newDocument()
 {
     deleteDocument();
-    document = new QDomDocument;
+    treeSoFar = std::make_unique<QDomDocument>();
 }
 
 /// Takes the tree apart from the top: the toolkit deletes nested nodes by recursion, and a file may
@@ -50,30 +50,29 @@ void Config::deleteDocument()
 {
     content.reset();
     attributeOrder.clear();
-    if (!document)
+    if (!treeSoFar)
         return;
     std::vector<QDomNode> loose;
     const auto loosen = [&loose](QDomNode &parent, const QDomNode &child) {
         loose.push_back(parent.removeChild(child));
     };
-    for (QDomNode top = document->firstChildElement(); !top.isNull();
-         top = document->firstChildElement()) // a file that was loaded again has a second
-        loosen(*document, top);
+    for (QDomNode top = treeSoFar->firstChildElement(); !top.isNull();
+         top = treeSoFar->firstChildElement()) // a file that was loaded again has a second
+        loosen(*treeSoFar, top);
     while (!loose.empty()) {
         QDomNode node = loose.back();
         loose.pop_back();
         for (QDomNode child = node.firstChild(); !child.isNull(); child = node.firstChild())
             loosen(node, child);
     }
-    delete document;
-    document = nullptr;
+    treeSoFar.reset();
 }
 
 QString Config::lookup(QString const &key) const
 {
     if (content)
         return content->lookup(KeyPath(key));
-    return lookup(document ? document->firstChildElement().firstChild() : QDomNode(), key);
+    return lookup(treeSoFar ? treeSoFar->firstChildElement().firstChild() : QDomNode(), key);
 }
 
 QString Config::lookup(QDomNode node, QString const &key) const

@@ -124,18 +124,30 @@ public:
     void loadListView(QTreeWidgetItem *item, QDomNode parent);
 
 protected:
-    QString fileName;                 ///< as given
-    QString fileType;                 ///< the format word as given
-    std::ifstream stream;             ///< the bytes of a "cfg" file
-    QDomDocument *document = nullptr; ///< the tree, owned; null until a file is read; see tree()
+    /// A pointer to the tree, which what a "cfg" file holds joins when the pointer is first used.
+    class Document
+    {
+    public:
+        explicit Document(Config &config)
+            : owner(config)
+        {
+        }
+        operator QDomDocument *() const { return owner.tree(); }
+        QDomDocument *operator->() const { return owner.tree(); }
 
-    /// The tree, for whoever reads or changes it by itself: what a "cfg" file holds joins it when
-    /// somebody first wants it.
-    QDomDocument *tree();
+    private:
+        Config &owner;
+    };
+
+    QString fileName;         ///< as given
+    QString fileType;         ///< the format word as given
+    std::ifstream stream;     ///< the bytes of a "cfg" file
+    Document document{*this}; ///< the tree, owned; null until a file is read
 
 private:
     using TreeWriter = void (Config::*)(QTextStream &);
 
+    QDomDocument *tree();
     const QDomDocument *grownTree() const;
     void appendGroup(const CfgContent &body, const QString &name, QDomNode &parent) const;
     static QDomElement newElement(QDomDocument &document, const QString &name);
@@ -155,9 +167,10 @@ private:
     // Operations that change nothing may be called by several threads at once, and some of them
     // are the first to want the tree.
     mutable QMutex growing;
-    mutable bool isGrown = false;          ///< whether `content` is in the tree
-    mutable AttributeOrder attributeOrder; ///< of `document`
-    std::unique_ptr<CfgContent> content;   ///< what lookups are answered from, where it is set
+    mutable bool isGrown = false;            ///< whether `content` is in the tree
+    mutable AttributeOrder attributeOrder;   ///< of the tree
+    std::unique_ptr<CfgContent> content;     ///< what lookups are answered from, where it is set
+    std::unique_ptr<QDomDocument> treeSoFar; ///< as far as it is grown
 };
 
 } // namespace libconfig

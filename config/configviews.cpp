@@ -108,7 +108,7 @@ QTreeWidget *Config::newConfigListView()
 QTreeWidget *Config::buildConfigListView()
 {
     auto *const view = new ConfigListView;
-    buildConfigListView(tree() ? tree()->firstChildElement() : QDomElement(), view);
+    buildConfigListView(document ? document->firstChildElement() : QDomElement(), view);
     return view;
 }
 

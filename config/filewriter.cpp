@@ -29,7 +29,7 @@ bool Config::replaceFile(QString path, const char *operation, QStringConverter::
     }
     QTextStream ts(&file.device());
     ts.setEncoding(encoding);
-    if (tree())
+    if (document)
         (this->*writeTree)(ts);
     ts.flush();
     if (file.finish(ts.status() == QTextStream::Ok))

@@ -41,7 +41,7 @@ bool nestsTooDeep(const QByteArray &content)
 
 void Config::loadXmlFile()
 {
-    if (!tree())
+    if (!document)
         newDocument();
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))

@@ -13,12 +13,12 @@ using libconfig::Config;
 
 namespace {
 
-/// A Config whose tree has been taken, as the plain lookup walks it.
+/// The document of a Config, as the plain lookup walks it.
 class Opened : public Config
 {
 public:
     using Config::Config;
-    QDomNode top() { return tree()->firstChildElement().firstChild(); }
+    QDomNode top() const { return document->firstChildElement().firstChild(); }
 };
 
 struct Group
@@ -132,7 +132,7 @@ QString plainLookup(const QDomNode &node, const QStringList &fields)
 void expectPlainAnswers(const QString &path, const QString &form)
 {
     const Config config(path, form);
-    Opened opened(path, form);
+    const Opened opened(path, form);
     const QDomNode top = opened.top();
     int asked = 0;
     config.forEachSetting([&](const QString &setting, const QString &) {

@@ -21,15 +21,15 @@ public:
 
     /// What stands below the file element, whose name is the file's.
     QString content() const { return configTreeText().section(u'\n', 2); }
-    bool hasSettingsOutsideGroups() { return tree()->firstChildElement().hasAttributes(); }
-    QDomElement top() { return tree()->firstChildElement().firstChildElement(); }
+    bool hasSettingsOutsideGroups() const { return document->firstChildElement().hasAttributes(); }
+    QDomElement top() const { return document->firstChildElement().firstChildElement(); }
 
     /// Takes away what is never written, the top-level groups after the first, and if asked also
     /// the groups without a member, which the "cfg" form does not give back.
     void prune(bool emptyGroups)
     {
         for (QDomNode other = top().nextSibling(); !other.isNull(); other = top().nextSibling())
-            tree()->firstChildElement().removeChild(other);
+            document->firstChildElement().removeChild(other);
         std::vector<QDomElement> empty;
         libconfig::walkElements(
             top(),
@@ -45,7 +45,7 @@ public:
 };
 
 /// Whether every name and every value of the tree matches.
-bool holds(Tree &tree, const QRegularExpression &name, const QRegularExpression &value)
+bool holds(const Tree &tree, const QRegularExpression &name, const QRegularExpression &value)
 {
     bool all = true;
     libconfig::walkElements(
@@ -64,7 +64,7 @@ bool holds(Tree &tree, const QRegularExpression &name, const QRegularExpression 
 }
 
 /// Whether the "cfg" form holds the names and values: those of a "cfg" file it always does.
-bool isCfgText(Tree &tree)
+bool isCfgText(const Tree &tree)
 {
     static const QRegularExpression name(uR"(\A[!-9<>-|~]*\z)"_s);
     static const QRegularExpression value(uR"(\A[^";\0\x{100}-\x{10FFFF}]*\z)"_s);
@@ -72,7 +72,7 @@ bool isCfgText(Tree &tree)
 }
 
 /// Whether the XML form, which escapes nothing, holds them.
-bool isXmlText(Tree &tree)
+bool isXmlText(const Tree &tree)
 {
     static const QRegularExpression name(uR"(\A[A-Za-z_][-A-Za-z0-9_.]*\z)"_s);
     static const QRegularExpression value(uR"(\A[ !#-%'-;=-~\xA1-\x{D7FF}]*\z)"_s);
