@@ -24,8 +24,8 @@ public:
     /// Whether the body had a setting or a group, also one that is left out.
     bool hasMember() const { return entries.front().hasMember; }
 
-    /// The value of a setting, by the rules of `Config::lookup`: below the first group of the body.
-    /// Empty, non-null text when there is none.
+    /// The value of a setting, by the rules of `Config::lookup`: the key's first field names the
+    /// first group of the body. Empty, non-null text when there is none.
     QString lookup(const KeyPath &path) const;
 
     /// Tells everything in file order: `beginGroup(name)`, `setting(name, value)`, `endGroup()`.

@@ -124,7 +124,8 @@ public:
     void loadListView(QTreeWidgetItem *item, QDomNode parent);
 
 protected:
-    /// A pointer to the tree, which what a "cfg" file holds joins when the pointer is first used.
+    /// A pointer to the tree, which what a "cfg" file holds joins when the pointer is first used: a
+    /// print run needs none. From then on lookups walk the tree.
     class Document
     {
     public:
