@@ -27,7 +27,7 @@ void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
 /// Where memory runs out nothing more can be printed, but the loss must not be silent.
 [[noreturn]] void endWithoutMemory()
 {
-    text::printLine("The document was not written completely: Cannot allocate memory");
+    PrinterDriver::tellIncomplete("Cannot allocate memory");
     std::_Exit(0);
 }
 

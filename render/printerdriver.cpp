@@ -57,7 +57,12 @@ PrinterDriver::~PrinterDriver()
         fault = file->errorString();
     }
     if (!isWhole)
-        text::printLine("The document was not written completely: " + text::toLocale(fault));
+        tellIncomplete(text::toLocale(fault));
+}
+
+void PrinterDriver::tellIncomplete(const QByteArray &reason)
+{
+    text::printLine("The document was not written completely: " + reason);
 }
 
 bool PrinterDriver::startDocument()

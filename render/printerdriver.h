@@ -32,6 +32,10 @@ public:
     PrinterDriver &operator=(const PrinterDriver &) = delete;
     ~PrinterDriver() override;
 
+    /// Tells, once a document, that its print file holds only a part of it, and why (in the
+    /// encoding of the locale).
+    static void tellIncomplete(const QByteArray &reason);
+
     bool startDocument() override;
     bool endDocument() override;
     /// False, which stops the reader, for a `method` element with an unknown name; else true.
