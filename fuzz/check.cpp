@@ -5,7 +5,7 @@
 #include "fuzz/scratch.h"
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
-#include "tools/requestcheck/requestcheck.h"
+#include "tools/check/requestcheck.h"
 
 #include <QBuffer>
 #include <QJsonDocument>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/requestcheck.h"
+#include "tools/check/requestcheck.h"
 
 #include "tests/recordingdevice.h"
-#include "tools/requestcheck/codes.h"
+#include "tools/check/codes.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "render/documentmethod.h"
 #include "render/elements.h"
 #include "tests/recordingdevice.h"
-#include "tools/requestcheck/elementtable.h"
+#include "tools/check/elementtable.h"
 
 #include <QRegularExpression>
 

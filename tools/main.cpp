@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "tools/check/requestcheck.h"
 #include "tools/command.h"
 #include "tools/config/subcommands.h"
 #include "tools/preview/previewcommand.h"
-#include "tools/requestcheck/requestcheck.h"
 #include "tools/terminal.h"
 
 #include <QFile>

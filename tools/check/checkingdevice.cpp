@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/checkingdevice.h"
+#include "tools/check/checkingdevice.h"
 
 #include "render/attributes.h"
 #include "render/documentmethod.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/requestcheck.h"
+#include "tools/check/requestcheck.h"
 
 #include "app/ztconfiguration.h"
-#include "tools/requestcheck/codes.h"
+#include "tools/check/codes.h"
 #include "tools/requests/configurationinuse.h"
 #include "tools/requests/requestfiles.h"
 #include "tools/terminal.h"

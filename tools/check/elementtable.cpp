@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/elementtable.h"
+#include "tools/check/elementtable.h"
 
 #include "render/attributes.h"
 #include "render/elements.h"

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "render/companyprinterdriver.h"
-#include "tools/requestcheck/codes.h"
-#include "tools/requestcheck/elementtable.h"
-#include "tools/requestcheck/tagplaces.h"
+#include "tools/check/codes.h"
+#include "tools/check/elementtable.h"
+#include "tools/check/tagplaces.h"
 
 #include <set>
 

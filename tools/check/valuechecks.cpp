@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/checkingdevice.h"
+#include "tools/check/checkingdevice.h"
 
 #include "text/localeencoding.h"
 #include "tools/terminal.h"

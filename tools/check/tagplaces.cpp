@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/tagplaces.h"
+#include "tools/check/tagplaces.h"
 
 namespace requestcheck {
 

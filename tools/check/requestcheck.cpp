@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/requestcheck/requestcheck.h"
+#include "tools/check/requestcheck.h"
 
 #include "render/requestreader.h"
-#include "tools/requestcheck/checkingdevice.h"
+#include "tools/check/checkingdevice.h"
 
 namespace requestcheck {
 
