@@ -34,6 +34,23 @@ QString ZTConfiguration::userFile()
     return text::nameInFolder(text::homeFolder() + "/.zentaro/conf/zentaro.conf");
 }
 
+QString ZTConfiguration::queueFile(const QString &queue)
+{
+    const QByteArray folder = qgetenv("ZENTARO_CONFIG_FOLDER");
+    return text::nameInFolder(
+        (folder.isEmpty() ? "/etc/zentaro" : folder)
+        + (queue.isEmpty() ? "/zentaro.conf" : "/queues/" + queue.toUtf8() + ".conf"));
+}
+
+bool ZTConfiguration::isQueueName(const QString &name)
+{
+    constexpr QStringView reserved = u"/\\?#,@'\"";
+    const qsizetype size = name.toUtf8().size();
+    return size > 0 && size <= 127 && std::ranges::all_of(name, [&](QChar c) {
+               return c > u' ' && c != QChar(0x7F) && !reserved.contains(c);
+           });
+}
+
 QString ZTConfiguration::getStrValue(const QString &key) const
 {
     return inLatin1(lookup(inLatin1(key)));

@@ -15,6 +15,13 @@ public:
 
     /// The path of the user's own file.
     static QString userFile();
+    /// The path of the file that holds the settings of one print queue alone, or, for no queue, of
+    /// the one for all queues without a file of their own: `queues/QUEUE.conf` and `zentaro.conf`
+    /// in `/etc/zentaro`, or in the folder that ZENTARO_CONFIG_FOLDER names.
+    static QString queueFile(const QString &queue = {});
+    /// Whether a print queue can have this name: 1 to 127 bytes of UTF-8, without blanks, control
+    /// characters and what has a meaning in paths, URIs, quotes and lists.
+    static bool isQueueName(const QString &name);
 
     /// The setting of a dotted key, in ISO 8859-1: a character of the key or the value outside that
     /// set becomes `?`. Answers an empty, non-null text for a key that the file does not have.
