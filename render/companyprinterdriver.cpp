@@ -31,6 +31,12 @@ CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName)
 {
 }
 
+CompanyPrinterDriver::CompanyPrinterDriver(std::unique_ptr<QFile> printFile)
+    : PrinterDriver(std::move(printFile))
+    , line(u""_s)
+{
+}
+
 unsigned int CompanyPrinterDriver::getPaperWidth()
 {
     return 32;

@@ -12,6 +12,8 @@ class CompanyPrinterDriver : public PrinterDriver
 public:
     /// Opens the print file and truncates it.
     explicit CompanyPrinterDriver(const QString &fileName);
+    /// Prints into an open file, as PrinterDriver has it.
+    explicit CompanyPrinterDriver(std::unique_ptr<QFile> printFile);
 
     unsigned int getPaperWidth() override;
     void setBold() override;

@@ -19,7 +19,7 @@ namespace {
 /// A request that repeats a long text can ask for terabytes.
 constexpr qint64 MaxPrintFileBytes = qint64(1'024) * 1'024 * 1'024;
 
-std::unique_ptr<QFile> printFile(const QString &name)
+std::unique_ptr<QFile> limitedFile(const QString &name)
 {
     auto file = std::make_unique<text::LocaleFile>(name);
     file->limitTo(MaxPrintFileBytes);
@@ -29,10 +29,7 @@ std::unique_ptr<QFile> printFile(const QString &name)
 } // namespace
 
 PrinterDriver::PrinterDriver(const QString &fileName, bool append)
-    : config(SyncSingleton<ZTConfiguration>::instance())
-    , currentMethod(u""_s)
-    , file(printFile(fileName))
-    , justify(u"left"_s)
+    : PrinterDriver(limitedFile(fileName))
 {
     // The stream gathers what is written; a second buffer would forget why a write failed.
     QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
@@ -42,6 +39,16 @@ PrinterDriver::PrinterDriver(const QString &fileName, bool append)
         stream = std::make_unique<QTextStream>(file.get());
     else
         text::printLine("PrintManager::printAbstractOrder(...): Unable To Open File");
+}
+
+PrinterDriver::PrinterDriver(std::unique_ptr<QFile> printFile)
+    : config(SyncSingleton<ZTConfiguration>::instance())
+    , currentMethod(u""_s)
+    , file(std::move(printFile))
+    , justify(u"left"_s)
+{
+    if (file->isOpen())
+        stream = std::make_unique<QTextStream>(file.get());
 }
 
 PrinterDriver::~PrinterDriver()

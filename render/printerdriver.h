@@ -28,6 +28,9 @@ public:
     /// Opens the print file, truncating it unless `append`. A file that cannot be opened is told in
     /// one line on standard output and leaves the stream null.
     PrinterDriver(const QString &fileName, bool append);
+    /// Prints into a file that is open for writing, unbuffered, as a text::LocaleFile on a
+    /// descriptor: a filter's standard output, or memory. It is closed with the driver.
+    explicit PrinterDriver(std::unique_ptr<QFile> printFile);
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
     ~PrinterDriver() override;

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "render/rowlayout.h"
 #include "tests/recordingdevice.h"
+#include "text/localefile.h"
+
+#include <QTextCodec>
 
 #include <gtest/gtest.h>
+
+#include <sys/mman.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using support::RecordingDevice;
@@ -116,6 +122,21 @@ TEST(Device, WritesFiscalCommands)
                   device.print(1, u"never ended"_s);
               }),
               "\na\"@\n\"b\"@\n");
+}
+
+TEST(Device, WritesOnADescriptorInAnyEncoding)
+{
+    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
+    auto file = std::make_unique<text::LocaleFile>(QString(), QTextCodec::codecForName("IBM850"));
+    ASSERT_TRUE(file->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered));
+    {
+        CompanyPrinterDriver device(std::move(file));
+        device.println(u"Caff\u00E8"_s);
+    }
+    QByteArray bytes(32, '\0');
+    bytes.truncate(pread(descriptor, bytes.data(), size_t(bytes.size()), 0));
+    EXPECT_EQ(bytes, "Caff\x8A\"@\n");
+    ::close(descriptor);
 }
 
 } // namespace

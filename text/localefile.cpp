@@ -5,12 +5,12 @@
 
 namespace text {
 
-LocaleFile::LocaleFile(const QString &name)
+LocaleFile::LocaleFile(const QString &name, QTextCodec *codec)
     : QFile(name)
-    , isUtf8(localeCodec() == nullptr)
+    , isUtf8(codec == nullptr)
     , decoder(QStringDecoder::Utf8,
               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom)
-    , encoder(localeCodec())
+    , encoder(codec)
 {
 }
 
