@@ -1,14 +1,18 @@
-# The Debian packages: zentaro-print for the till, zentaro-tools for the people who set it up.
-# `cpack -G DEB` in a build folder writes both.
+# The Debian packages: zentaro-print for the till, zentaro-tools for the people who set it up, there
+# or on a desk, zentaro-desktop for what draws. `cpack -G DEB` in a build folder writes them.
 
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
         RENAME copyright COMPONENT print)
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools"
         RENAME copyright COMPONENT tools)
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-desktop"
+        RENAME copyright COMPONENT desktop)
 install(FILES CHANGELOG.md SECURITY.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print" COMPONENT print)
 install(FILES CHANGELOG.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools" COMPONENT tools)
+install(FILES CHANGELOG.md
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-desktop" COMPONENT desktop)
 # The pages point at each other as they do in the source tree.
 install(FILES doc/configuration.md doc/faults.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print/doc" COMPONENT print)
@@ -22,7 +26,7 @@ set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/packages")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/CompressForDebian.cmake")
-set(CPACK_COMPONENTS_ALL print tools)
+set(CPACK_COMPONENTS_ALL print tools desktop)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -38,9 +42,17 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME zentaro-tools)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
     "checks, previews and configures the printed documents of a point-of-sale suite
 The companion tools of zentaro-print: they check and preview print requests,
-and read, check, convert and edit the configuration of the suite.")
+and read, check, convert and change the configuration of the suite.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "zentaro-print (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS zentaro-desktop)
+
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME zentaro-desktop)
+set(CPACK_COMPONENT_DESKTOP_DESCRIPTION
+    "pictures and the configuration window of a point-of-sale suite
+What zentaro-tools needs to draw pictures of printed documents, and to edit the
+configuration in a window.")
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "zentaro-tools (= ${PROJECT_VERSION})")
 # The pictures of a preview are drawn with it.
-set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS fonts-dejavu-core)
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS fonts-dejavu-core)
 
 include(CPack)

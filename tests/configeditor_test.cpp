@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/guienvironment.h"
 #include "tests/support.h"
-#include "tools/config/configeditor.h"
+#include "tools/window/configeditor.h"
 
 #include <QAction>
 #include <QLineEdit>

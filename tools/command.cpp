@@ -54,8 +54,8 @@ int dispatch(const Call &call, const CommandGroup &group)
     if (found == group.commands.end())
         return line.wrongUsage("unknown command `"_L1 + name + u'`');
     const QStringList optionsBefore = call.words.first(call.words.size() - arguments.size());
-    return found->run(
-        {call.command + u' ' + name, optionsBefore + arguments.sliced(1), call.argc, call.argv});
+    return found->run({call.command + u' ' + name, optionsBefore + arguments.sliced(1), call.argc,
+                       call.argv, call.desktop});
 }
 
 CommandLine::CommandLine(const Call &call, const QString &description)

@@ -18,6 +18,8 @@ enum ExitStatus : int {
     Trouble = 2,  ///< wrong usage, or a file that cannot be read or written
 };
 
+struct Desktop;
+
 /// One call of a command.
 struct Call
 {
@@ -25,6 +27,7 @@ struct Call
     QStringList words; ///< those that follow
     int &argc;         ///< the process's own, for a command that needs an application object
     char **argv;
+    const Desktop *desktop = nullptr; ///< null in the program that loads no desktop library
 };
 
 /// Tells what is wrong with a file, or whatever has a name, in one line on standard error: the

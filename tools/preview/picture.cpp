@@ -4,12 +4,20 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace preview {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::array<std::pair<QLatin1StringView, PictureFormat>, 3> endings = {{
+    {".png"_L1, PictureFormat::Png},
+    {".svg"_L1, PictureFormat::Svg},
+    {".pdf"_L1, PictureFormat::Pdf},
+}};
 
 constexpr size_t MostRemarkCells = 60;
 
@@ -70,6 +78,15 @@ int beyondPaper(const Row &row, int columns, int cell, int margin)
 }
 
 } // namespace
+
+std::optional<PictureFormat> pictureFormatOf(const QString &fileName)
+{
+    for (const auto &[ending, format] : endings) {
+        if (fileName.endsWith(ending, Qt::CaseInsensitive))
+            return format;
+    }
+    return std::nullopt;
+}
 
 PictureLayout::PictureLayout(const PaperSize &paper, const std::vector<Sheet> &sheets,
                              size_t perRow)

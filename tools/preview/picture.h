@@ -55,6 +55,11 @@ struct Sheet
     std::vector<bool> changed; ///< of each row; empty: none
 };
 
+enum class PictureFormat { Png, Svg, Pdf };
+
+/// The format that a file name ends in, in any letter case; nothing for another ending.
+std::optional<PictureFormat> pictureFormatOf(const QString &fileName);
+
 /// The paper's measures.
 struct PaperSize
 {

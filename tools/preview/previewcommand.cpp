@@ -7,8 +7,8 @@
 #include "tools/requests/requestfiles.h"
 #include "tools/terminal.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QTextCodec>
 
 #include <unistd.h>
@@ -236,17 +236,15 @@ void tellWhenFatal(QtMsgType type, const QMessageLogContext &, const QString &me
     _exit(tools::Trouble);
 }
 
-/// An application object for the translation, and for pictures one that needs no display. It gets
-/// no words of the command line: they are this program's.
-std::unique_ptr<QCoreApplication> application(const tools::Call &call, bool forPictures)
+/// An application object for the translation, and for pictures one that draws. It gets no words of
+/// the command line: they are this program's.
+std::unique_ptr<QCoreApplication> application(const tools::Call &call)
 {
     static int count = 1;
     qInstallMessageHandler(tellWhenFatal);
-    if (!forPictures)
-        return std::make_unique<QCoreApplication>(count, call.argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication::setDesktopSettingsAware(false);
-    return std::make_unique<QGuiApplication>(count, call.argv);
+    if (call.desktop)
+        return call.desktop->pictureApplication(count, call.argv);
+    return std::make_unique<QCoreApplication>(count, call.argv);
 }
 
 } // namespace
@@ -301,7 +299,7 @@ int writeSheets(const tools::Call &call, const Options &options, const std::vect
     const PictureLayout layout(options.paper, sheets, perRow);
     QString fault = layout.fault();
     if (fault.isEmpty())
-        fault = writePicture(layout.picture(), options.picture, options.format);
+        fault = call.desktop->writePicture(layout.picture(), options.picture, options.format);
     if (fault.isEmpty())
         return tools::Fine;
     return tools::tellTrouble(call, options.picture, fault);
@@ -323,7 +321,9 @@ int run(const tools::Call &call)
     const std::optional<QStringList> names = tools::requestFiles(call, line.arguments());
     if (!names)
         return tools::Trouble;
-    const auto theApplication = application(call, !options.picture.isEmpty());
+    if (!options.picture.isEmpty() && !call.desktop)
+        return tools::startDesktop(call);
+    const auto theApplication = application(call);
     if (!options.other.isEmpty())
         return compareConfigurations(call, options, *names);
     return previewAll(call, options, *names);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/preview/picturefile.h"
-
-#include "tools/command.h"
+#include "tools/companion.h"
 #include "tools/preview/document.h"
+#include "tools/preview/picture.h"
 #include "tools/requests/configurationinuse.h"
 
 class QTextCodec;

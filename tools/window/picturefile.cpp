@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/picturefile.h"
+#include "tools/window/picturefile.h"
 
 #include <QBuffer>
 #include <QFontDatabase>
@@ -10,21 +10,13 @@
 #include <QRawFont>
 #include <QSaveFile>
 
-#include <array>
 #include <map>
-#include <utility>
 
 namespace preview {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::array<std::pair<QLatin1StringView, PictureFormat>, 3> endings = {{
-    {".png"_L1, PictureFormat::Png},
-    {".svg"_L1, PictureFormat::Svg},
-    {".pdf"_L1, PictureFormat::Pdf},
-}};
 
 /// Without any font the toolkit still lists some, all of whose characters are boxes: those have no
 /// tables.
@@ -150,15 +142,6 @@ bool writePdf(const Picture &picture, const QString &family, QIODevice &file)
 }
 
 } // namespace
-
-std::optional<PictureFormat> pictureFormatOf(const QString &fileName)
-{
-    for (const auto &[ending, format] : endings) {
-        if (fileName.endsWith(ending, Qt::CaseInsensitive))
-            return format;
-    }
-    return std::nullopt;
-}
 
 QString writePicture(const Picture &picture, const QString &fileName, PictureFormat format)
 {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/configeditor.h"
+#include "tools/window/configeditor.h"
 
 #include "config/configviews.h"
-#include "tools/config/itemdelegate.h"
 #include "tools/config/losses.h"
 #include "tools/config/settingcheck.h"
-#include "tools/config/treechanges.h"
 #include "tools/knownkeys.h"
+#include "tools/window/itemdelegate.h"
+#include "tools/window/treechanges.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/configeditor.h"
+#include "tools/window/configeditor.h"
 
-#include "tools/config/itemdelegate.h"
+#include "tools/window/itemdelegate.h"
 
 #include <QAction>
 #include <QHeaderView>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/treechanges.h"
+#include "tools/window/treechanges.h"
 
 #include <QTreeWidgetItem>
 

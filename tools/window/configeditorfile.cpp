@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/configeditor.h"
+#include "tools/window/configeditor.h"
 
 #include "config/configviews.h"
 #include "tools/config/losses.h"

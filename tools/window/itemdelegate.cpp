@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/itemdelegate.h"
+#include "tools/window/itemdelegate.h"
 
 #include "config/configviews.h"
 #include "tools/knownkeys.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/treeoutline.h"
+#include "tools/window/treeoutline.h"
 
 #include "config/configviews.h"
 

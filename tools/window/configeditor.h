@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/config/editedfile.h"
 #include "tools/config/source.h"
-#include "tools/config/treeoutline.h"
+#include "tools/window/editedfile.h"
+#include "tools/window/treeoutline.h"
 
 #include <QMainWindow>
 #include <QMessageBox>

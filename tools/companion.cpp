@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "tools/companion.h"
+
+#include "tools/config/subcommands.h"
+#include "tools/preview/previewcommand.h"
+#include "tools/check/requestcheck.h"
+#include "tools/terminal.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <array>
+#include <cerrno>
+#include <unistd.h>
+
+namespace tools {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array<Command, 3> commands = {{
+    {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
+    {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
+    {"preview"_L1, "shows what will be printed, as text or as a picture"_L1, preview::run},
+}};
+
+} // namespace
+
+int runCompanion(int argc, char **argv, const Desktop *desktop)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i) {
+        words.append(QFile::decodeName(argv[i]));
+        // The toolkit would open another file than the one that is named.
+        if (QFile::encodeName(words.last()) != argv[i]) {
+            printError("zentaro: the word `"_L1 + words.last() + "` is not UTF-8\n"_L1);
+            return Trouble;
+        }
+    }
+    return dispatch(
+        {u"zentaro"_s, words, argc, argv, desktop},
+        {u"The companion of zentaro-print."_s, commands, {}, u"zentaro " ZENTARO_VERSION ""_s});
+}
+
+int startDesktop(const Call &call)
+{
+    const QString place = QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path();
+    // Beside this program in a build; where it is installed, as far from it as the build says.
+    for (const QString &folder : {place, place + u"/" ZENTARO_LIBEXEC_FROM_BIN ""_s}) {
+        execv(QFile::encodeName(folder + "/zentaro-window"_L1).constData(), call.argv);
+        if (errno != ENOENT && errno != ENOTDIR)
+            return tellTrouble(call, u"zentaro-window"_s, qt_error_string(errno));
+    }
+    printError(call.command + ": the package zentaro-desktop is needed for this\n"_L1);
+    return Trouble;
+}
+
+} // namespace tools

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "tools/companion.h"
+#include "tools/config/source.h"
+#include "tools/terminal.h"
+#include "tools/window/configeditor.h"
+#include "tools/window/picturefile.h"
+
+#include <QApplication>
+
+#include <cstdlib>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The toolkit aborts without a display; this ends the process in the usual way instead.
+void endWhenFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    tools::printError("zentaro config edit: "_L1 + message + u'\n');
+    if (type == QtFatalMsg)
+        _exit(tools::Trouble);
+}
+
+int edit(const tools::Call &call, const configtool::Source &source)
+{
+    qInstallMessageHandler(endWhenFatal);
+    const QApplication application(call.argc, call.argv);
+    QGuiApplication::setDesktopFileName(u"zentaro-config-edit"_s);
+    configtool::ConfigEditor editor;
+    if (!editor.open(source))
+        return tools::Trouble;
+    editor.show();
+    return QApplication::exec();
+}
+
+std::unique_ptr<QCoreApplication> pictureApplication(int &argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication::setDesktopSettingsAware(false);
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    constexpr tools::Desktop desktop{edit, pictureApplication, preview::writePicture};
+    return tools::runCompanion(argc, argv, &desktop);
+}
