@@ -4,6 +4,7 @@
 #include "tools/window/configeditor.h"
 
 #include <QAction>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
@@ -257,6 +258,29 @@ TEST_F(Editor, HasKeysOfItsOwn)
     shortcuts.removeAll(QString());
     EXPECT_EQ(shortcuts.removeDuplicates(), 0) << "of two actions with one shortcut none works";
     EXPECT_GE(shortcuts.size(), 10);
+}
+
+TEST(Companion, LoadsNoDesktopLibrary)
+{
+    const support::Outcome outcome =
+        support::zentaro({}, support::Home(), {u"LD_TRACE_LOADED_OBJECTS=1"_s});
+    EXPECT_TRUE(outcome.output.contains("libQt6Core.so"));
+    for (const char *const library : {"libQt6Gui", "libQt6Widgets", "libQt6Sql"})
+        EXPECT_FALSE(outcome.output.contains(library)) << library;
+}
+
+TEST(Companion, NamesThePackageOfWhatDraws)
+{
+    const support::Folder alone;
+    const QString program = alone.path(u"zentaro"_s);
+    ASSERT_TRUE(QFile::copy(support::zentaroProgram(), program));
+    for (const QStringList &words : {QStringList{u"config"_s, u"edit"_s},
+                                     QStringList{u"preview"_s, u"-o"_s, u"a.png"_s, u"-"_s}}) {
+        const support::Outcome outcome = support::run(program, words, support::Home());
+        EXPECT_EQ(outcome.exitStatus, 2);
+        EXPECT_EQ(outcome.output, "");
+        EXPECT_TRUE(outcome.errors.contains("zentaro-desktop")) << outcome.errors.constData();
+    }
 }
 
 } // namespace

@@ -118,9 +118,14 @@ Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringLi
     return run(zentaroPrintProgram(), words, home, variables);
 }
 
+QString zentaroProgram()
+{
+    return QStringLiteral(ZENTARO_PROGRAM);
+}
+
 Outcome zentaro(const QStringList &words, const Home &home, const QStringList &variables)
 {
-    return run(QStringLiteral(ZENTARO_PROGRAM), words, home, variables);
+    return run(zentaroProgram(), words, home, variables);
 }
 
 QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables)

@@ -78,6 +78,9 @@ QString zentaroPrintProgram();
 /// Runs the print compiler.
 Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables = {});
 
+/// The path of the companion program.
+QString zentaroProgram();
+
 /// Runs the companion program.
 Outcome zentaro(const QStringList &words, const Home &home, const QStringList &variables = {});
 

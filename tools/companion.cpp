@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tools/companion.h"
 
+#include "tools/check/requestcheck.h"
 #include "tools/config/subcommands.h"
 #include "tools/preview/previewcommand.h"
-#include "tools/check/requestcheck.h"
 #include "tools/terminal.h"
 
 #include <QFile>
