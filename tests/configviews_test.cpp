@@ -26,7 +26,7 @@ protected:
     }
     QByteArray written() const { return support::readFile(path); }
 
-    const support::Folder folder;
+    support::Folder folder;
     const QString path = folder.path(u"zentaro.conf"_s);
 };
 
