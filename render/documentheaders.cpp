@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/printerdriver.h"
 
-#include "render/attributes.h"
+#include "render/vocabulary.h"
 
 #include <array>
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/companyprinterdriver.h"
 
-#include "render/attributes.h"
-#include "render/elements.h"
+#include "render/vocabulary.h"
 
 #include <QStringBuilder>
 

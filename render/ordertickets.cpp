@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/printerdriver.h"
 
-#include "render/attributes.h"
-#include "render/elements.h"
+#include "render/vocabulary.h"
 
 #include <cmath>
 

@@ -3,9 +3,7 @@
 
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
-#include "render/attributes.h"
-#include "render/documentmethod.h"
-#include "render/elements.h"
+#include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "text/localefile.h"
 #include "text/standardoutput.h"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/printerdriver.h"
 
-#include "render/attributes.h"
-#include "render/elements.h"
 #include "render/rowlayout.h"
+#include "render/vocabulary.h"
 
 using namespace Qt::StringLiterals;
 

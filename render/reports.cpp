@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/printerdriver.h"
 
-#include "render/attributes.h"
-#include "render/elements.h"
 #include "render/rowlayout.h"
+#include "render/vocabulary.h"
 
 #include <array>
 
@@ -27,6 +26,12 @@ constexpr std::array<PaymentRow, 5> paymentRows = {{
     {QT_TRANSLATE_NOOP("PrinterDriver", "Bancomat: "), "bancomat"_L1},
     {QT_TRANSLATE_NOOP("PrinterDriver", "Other: "), "other"_L1},
 }};
+
+/// The value of the attribute at `position`, from 0 in document order; empty text past the last.
+QString valueAt(const QXmlAttributes &atts, int position)
+{
+    return position < atts.count() ? atts.value(position) : QString();
+}
 
 /// A row of the tax-rate table; `afterRate` stands between its first two columns.
 QString taxRow(const QString &rate, QLatin1StringView afterRate, const QString &taxable,

@@ -2,7 +2,7 @@
 #include "app/compile.h"
 #include "app/ztconfiguration.h"
 #include "log/logger.h"
-#include "render/documentmethod.h"
+#include "render/vocabulary.h"
 #include "tests/support.h"
 #include "util/hlibrary.h"
 
@@ -88,7 +88,7 @@ TEST(ConfigurationPage, ListsTheKeysThatTheLibrariesAskFor)
          {&HLibrary::dbname, &HLibrary::username, &HLibrary::password, &HLibrary::hostname})
         setting();
     HLibrary::pathWithBinaryFile(u"program"_s);
-    for (const DocumentMethod &method : documentMethods()) {
+    for (const DocumentMethod &method : documentMethods) {
         if (method.settingsType != "sold"_L1) // the list of sold items has no copy number
             HLibrary::copyNumber(method.settingsType);
     }

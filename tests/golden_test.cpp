@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "render/documentmethod.h"
 #include "render/requestreader.h"
+#include "render/vocabulary.h"
 #include "tests/recordingdevice.h"
 
 #include <QDir>
@@ -103,7 +103,7 @@ TEST(Golden, ShowsEveryMethodInTheSamplesPage)
 {
     const QString pageName = root.filePath(u"samples/README.md"_s);
     QByteArray page = support::readFile(pageName);
-    for (const DocumentMethod &method : documentMethods()) {
+    for (const DocumentMethod &method : documentMethods) {
         const QByteArray name(method.name.data(), method.name.size());
         const QString sample = root.filePath(u"samples/"_s + method.name + u".xml"_s);
         EXPECT_TRUE(support::readFile(sample).contains("<method name=\"" + name + "\"/>"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "render/documentmethod.h"
+#include "render/vocabulary.h"
 #include "tests/support.h"
 #include "tools/knownkeys.h"
 
@@ -111,7 +111,7 @@ TEST(Manual, ListsEveryMethodAndEveryKeyAsTheFuzzDictionaryDoes)
         EXPECT_TRUE(words.contains(u'"' + word + u"\"\n"_s)) << word.toStdString();
     };
     const QString print = manualPage(u"zentaro-print.1"_s);
-    for (const DocumentMethod &method : documentMethods()) {
+    for (const DocumentMethod &method : documentMethods) {
         EXPECT_TRUE(print.contains(u".It Cm "_s + method.name + u" Ta "_s)) << method.name.data();
         expectInDictionary(method.name);
     }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "render/documentmethod.h"
-#include "render/elements.h"
+#include "render/vocabulary.h"
 #include "tests/recordingdevice.h"
 #include "tools/check/elementtable.h"
 
@@ -110,7 +109,7 @@ TEST(RequestTable, SaysWhatEveryDocumentPrints)
     for (const ElementRow &row : requestcheck::elementRows())
         elements.insert(row.element.toString());
     const QXmlAttributes atts = everyAttribute();
-    const auto methods = documentMethods();
+    const auto &methods = documentMethods;
     for (const QLatin1StringView off : offs) {
         configureAll(off);
         for (const DocumentMethod &method : methods) {
@@ -138,7 +137,7 @@ qsizetype longestLine(const QString &text)
 TEST(RequestTable, KnowsTheColumns)
 {
     configureAll();
-    const auto methods = documentMethods();
+    const auto &methods = documentMethods;
     int columns = 0;
     for (const DocumentMethod &method : methods) {
         Paper paper(method);
@@ -225,7 +224,7 @@ TEST(RequestTable, IsTheSamplesPage)
     };
     const auto shared = rowsOf(u"Elements of every list document"_s).second;
     ASSERT_EQ(shared.size(), 10); // the customer is the last, which not all of them read
-    const auto methods = documentMethods();
+    const auto &methods = documentMethods;
     for (const DocumentMethod &method : methods) {
         auto [section, rows] = rowsOf(method.name);
         if (section.contains(u"the elements of every list document"))

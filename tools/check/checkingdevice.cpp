@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/checkingdevice.h"
 
-#include "render/attributes.h"
-#include "render/documentmethod.h"
-#include "render/elements.h"
+#include "render/vocabulary.h"
 #include "tools/nearest.h"
 #include "tools/terminal.h"
 
@@ -91,7 +89,7 @@ bool CheckingDevice::endDocument()
 bool CheckingDevice::startMethod(const QXmlAttributes &atts)
 {
     const QString name = valueOf(atts, "name"_L1);
-    const std::span<const DocumentMethod> methods = documentMethods();
+    constexpr auto &methods = documentMethods;
     const DocumentMethod *const chosen = documentMethod(name);
     if (!chosen) {
         std::vector<QString> names;

@@ -78,7 +78,7 @@ private:
     bool isRule = false;
     int depth = 0;
     tools::Place root;
-    qsizetype method = -1;              // the chosen one's place in documentMethods()
+    qsizetype method = -1;              // the chosen one's place in documentMethods
     std::vector<QString> knownElements; // of the method
     std::set<QString> toldSwitches;     // by their keys
     Element current;

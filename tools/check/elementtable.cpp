@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/elementtable.h"
 
-#include "render/attributes.h"
-#include "render/elements.h"
+#include "render/vocabulary.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The methods in the order of documentMethods().
+// The methods in the order of documentMethods.
 enum Method : quint16 {
     Partial = 1 << 0,
     Full = 1 << 1,

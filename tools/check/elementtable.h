@@ -57,7 +57,7 @@ enum class Rest {
 struct ElementRow
 {
     QStringView element;
-    quint16 methods; ///< bit i: the method at i of documentMethods()
+    quint16 methods; ///< bit i: the method at i of documentMethods
     std::span<const AttributeUse> attributes;
     bool DocumentSettings::*onlyIf = nullptr; ///< the switch that its attributes are printed under
     Rest rest = Rest::Nothing;
@@ -71,7 +71,7 @@ struct ElementRow
     bool hasColumns() const;
 };
 
-/// The element as the method at `method` of documentMethods() reads it, or null.
+/// The element as the method at `method` of documentMethods reads it, or null.
 const ElementRow *elementRow(QStringView element, qsizetype method);
 /// The elements that a method reacts to, those of the top of a document first.
 std::vector<QString> elementsOf(qsizetype method);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/checkingdevice.h"
 
-#include "render/attributes.h"
+#include "render/vocabulary.h"
 #include "tools/terminal.h"
 
 #include <algorithm>

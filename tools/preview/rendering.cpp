@@ -2,8 +2,8 @@
 #include "tools/preview/rendering.h"
 
 #include "render/companyprinterdriver.h"
-#include "render/elements.h"
 #include "render/requestreader.h"
+#include "render/vocabulary.h"
 #include "tools/requests/divertedoutput.h"
 
 #include <QXmlLocator>
