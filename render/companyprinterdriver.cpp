@@ -39,7 +39,7 @@ CompanyPrinterDriver::CompanyPrinterDriver(std::unique_ptr<QFile> printFile)
 
 unsigned int CompanyPrinterDriver::getPaperWidth()
 {
-    return 32;
+    return DevicePaperWidth;
 }
 
 void CompanyPrinterDriver::setBold() {}

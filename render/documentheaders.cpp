@@ -46,7 +46,6 @@ void PrinterDriver::printLabelLine(const QString &label, const QString &value)
 
 void PrinterDriver::printGeometry(const QXmlAttributes &)
 {
-    constexpr int MaxTopMargin = 1'000; // more is a typing error, and would only cost paper
     if (!settings.printGeometry)
         return;
     const int lines = qMin(numberOnce(topMargin, "topMargin"_L1), MaxTopMargin);

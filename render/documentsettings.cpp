@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "render/documentsettings.h"
 
+#include "render/settings.h"
+
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -18,35 +21,23 @@ constexpr auto types = std::to_array<DocumentType>({
     {"sold"_L1, "zentaro.solddoc."_L1},
 });
 
-using S = DocumentSettings;
+/// The key words of the settings that fill a member of this type.
+template <typename T, T DocumentSettings::*Setting::*Member>
+consteval auto keysOf()
+{
+    constexpr auto Count = std::ranges::count_if(
+        allSettings, [](const Setting &setting) { return setting.*Member != nullptr; });
+    std::array<SettingKey<T>, Count> keys{};
+    auto key = keys.begin();
+    for (const Setting &setting : allSettings) {
+        if (setting.*Member)
+            *key++ = {QLatin1StringView(setting.word), setting.*Member};
+    }
+    return keys;
+}
 
-constexpr std::array numbers = {
-    SettingKey<int>{"quantityFieldWidth"_L1, &S::quantityFieldWidth},
-    SettingKey<int>{"priceFieldWidth"_L1, &S::priceFieldWidth},
-    SettingKey<int>{"totalPriceFieldWidth"_L1, &S::totalPriceFieldWidth},
-    SettingKey<int>{"paperWidth"_L1, &S::paperWidth},
-    SettingKey<int>{"paperRows"_L1, &S::paperRows},
-};
-
-constexpr std::array switches = {
-    SettingKey<bool>{"printGeometry"_L1, &S::printGeometry},
-    SettingKey<bool>{"printHeader"_L1, &S::printHeader},
-    SettingKey<bool>{"printLogo"_L1, &S::printLogo},
-    SettingKey<bool>{"printCompany"_L1, &S::printCompany},
-    SettingKey<bool>{"printDeliveryAddress"_L1, &S::printDeliveryAddress},
-    SettingKey<bool>{"printBillingAddress"_L1, &S::printBillingAddress},
-    SettingKey<bool>{"printTelephone"_L1, &S::printTelephone},
-    SettingKey<bool>{"printDate"_L1, &S::printDate},
-    SettingKey<bool>{"printTime"_L1, &S::printTime},
-    SettingKey<bool>{"printTable"_L1, &S::printTable},
-    SettingKey<bool>{"printCustomer"_L1, &S::printCustomer},
-    SettingKey<bool>{"printLicenseNumber"_L1, &S::printLicenseNumber},
-    SettingKey<bool>{"printFiscalCode"_L1, &S::printFiscalCode},
-    SettingKey<bool>{"printCredit"_L1, &S::printCredit},
-    SettingKey<bool>{"printWaiter"_L1, &S::printWaiter},
-    SettingKey<bool>{"printNote"_L1, &S::printNote},
-    SettingKey<bool>{"openCashDrawer"_L1, &S::openCashDrawer},
-};
+constexpr auto numbers = keysOf<int, &Setting::number>();
+constexpr auto switches = keysOf<bool, &Setting::aSwitch>();
 
 } // namespace
 

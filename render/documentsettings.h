@@ -5,6 +5,11 @@
 
 #include <span>
 
+/// The characters in a line of the receipt printer.
+constexpr int DevicePaperWidth = 32;
+/// A margin of more empty lines is a typing error, and would only cost paper.
+constexpr int MaxTopMargin = 1'000;
+
 /// The settings of one type of document. Each bears the name of the key word that fills it.
 struct DocumentSettings
 {

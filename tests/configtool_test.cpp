@@ -113,12 +113,13 @@ TEST(ConfigTemplate, SetsEveryNumberAndSwitch)
     for (const QString &name : {u"samples/zentaro-32.conf"_s, u"samples/zentaro-40.conf"_s}) {
         const libconfig::Config config(root + name, u"cfg"_s);
         for (const QString &group : tools::knownGroups()) {
-            for (const tools::KnownKey &key : tools::knownKeys(group)) {
+            for (const Setting *const setting : tools::settingsOf(group)) {
+                const QLatin1StringView word(setting->word);
                 const bool isNumber =
-                    key.kind == tools::KeyKind::Number && key.word != "copyNumber"_L1;
-                if (isNumber || key.kind == tools::KeyKind::Switch) {
-                    EXPECT_NE(config.lookup(u"zentaro."_s + group + u'.' + key.word), u""_s)
-                        << group.toStdString() << ' ' << key.word.data();
+                    setting->kind == SettingKind::Number && word != "copyNumber"_L1;
+                if (isNumber || setting->kind == SettingKind::Switch) {
+                    EXPECT_NE(config.lookup(u"zentaro."_s + group + u'.' + word), u""_s)
+                        << group.toStdString() << ' ' << word.data();
                 }
             }
         }

@@ -27,8 +27,9 @@ TEST(Translation, IsCompleteInEveryLanguage)
         QProcess lupdate;
         lupdate.setWorkingDirectory(root.path());
         lupdate.start(QStringLiteral(ZENTARO_LUPDATE),
-                      {u"-silent"_s, u"-no-obsolete"_s, u"-locations"_s, u"none"_s, u"-I"_s, u"."_s,
-                       u"render"_s, u"util"_s, u"-ts"_s, folder.path(name)});
+                      {u"-silent"_s, u"-extensions"_s, u"cpp"_s, u"-no-obsolete"_s, u"-locations"_s,
+                       u"none"_s, u"-I"_s, u"."_s, u"render"_s, u"util"_s, u"-ts"_s,
+                       folder.path(name)});
         lupdate.waitForFinished();
         EXPECT_EQ(support::readFile(folder.path(name)), committed)
             << "run scripts/update-translations";

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/knownkeys.h"
 
-#include "render/documentsettings.h"
-
 #include <algorithm>
-#include <array>
-#include <vector>
 
 namespace tools {
 
@@ -13,142 +9,84 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct GroupedKey
+/// The group of a type of document: its key prefix without the product's group and the last point.
+QLatin1StringView groupOf(const DocumentType &type)
 {
-    QLatin1StringView group;
-    KnownKey key;
-};
-
-// The groups that are no document's, one after the other.
-constexpr auto plainKeys = std::to_array<GroupedKey>({
-    {"language"_L1, {"basedir"_L1, KeyKind::Text}},
-    {"language"_L1, {"file"_L1, KeyKind::Text}},
-    {"logger"_L1, {"level"_L1, KeyKind::LogLevel}},
-    {"logger"_L1, {"basedir"_L1, KeyKind::Text}},
-    {"logger"_L1, {"filename"_L1, KeyKind::Text}},
-    {"logger"_L1, {"type"_L1, KeyKind::LogType}},
-    {"db"_L1, {"dbname"_L1, KeyKind::Text}},
-    {"db"_L1, {"username"_L1, KeyKind::Text}},
-    {"db"_L1, {"password"_L1, KeyKind::Text}},
-    {"db"_L1, {"hostname"_L1, KeyKind::Text}},
-    {"bin"_L1, {"path"_L1, KeyKind::Text}},
-});
-
-/// A key that documents' groups hold beside the fields of their settings: every one, unless one is
-/// the only one or the only one without it.
-struct DocumentKey
-{
-    KnownKey key;
-    QLatin1StringView only{};
-    QLatin1StringView without{};
-};
-
-constexpr auto documentKeys = std::to_array<DocumentKey>({
-    {.key = {"descriptionWidth"_L1, KeyKind::Number}, .only = "fiscaldoc"_L1},
-    {.key = {"topMargin"_L1, KeyKind::Number}},
-    {.key = {"style"_L1, KeyKind::Text}},
-    {.key = {"copyNumber"_L1, KeyKind::Number}, .without = "solddoc"_L1},
-});
-
-/// A group and what it holds; built once, when the first key is asked about.
-struct KnownGroup
-{
-    QString name;
-    bool isDocument;
-    std::vector<KnownKey> keys;
-    std::vector<QString> words; // of the keys
-};
-
-KnownGroup documentGroup(const DocumentType &type)
-{
-    // The key prefix without the product's group and the last point.
-    KnownGroup group{QString(type.keyPrefix).section(u'.', 1, 1), true, {}, {}};
-    for (const SettingKey<int> &number : numberSettings())
-        group.keys.push_back({number.keyWord, KeyKind::Number});
-    for (const auto &[key, only, without] : documentKeys) {
-        if (group.name != without && (only.isEmpty() || group.name == only))
-            group.keys.push_back(key);
-    }
-    for (const SettingKey<bool> &aSwitch : switchSettings())
-        group.keys.push_back({aSwitch.keyWord, KeyKind::Switch});
-    return group;
+    return type.keyPrefix.sliced(ProductGroup.size() + 1).chopped(1);
 }
 
-std::vector<KnownGroup> buildGroups()
+/// The place of a group's type among documentTypes(); -1 for a group that is no document's.
+qsizetype typeOf(QStringView group)
 {
-    std::vector<KnownGroup> groups;
-    for (const GroupedKey &row : plainKeys) {
-        if (groups.empty() || groups.back().name != row.group)
-            groups.push_back({row.group, false, {}, {}});
-        groups.back().keys.push_back(row.key);
-    }
-    for (const DocumentType &type : documentTypes())
-        groups.push_back(documentGroup(type));
-    for (KnownGroup &group : groups) {
-        for (const KnownKey &key : group.keys)
-            group.words.push_back(key.word);
-    }
-    return groups;
-}
-
-const std::vector<KnownGroup> &allGroups()
-{
-    static const std::vector<KnownGroup> groups = buildGroups();
-    return groups;
-}
-
-/// The group of a name; one without keys for an unknown name.
-const KnownGroup &groupOf(QStringView name)
-{
-    static const KnownGroup unknown{};
+    const std::span<const DocumentType> types = documentTypes();
     const auto found = std::ranges::find_if(
-        allGroups(), [name](const KnownGroup &group) { return group.name == name; });
-    return found == allGroups().end() ? unknown : *found;
+        types, [group](const DocumentType &type) { return group == groupOf(type); });
+    return found == types.end() ? -1 : found - types.begin();
+}
+
+bool isIn(const Setting &setting, QStringView group, qsizetype type)
+{
+    if (*setting.group != '\0')
+        return group == QLatin1StringView(setting.group);
+    return type >= 0 && ((setting.types >> type) & 1) != 0;
 }
 
 } // namespace
 
-std::span<const QString> knownGroups()
+QStringList knownGroups()
 {
-    static const std::vector<QString> names = [] {
-        std::vector<QString> result;
-        for (const KnownGroup &group : allGroups())
-            result.push_back(group.name);
-        return result;
-    }();
-    return names;
+    QStringList groups;
+    for (const Setting &setting : allSettings) {
+        if (const QLatin1StringView group(setting.group);
+            !group.isEmpty() && !groups.endsWith(group))
+            groups.append(group);
+    }
+    for (const DocumentType &type : documentTypes())
+        groups.append(groupOf(type));
+    return groups;
+}
+
+bool isKnownGroup(QStringView group)
+{
+    return !settingsOf(group).empty();
 }
 
 bool isDocumentGroup(QStringView group)
 {
-    return groupOf(group).isDocument;
+    return typeOf(group) >= 0;
 }
 
-std::span<const KnownKey> knownKeys(QStringView group)
+std::vector<const Setting *> settingsOf(QStringView group)
 {
-    return groupOf(group).keys;
+    std::vector<const Setting *> settings;
+    for (const Setting &setting : allSettings) {
+        if (isIn(setting, group, typeOf(group)))
+            settings.push_back(&setting);
+    }
+    return settings;
 }
 
-std::span<const QString> knownWords(QStringView group)
+QStringList knownWords(QStringView group)
 {
-    return groupOf(group).words;
+    QStringList words;
+    for (const Setting *const setting : settingsOf(group))
+        words.append(QLatin1StringView(setting->word));
+    return words;
 }
 
-std::optional<KeyKind> kindOf(QStringView group, QStringView word)
+const Setting *findSetting(QStringView group, QStringView word)
 {
-    const std::span<const KnownKey> keys = knownKeys(group);
-    const auto found =
-        std::ranges::find_if(keys, [word](const KnownKey &key) { return key.word == word; });
-    return found == keys.end() ? std::nullopt : std::optional(found->kind);
+    const qsizetype type = typeOf(group);
+    const auto found = std::ranges::find_if(allSettings, [&](const Setting &setting) {
+        return word == QLatin1StringView(setting.word) && isIn(setting, group, type);
+    });
+    return found == allSettings.end() ? nullptr : &*found;
 }
 
 QStringList groupsWith(QStringView word)
 {
-    QStringList groups;
-    for (const QString &group : knownGroups()) {
-        if (kindOf(group, word))
-            groups.append(group);
-    }
+    QStringList groups = knownGroups();
+    groups.removeIf([word](const QString &group) { return !findSetting(group, word); });
     return groups;
 }
 

@@ -1,43 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "render/settings.h"
+
 #include <QStringList>
 
-#include <optional>
-#include <span>
-
-/// The keys that the suite reads from its configuration: `zentaro.GROUP.WORD`.
+/// The groups and keys that the suite reads from its configuration: `zentaro.GROUP.WORD`.
 namespace tools {
-
-enum class KeyKind {
-    Text,
-    Number,   ///< a decimal integer
-    Switch,   ///< "true" or anything else
-    LogLevel, ///< the least level that a log keeps
-    LogType,  ///< how a log file is opened
-};
-
-struct KnownKey
-{
-    QLatin1StringView word;
-    KeyKind kind;
-};
 
 /// The group that stands above all others.
 constexpr auto ProductGroup = QLatin1StringView("zentaro");
 
 /// The groups below it, in the order of a complete file.
-std::span<const QString> knownGroups();
+QStringList knownGroups();
+/// Whether the suite reads anything of the group.
+bool isKnownGroup(QStringView group);
 /// Whether the group holds the settings of a type of document.
 bool isDocumentGroup(QStringView group);
-/// The keys of a group, in the order of a complete file; none for an unknown group.
-std::span<const KnownKey> knownKeys(QStringView group);
-/// The same, only their words.
-std::span<const QString> knownWords(QStringView group);
-/// The kind of a key; nothing for an unknown one.
-std::optional<KeyKind> kindOf(QStringView group, QStringView word);
-/// The groups in which a word is known.
+/// The settings of a group, in the order of a complete file; none for an unknown group.
+std::vector<const Setting *> settingsOf(QStringView group);
+/// The same, only their key words.
+QStringList knownWords(QStringView group);
+/// A setting; null for an unknown one.
+const Setting *findSetting(QStringView group, QStringView word);
+/// The groups in which a key word is known.
 QStringList groupsWith(QStringView word);
 
 } // namespace tools

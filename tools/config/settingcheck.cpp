@@ -86,7 +86,7 @@ void Checker::checkGroup(qsizetype index)
         return;
     else if (group.parent == top && !groups.contains({top, group.name})) {
         groups.insert({top, group.name}, index);
-        if (tools::knownKeys(group.name).empty())
+        if (!tools::isKnownGroup(group.name))
             tell(Severity::Warning, "unknown-group"_L1,
                  "nothing reads the group "_L1 + excerpt(outline.pathOf(index))
                      + tools::suggestion(group.name, tools::knownGroups()),
@@ -97,8 +97,7 @@ void Checker::checkGroup(qsizetype index)
             "the group "_L1 + excerpt(outline.pathOf(index))
                 + " stands here again: of a key in both, the first value that is not empty counts"_L1,
             index);
-    } else if (entry(group.parent).parent == top
-               && !tools::knownKeys(entry(group.parent).name).empty()) {
+    } else if (entry(group.parent).parent == top && tools::isKnownGroup(entry(group.parent).name)) {
         tell(Severity::Warning, "unknown-group"_L1,
              "nothing reads the group "_L1 + excerpt(outline.pathOf(index)), index);
     }
@@ -141,7 +140,7 @@ void Checker::checkSetting(qsizetype index)
     else if (setting.parent == top && !group.misread)
         tell(Severity::Warning, "unknown-key"_L1,
              "nothing reads the key "_L1 + excerpt(outline.pathOf(index)), index);
-    else if (group.parent == top && !tools::knownKeys(group.name).empty())
+    else if (group.parent == top && tools::isKnownGroup(group.name))
         checkKnownSetting(index);
 }
 
@@ -176,8 +175,8 @@ void Checker::checkKnownSetting(qsizetype index)
 {
     const Entry &setting = entry(index);
     const QString &group = entry(setting.parent).name;
-    const std::optional<tools::KeyKind> kind = tools::kindOf(group, setting.name);
-    if (!kind) {
+    const Setting *const known = tools::findSetting(group, setting.name);
+    if (!known) {
         tell(Severity::Warning, "unknown-key"_L1,
              "nothing reads the key "_L1 + excerpt(outline.pathOf(index))
                  + (++unknownKeys <= tools::MostOfACode ? wayOut(group, setting.name) : QString()),
@@ -186,7 +185,7 @@ void Checker::checkKnownSetting(qsizetype index)
     }
     const bool ranOver = setting.value.contains(u'\n'); // which has been told
     if (const std::optional<ValueFault> fault =
-            valueFault(outline.pathOf(index), *kind, setting.value);
+            valueFault(outline.pathOf(index), *known, setting.value);
         fault && !ranOver)
         tellValue(Severity::Error, fault->code, fault->text, index);
     qsizetype &found = effective[group + u'.' + setting.name];

@@ -14,15 +14,11 @@ namespace configtool {
 
 using namespace Qt::StringLiterals;
 using tools::excerpt;
-using tools::KeyKind;
 
 namespace {
 
-std::optional<ValueFault> numberFault(const QString &path, const QString &value)
+std::optional<ValueFault> numberFault(const QString &path, int most, const QString &value)
 {
-    constexpr int WidestColumn = 65'535; // padding ends there
-    constexpr int LargestMargin = 1'000;
-    const int most = path.endsWith(".topMargin"_L1) ? LargestMargin : WidestColumn;
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
     if (!isNumber)
@@ -50,22 +46,24 @@ std::optional<ValueFault> wordFault(const QString &path, const QString &value,
 
 } // namespace
 
-std::optional<ValueFault> valueFault(const QString &path, KeyKind kind, const QString &value)
+std::optional<ValueFault> valueFault(const QString &path, const Setting &setting,
+                                     const QString &value)
 {
-    switch (kind) {
-    case KeyKind::Number:
-        return numberFault(path, value);
-    case KeyKind::Switch:
+    switch (setting.kind) {
+    case SettingKind::Number:
+        return numberFault(path, setting.most, value);
+    case SettingKind::Switch:
         if (value == "true"_L1 || value == "false"_L1)
             return std::nullopt;
         return ValueFault{"not-a-switch"_L1, excerpt(path) + " is "_L1 + excerpt(value)
                                                  + R"(, neither "true" nor "false": it is off)"_L1};
-    case KeyKind::LogLevel:
+    case SettingKind::LogLevel:
         return wordFault(path, value, {u"DEBUG"_s, u"INFO"_s, u"WARNING"_s, u"ERROR"_s, u"FATAL"_s},
                          u"every line is logged"_s);
-    case KeyKind::LogType:
+    case SettingKind::LogType:
         return wordFault(path, value, {u"APPEND"_s, u"OVERWRITE"_s}, u"nothing is logged"_s);
-    case KeyKind::Text:
+    case SettingKind::Text:
+    case SettingKind::Path:
         break;
     }
     return std::nullopt;
@@ -73,9 +71,8 @@ std::optional<ValueFault> valueFault(const QString &path, KeyKind kind, const QS
 
 QString columnFault(const ColumnWidths &widths)
 {
-    constexpr qint64 DevicePaper = 32; // of a configuration that sets none
-    constexpr qint64 Separators = 3;   // " x "
-    const qint64 paper = widths.paper != 0 ? widths.paper : DevicePaper;
+    constexpr qint64 Separators = 3; // " x "
+    const qint64 paper = widths.paper != 0 ? widths.paper : DevicePaperWidth;
     const qint64 columns =
         qint64(widths.quantity) + widths.price + qint64(widths.total) + Separators;
     if (columns < paper)

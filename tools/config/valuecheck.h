@@ -16,8 +16,8 @@ struct ValueFault
     QString text;
 };
 
-/// Why the value is not what the key `path`, of this kind, wants; nothing when it is.
-std::optional<ValueFault> valueFault(const QString &path, tools::KeyKind kind,
+/// Why the value is not what the setting, at the key `path`, wants; nothing when it is.
+std::optional<ValueFault> valueFault(const QString &path, const Setting &setting,
                                      const QString &value);
 
 /// Of a document, in characters; 0 where the configuration gives none.

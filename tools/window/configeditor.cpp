@@ -121,7 +121,8 @@ void ConfigEditor::toggleSwitch()
     if (!item || !item->parent() || libconfig::isGroupItem(*item))
         return;
     const auto [key, value] = libconfig::settingOf(item->text(0));
-    if (tools::kindOf(item->parent()->text(0), key) == tools::KeyKind::Switch)
+    if (const Setting *const setting = tools::findSetting(item->parent()->text(0), key);
+        setting && setting->kind == SettingKind::Switch)
         enter(item, libconfig::settingText(key, value == "true"_L1 ? u"false"_s : u"true"_s));
 }
 

@@ -28,12 +28,13 @@ QStringList proposals(const QTreeWidgetItem &item)
         return texts;
     }
     const QString group = item.parent() ? item.parent()->text(0) : QString();
-    for (const tools::KnownKey &key : tools::knownKeys(group)) {
-        if (key.kind == tools::KeyKind::Switch)
-            texts << libconfig::settingText(key.word, u"true"_s)
-                  << libconfig::settingText(key.word, u"false"_s);
+    for (const Setting *const setting : tools::settingsOf(group)) {
+        const QLatin1StringView word(setting->word);
+        if (setting->kind == SettingKind::Switch)
+            texts << libconfig::settingText(word, u"true"_s)
+                  << libconfig::settingText(word, u"false"_s);
         else
-            texts << libconfig::settingText(key.word, {});
+            texts << libconfig::settingText(word, {});
     }
     return texts;
 }
