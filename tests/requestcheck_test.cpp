@@ -2,7 +2,6 @@
 #include "tools/check/requestcheck.h"
 
 #include "tests/recordingdevice.h"
-#include "tools/check/codes.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -204,8 +203,8 @@ TEST(RequestCheck, FindsEachFaultAndNothingBesideIt)
             seen.insert(pair.code);
         }
     }
-    for (const requestcheck::codes::Code &code : requestcheck::codes::all)
-        EXPECT_TRUE(seen.contains(code.name.data())) << code.name.data();
+    for (const requestcheck::CodeRow &code : requestcheck::codes)
+        EXPECT_TRUE(seen.contains(std::string(code.name))) << code.name;
 }
 
 TEST(RequestCheck, PointsAtTagsAndAttributesInEveryEncoding)
@@ -371,10 +370,9 @@ TEST(RequestCheck, KnowsTheEncodingAndTheLabelsOfThePrintFile)
 TEST(RequestCheck, IsDocumented)
 {
     const QByteArray manual = support::readFile(support::sourceDir() + u"/man/zentaro-check.1"_s);
-    for (const requestcheck::codes::Code &code : requestcheck::codes::all)
-        EXPECT_TRUE(manual.contains(QByteArray(".It Cm ") + code.name.data() + '\n'))
-            << code.name.data();
-    EXPECT_EQ(manual.count(".It Cm "), int(requestcheck::codes::all.size()));
+    for (const requestcheck::CodeRow &code : requestcheck::codes)
+        EXPECT_TRUE(manual.contains(QByteArray(".It Cm ") + code.name.data() + '\n')) << code.name;
+    EXPECT_EQ(manual.count(".It Cm "), int(std::size(requestcheck::codes)));
 }
 
 } // namespace

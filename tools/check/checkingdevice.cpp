@@ -12,13 +12,6 @@ namespace requestcheck {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr std::array methodAttributes = {AttributeUse{"name"_L1}};
-constexpr ElementRow methodRow{element::method, 0, methodAttributes};
-
-} // namespace
-
 CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &findings,
                                bool isConfigured)
     : CompanyPrinterDriver(u"/dev/null"_s)
@@ -34,9 +27,9 @@ CheckingDevice::~CheckingDevice()
     stream.reset(); // before the text that it writes to
 }
 
-void CheckingDevice::tell(const codes::Code &code, const QString &text, tools::Place at)
+void CheckingDevice::tell(Code code, const QString &text, tools::Place at)
 {
-    findings.add({code.severity, code.name, text, at, -1});
+    findings.add(finding(code, text, at));
 }
 
 tools::Place CheckingDevice::placeOf(QLatin1StringView attribute) const
@@ -74,7 +67,7 @@ bool CheckingDevice::skippedEntity(const QString &name)
 {
     tools::Place at = places.last(); // its semicolon
     at.column -= name.size() + 1;
-    tell(codes::unknownEntity,
+    tell("unknown-entity",
          tools::excerpt(u'&' + name + u';') + " is not declared, and prints nothing"_L1, at);
     return CompanyPrinterDriver::skippedEntity(name);
 }
@@ -82,7 +75,7 @@ bool CheckingDevice::skippedEntity(const QString &name)
 bool CheckingDevice::endDocument()
 {
     if (method < 0)
-        tell(codes::noMethod, u"the request has no `method` element, and prints nothing"_s, root);
+        tell("no-method", u"the request has no `method` element, and prints nothing"_s, root);
     return CompanyPrinterDriver::endDocument();
 }
 
@@ -95,7 +88,7 @@ bool CheckingDevice::startMethod(const QXmlAttributes &atts)
         std::vector<QString> names;
         for (const DocumentMethod &other : methods)
             names.push_back(other.name);
-        tell(codes::unknownMethod,
+        tell("unknown-method",
              (atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
                                         : "unknown method "_L1 + tools::excerpt(name))
                  + tools::suggestion(name, names) + ": the print run stops here"_L1,
@@ -103,16 +96,15 @@ bool CheckingDevice::startMethod(const QXmlAttributes &atts)
         return false;
     }
     if (method >= 0)
-        tell(codes::secondMethod, u"a second `method`, which opens another section"_s,
-             places.tag());
+        tell("second-method", u"a second `method`, which opens another section"_s, places.tag());
     method = chosen - methods.data();
     knownElements = elementsOf(method);
     if (knownElements.empty())
-        tell(codes::printsNothing, u'`' + name + "` prints nothing, whatever the request holds"_L1,
+        tell("prints-nothing", u'`' + name + "` prints nothing, whatever the request holds"_L1,
              places.tag());
-    current.row = &methodRow;
+    current.row = &methodElement();
     for (int i = 0; i < atts.count(); ++i) {
-        if (fateOf(methodRow, atts, i, settings) == Fate::Unread)
+        if (fateOf(*current.row, atts, i, settings) == Fate::Unread)
             tellUnread(i);
     }
     return true;
@@ -129,7 +121,7 @@ void CheckingDevice::checkElement()
             checkUnknownElement();
     } else if (const bool isKnown = isKnownElement(current.name); !isRoot || isKnown) {
         const std::array method = {element::method.toString()};
-        tell(codes::beforeMethod,
+        tell("before-method",
              tools::excerpt(current.name)
                  + " stands before the `method` element and prints nothing"_L1
                  + (isKnown ? QString() : tools::suggestion(current.name, method)),
@@ -139,7 +131,7 @@ void CheckingDevice::checkElement()
 
 void CheckingDevice::checkUnknownElement()
 {
-    const codes::Code &code = codes::unknownElement;
+    Code code = "unknown-element";
     tell(code,
          findings.isFull(code.name)
              ? QString()
@@ -153,7 +145,7 @@ void CheckingDevice::checkAttributes()
     const ElementRow &row = *current.row;
     if (row.rest == Rest::Ignored) {
         if (current.atts.count() > 0)
-            tell(codes::printsNothing,
+            tell("prints-nothing",
                  u'`' + current.name + "` prints nothing in `"_L1 + currentMethod
                      + "`, its payments included"_L1,
                  places.tag());
@@ -195,16 +187,16 @@ void CheckingDevice::tellUnread(int position)
     const QString name = current.atts.qName(position);
     const tools::Place at = places.attribute(position);
     if (current.row->find(name)) {
-        tell(codes::duplicateAttribute,
+        tell("duplicate-attribute",
              "a second `"_L1 + name + "` in `"_L1 + current.name + "` is not read"_L1, at);
         return;
     }
     std::vector<QString> names;
-    if (!findings.isFull(codes::unknownAttribute.name)) {
+    if (!findings.isFull(Code("unknown-attribute").name)) {
         for (const AttributeUse &use : current.row->attributes)
             names.push_back(use.name);
     }
-    tell(codes::unknownAttribute,
+    tell("unknown-attribute",
          u'`' + current.name + "` does not read "_L1 + tools::excerpt(name)
              + tools::suggestion(name, names),
          at);
@@ -225,7 +217,7 @@ void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QStr
         return;
     const QString key = docPath + found->keyWord;
     if (toldSwitches.insert(key).second)
-        tell(codes::switchOff, u'`' + key + "` is off: `"_L1 + what + "` is not printed"_L1, at);
+        tell("switch-off", u'`' + key + "` is off: `"_L1 + what + "` is not printed"_L1, at);
 }
 
 void CheckingDevice::checkMissing()
@@ -237,7 +229,7 @@ void CheckingDevice::checkMissing()
         if (isOff(use.onlyIf) || use.need != Need::Expected || current.atts.index(use.name) >= 0)
             continue;
         const auto instead = use.column == Column::Sign ? "`-`"_L1 : "empty"_L1;
-        tell(codes::missingAttribute,
+        tell("missing-attribute",
              u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints "_L1 + instead,
              places.tag());
     }
@@ -251,7 +243,7 @@ void CheckingDevice::checkTriples()
     for (int i = 0; i < first; ++i) {
         const int position = current.atts.index(named[size_t(i)].name);
         if (position >= first || (position < 0 && current.atts.count() > first))
-            tell(codes::attributeOrder,
+            tell("attribute-order",
                  u'`' + named[size_t(i)].name
                      + "` has to stand before the documents, which are read by position"_L1,
                  places.attribute(position));
@@ -259,7 +251,7 @@ void CheckingDevice::checkTriples()
     constexpr int PerDocument = 3;
     const int missing = (PerDocument - (current.atts.count() - first) % PerDocument) % PerDocument;
     if (current.atts.count() > first && missing > 0)
-        tell(codes::missingAttribute,
+        tell("missing-attribute",
              "the last document of `"_L1 + current.name + "` lacks "_L1 + QString::number(missing)
                  + " of its 3 attributes"_L1,
              places.attribute(current.atts.count() - 1));

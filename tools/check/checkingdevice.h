@@ -2,8 +2,8 @@
 #pragma once
 
 #include "render/companyprinterdriver.h"
-#include "tools/check/codes.h"
 #include "tools/check/elementtable.h"
+#include "tools/check/requestcheck.h"
 #include "tools/check/tagplaces.h"
 
 #include <set>
@@ -43,7 +43,7 @@ private:
         const ElementRow *row = nullptr; ///< null: the method does not react to it
     };
 
-    void tell(const codes::Code &code, const QString &text, tools::Place at);
+    void tell(Code code, const QString &text, tools::Place at);
     tools::Place placeOf(QLatin1StringView attribute) const;
     bool isOff(bool DocumentSettings::*aSwitch) const; ///< not for null, which is no switch
 

@@ -35,118 +35,204 @@ constexpr quint16 Fiscals = FullFiscal | AbstractFiscal;
 constexpr quint16 WithCustomer = Tickets | Full | FullReceipt | Invoices;
 constexpr quint16 Lists = WithCustomer | Receipts | Report | Sold | Statement;
 
+constexpr quint16 Types = AbstractReceipt | AbstractInvoice;
+
+// In the order of documentMethods().
+constexpr auto summaries = std::to_array<QLatin1StringView>({
+    "The ticket that carries an order to where it is prepared: quantities and names"_L1,
+    "The pre-bill: items with prices"_L1,
+    "The receipt, one line per item"_L1,
+    "The invoice, one line per item"_L1,
+    "The delivery note: its items are printed as on a ticket"_L1,
+    "The fiscal receipt: a command line per item for the fiscal printer"_L1,
+    "An order in summary: it prints nothing"_L1,
+    "The receipt, one line per type of item"_L1,
+    "The invoice, one line per type of item"_L1,
+    "The fiscal receipt, one command line per type of item"_L1,
+    "The summary of a period"_L1,
+    "The items sold in a period"_L1,
+    "A customer's statement of account"_L1,
+});
+
 using S = DocumentSettings;
-using Uses = std::span<const AttributeUse>;
+using A = AttributeUse;
 using enum Column;
 
-constexpr auto kept(QLatin1StringView name)
-{
-    return AttributeUse{name, None, nullptr, Need::Kept};
-}
-constexpr auto checked(QLatin1StringView name)
-{
-    return AttributeUse{name, None, nullptr, Need::Checked};
-}
+constexpr A number{"number"_L1, "how many"_L1, Quantity};
+constexpr A name{"name"_L1, "what it is"_L1, Description};
+constexpr A price{"price"_L1, "the price of one"_L1, Price};
+constexpr A totalPrice{"totalPrice"_L1, "the price of all of them"_L1, Total};
+constexpr A sign{"quantity"_L1,
+                 "-1 or 0 for what is left away, 1 for what is added, or a number"_L1, Sign};
+constexpr A amount{"price"_L1, "the amount"_L1, Total};
+constexpr A count{"number"_L1, "how many there are"_L1};
+constexpr A sum{"total"_L1, "their amount"_L1};
+constexpr A firstSerial{"firstserial"_L1, "the number of the first"_L1};
+constexpr A lastSerial{"lastserial"_L1, "the number of the last"_L1};
+constexpr A department{"department"_L1, "the fiscal printer's department, a number"_L1, None,
+                       nullptr, Need::Checked};
+constexpr A fiscalNumber{"number"_L1, "how many: digits with one point at most"_L1, None, nullptr,
+                         Need::Checked};
+constexpr A fiscalPrice{"price"_L1, "the price: digits with one point at most"_L1, None, nullptr,
+                        Need::Checked};
+constexpr A fiscalName{"name"_L1, "what it is, without double quotes"_L1};
+constexpr std::span<const A> none;
 
-constexpr std::array printers = {AttributeUse{"name"_L1}, kept("charsize"_L1), kept("ipaddress"_L1),
-                                 kept("port"_L1)};
-constexpr std::array serialNumber = {AttributeUse{"serialnumber"_L1}};
-constexpr std::array orderInfo = {
-    AttributeUse{"date"_L1, None, &S::printDate},
-    AttributeUse{"time"_L1, None, &S::printTime},
-    AttributeUse{"table"_L1, None, &S::printTable},
-    AttributeUse{"waiter"_L1, None, &S::printWaiter},
-    AttributeUse{"note"_L1, None, &S::printNote},
-    AttributeUse{"credit"_L1, None, &S::printCredit},
+constexpr A printers[] = {
+    {"name"_L1, "the printer's name"_L1},
+    {"charsize"_L1, "the size of its characters, which this printer does not use"_L1, None, nullptr,
+     Need::Kept},
+    {"ipaddress"_L1, "its address, which this printer does not use"_L1, None, nullptr, Need::Kept},
+    {"port"_L1, "its port, which this printer does not use"_L1, None, nullptr, Need::Kept},
 };
-constexpr std::array customer = {
-    AttributeUse{"name"_L1},
-    AttributeUse{"billingaddress"_L1, None, &S::printBillingAddress},
-    AttributeUse{"deliveryaddress"_L1, None, &S::printDeliveryAddress},
-    AttributeUse{"telephone"_L1, None, &S::printTelephone},
-    AttributeUse{"licensenumber"_L1, None, &S::printLicenseNumber},
-    AttributeUse{"fiscalcode"_L1, None, &S::printFiscalCode},
+constexpr A serialNumber[] = {{"serialnumber"_L1, "the document's number"_L1}};
+constexpr A orderInfo[] = {
+    {"date"_L1, "the date of the order"_L1, None, &S::printDate},
+    {"time"_L1, "its time"_L1, None, &S::printTime},
+    {"table"_L1, "the table"_L1, None, &S::printTable},
+    {"waiter"_L1, "who took it"_L1, None, &S::printWaiter},
+    {"note"_L1, "a note on it"_L1, None, &S::printNote},
+    {"credit"_L1, "the customer's credit"_L1, None, &S::printCredit},
+};
+constexpr A customer[] = {
+    {"name"_L1, "the customer's name"_L1},
+    {"billingaddress"_L1, "the address of the bill, its lines between commas"_L1, None,
+     &S::printBillingAddress},
+    {"deliveryaddress"_L1, "the address of delivery, its lines between commas"_L1, None,
+     &S::printDeliveryAddress},
+    {"telephone"_L1, "the telephone number"_L1, None, &S::printTelephone},
+    {"licensenumber"_L1, "the tax number"_L1, None, &S::printLicenseNumber},
+    {"fiscalcode"_L1, "the fiscal code"_L1, None, &S::printFiscalCode},
 };
 
-constexpr auto number = AttributeUse{"number"_L1, Quantity};
-constexpr auto name = AttributeUse{"name"_L1, Description};
-constexpr auto price = AttributeUse{"price"_L1, Price};
-constexpr auto totalPrice = AttributeUse{"totalPrice"_L1, Total};
-constexpr auto sign = AttributeUse{"quantity"_L1, Sign};
+constexpr A ticketItem[] = {number, name};
+constexpr A ticketVariant[] = {number, name, sign};
+constexpr A pricedItem[] = {number, name, price, totalPrice};
+constexpr A pricedVariant[] = {number, name, sign, price, totalPrice};
+constexpr A itemType[] = {number, name, amount};
+constexpr A total[] = {amount};
+constexpr A notPaid[] = {{"price"_L1, "the amount"_L1}};
+constexpr A invoiceTotals[] = {{"taxable"_L1, "the amount that is taxed"_L1, Total},
+                               {"taxrate"_L1, "the rate of the tax"_L1, Total},
+                               {"tax"_L1, "the tax"_L1, Total},
+                               {"total"_L1, "the amount with the tax"_L1, Total}};
+constexpr A fiscalItem[] = {department, fiscalNumber, fiscalName, fiscalPrice};
+constexpr A fiscalType[] = {department, fiscalName, fiscalPrice};
 
-constexpr std::array ticketItem = {number, name};
-constexpr std::array ticketVariant = {number, name, sign};
-constexpr std::array pricedItem = {number, name, price, totalPrice};
-constexpr std::array pricedVariant = {number, name, sign, price, totalPrice};
-constexpr std::array itemType = {number, name, AttributeUse{"price"_L1, Total}};
-constexpr std::array total = {AttributeUse{"price"_L1, Total}};
-constexpr std::array notPaid = {AttributeUse{"price"_L1}};
-constexpr std::array invoiceTotals = {
-    AttributeUse{"taxable"_L1, Total}, AttributeUse{"taxrate"_L1, Total},
-    AttributeUse{"tax"_L1, Total}, AttributeUse{"total"_L1, Total}};
-constexpr std::array fiscalItem = {checked("department"_L1), checked("number"_L1),
-                                   AttributeUse{"name"_L1}, checked("price"_L1)};
-constexpr std::array fiscalType = {checked("department"_L1), AttributeUse{"name"_L1},
-                                   checked("price"_L1)};
-
-constexpr std::array dates = {AttributeUse{"begindate"_L1}, AttributeUse{"enddate"_L1}};
-constexpr std::array prefiscals = {AttributeUse{"number"_L1}, AttributeUse{"total"_L1}};
-constexpr std::array receipts = {
-    AttributeUse{"number"_L1},   AttributeUse{"firstserial"_L1}, AttributeUse{"lastserial"_L1},
-    AttributeUse{"notPaid"_L1},  AttributeUse{"cash"_L1},        AttributeUse{"creditCard"_L1},
-    AttributeUse{"bancomat"_L1}, AttributeUse{"other"_L1},       AttributeUse{"total"_L1},
+constexpr A dates[] = {{"begindate"_L1, "when the period began"_L1},
+                       {"enddate"_L1, "when it ended"_L1}};
+constexpr A prefiscals[] = {count, sum};
+constexpr A receipts[] = {
+    count,
+    firstSerial,
+    lastSerial,
+    {"notPaid"_L1, "the amount that was not paid"_L1},
+    {"cash"_L1, "paid in cash"_L1},
+    {"creditCard"_L1, "paid by credit card"_L1},
+    {"bancomat"_L1, "paid by debit card"_L1},
+    {"other"_L1, "paid in other ways"_L1},
+    sum,
 };
-constexpr std::array taxRate = {AttributeUse{"taxrate"_L1, TaxRate},
-                                AttributeUse{"taxable"_L1, Money}, AttributeUse{"tax"_L1, Money},
-                                AttributeUse{"amount"_L1, Money}};
-constexpr std::array invoices = {
-    AttributeUse{"number"_L1},  AttributeUse{"firstserial"_L1}, AttributeUse{"lastserial"_L1},
-    AttributeUse{"taxable"_L1}, AttributeUse{"tax"_L1},         AttributeUse{"total"_L1},
-};
-constexpr std::array cancelled = {AttributeUse{"number"_L1}, AttributeUse{"totals"_L1}};
-constexpr std::array soldItem = {AttributeUse{"quantity"_L1, Quantity},
-                                 AttributeUse{"description"_L1, Description},
-                                 AttributeUse{"amount"_L1, Total}};
-constexpr std::array statement = {AttributeUse{"date"_L1, Date},
-                                  AttributeUse{"type"_L1, Description},
-                                  AttributeUse{"amount"_L1, DateAmount}};
+constexpr A taxRate[] = {{"taxrate"_L1, "the rate, without a sign"_L1, TaxRate},
+                         {"taxable"_L1, "the amount that is taxed"_L1, Money},
+                         {"tax"_L1, "the tax"_L1, Money},
+                         {"amount"_L1, "the amount with the tax"_L1, Money}};
+constexpr A invoices[] = {count,
+                          firstSerial,
+                          lastSerial,
+                          {"taxable"_L1, "the amount that is taxed"_L1},
+                          {"tax"_L1, "the tax"_L1},
+                          sum};
+constexpr A cancelled[] = {count, {"totals"_L1, "their amount"_L1}};
+constexpr A soldItem[] = {{"quantity"_L1, "how many"_L1, Quantity},
+                          {"description"_L1, "what it is"_L1, Description},
+                          {"amount"_L1, "the price of all of them"_L1, Total}};
+constexpr A statement[] = {
+    {"date"_L1, "when it was"_L1, Date},
+    {"type"_L1,
+     "what it was, in English; printed in the language of the labels are Payment, Receipt, "
+     "Invoice, Credit note, Opening balance and Balance"_L1,
+     Description},
+    {"amount"_L1, "the amount"_L1, DateAmount}};
 
-constexpr std::array rows = {
-    ElementRow{element::printers, Lists, printers},
-    ElementRow{element::geometry, Lists, Uses(), &S::printGeometry},
-    ElementRow{element::headers, Lists, Uses(), &S::printHeader, Rest::InOrder},
-    ElementRow{element::logo, Lists, Uses()},
-    ElementRow{element::company, Lists, Uses(), &S::printCompany, Rest::InOrder},
-    ElementRow{element::receipt, Lists, serialNumber},
-    ElementRow{element::invoice, Lists, serialNumber},
-    ElementRow{element::delivery, Lists, serialNumber},
-    ElementRow{element::orderInfo, Lists, orderInfo},
-    ElementRow{element::customer, WithCustomer, customer, &S::printCustomer},
+constexpr auto change =
+    "a change to the item before it: `-` for a quantity of -1 or 0, `+` for 1, else the quantity "
+    "itself, and the name"_L1;
 
-    ElementRow{element::receipe, Tickets, ticketItem},
-    ElementRow{element::otherReceipe, Tickets, ticketItem},
-    ElementRow{element::variant, Tickets, ticketVariant},
-    ElementRow{element::receipe, Full, pricedItem, nullptr, Rest::Nothing, true},
-    ElementRow{element::receipe, FullReceipt | FullInvoice, pricedItem},
-    ElementRow{element::variant, Full, pricedVariant},
-    ElementRow{element::receipeType, AbstractReceipt | AbstractInvoice, itemType},
-    ElementRow{element::total, Full | Receipts, total},
-    ElementRow{element::notPaid, Receipts, notPaid},
-    ElementRow{element::totals, Invoices, invoiceTotals},
-    ElementRow{element::receipe, FullFiscal, fiscalItem},
-    ElementRow{element::receipeType, AbstractFiscal, fiscalType},
-    ElementRow{element::total, Fiscals, Uses(), nullptr, Rest::Ignored},
+constexpr A methodName[] = {{"name"_L1, "the document method"_L1}};
+constexpr ElementRow methodRow{element::method, 0, "opens the document's section"_L1, methodName};
 
-    ElementRow{element::date, Report, dates},
-    ElementRow{element::prefiscalsSummary, Report, prefiscals},
-    ElementRow{element::receiptsSummary, Report, receipts},
-    ElementRow{element::taxRateItem, Report, taxRate},
-    ElementRow{element::invoicesSummary, Report, invoices},
-    ElementRow{element::cancelledSummary, Report, cancelled, nullptr, Rest::Triples},
-    ElementRow{element::receipe, Sold, soldItem},
-    ElementRow{element::statementList, Statement, Uses()},
-    ElementRow{element::statement, Statement, statement},
-};
+constexpr auto rows = std::to_array<ElementRow>({
+    {element::printers, Lists, "nothing; the name is kept for `headers`"_L1, printers},
+    {element::geometry, Lists, "as many empty lines as `topMargin` says, 1,000 at most"_L1, none,
+     Role::Other, &S::printGeometry, Rest::Nothing, "topMargin"_L1},
+    {element::headers, Lists,
+     "a line for each attribute, whatever its name, and a rule; then, whatever the setting, the "
+     "printer's name centred and a rule. What follows stays centred until an element turns back to "
+     "the left"_L1,
+     none, Role::Other, &S::printHeader, Rest::InOrder},
+    {element::logo, Lists, "nothing on this printer"_L1, none},
+    {element::company, Lists, "a centred line for each attribute and a rule"_L1, none, Role::Other,
+     &S::printCompany, Rest::InOrder},
+    {element::receipt, Lists, "the serial number and a rule"_L1, serialNumber},
+    {element::invoice, Lists, "the invoice number and a rule"_L1, serialNumber},
+    {element::delivery, Lists, "the delivery number and a rule"_L1, serialNumber},
+    {element::orderInfo, Lists,
+     "a labelled line for each attribute whose setting is on, and a rule"_L1, orderInfo},
+    {element::customer, WithCustomer,
+     "nothing at all without `printCustomer`; else a title, the name, a line for each part of the "
+     "addresses between commas (up to an empty part), labelled lines and a rule"_L1,
+     customer, Role::Other, &S::printCustomer},
+
+    {element::receipe, Tickets, "the item"_L1, ticketItem, Role::Item},
+    {element::otherReceipe, Tickets,
+     "the item, in another character size where the printer has one"_L1, ticketItem, Role::Item},
+    {element::variant, Tickets, change, ticketVariant},
+    {element::receipe,
+     Full,
+     "the column titles above the first item, and the item; nothing when the name begins with "
+     "`=`"_L1,
+     pricedItem,
+     Role::Item,
+     nullptr,
+     Rest::Nothing,
+     {},
+     true},
+    {element::receipe, FullReceipt | FullInvoice,
+     "the column titles above the first item, and the item"_L1, pricedItem, Role::Item},
+    {element::variant, Full, change, pricedVariant},
+    {element::receipeType, Types,
+     "the column titles above the first line, and the type with its amount"_L1, itemType,
+     Role::Item},
+    {element::total, Full | Receipts, "an empty line and the total"_L1, total, Role::Total},
+    {element::notPaid, FullReceipt, "an empty line and the amount that was not paid"_L1, notPaid},
+    {element::notPaid, AbstractReceipt,
+     "an empty line and the amount that was not paid, under an Italian title in every language"_L1,
+     notPaid},
+    {element::totals, Invoices, "an empty line and the four amounts"_L1, invoiceTotals,
+     Role::Total},
+    {element::receipe, FullFiscal,
+     "the item's command; the name is cut to `descriptionWidth` characters, 32 without the "
+     "setting"_L1,
+     fiscalItem, Role::Item, nullptr, Rest::Nothing, "descriptionWidth"_L1},
+    {element::receipeType, AbstractFiscal,
+     "the command, with a quantity of 1; the name is not cut"_L1, fiscalType, Role::Item},
+    {element::total, Fiscals, "nothing"_L1, none, Role::Other, nullptr, Rest::Ignored},
+
+    {element::date, Report, "the title and the two dates"_L1, dates},
+    {element::prefiscalsSummary, Report, "the pre-bills"_L1, prefiscals},
+    {element::receiptsSummary, Report,
+     "the receipts, their payments, and the titles of the table of tax rates"_L1, receipts},
+    {element::taxRateItem, Report, "a row of the table of tax rates"_L1, taxRate},
+    {element::invoicesSummary, Report, "the invoices"_L1, invoices},
+    {element::cancelledSummary, Report,
+     "the cancelled documents. `number` and `totals` have to come first; serial, total and tax "
+     "rate of each document follow in this order, whatever the attributes are called"_L1,
+     cancelled, Role::Other, nullptr, Rest::Triples},
+    {element::receipe, Sold, "the item"_L1, soldItem},
+    {element::statementList, Statement, "the column titles"_L1, none},
+    {element::statement, Statement, "a movement"_L1, statement},
+});
 
 bool reads(const ElementRow &row, qsizetype method)
 {
@@ -204,6 +290,11 @@ const ElementRow *elementRow(QStringView element, qsizetype method)
     return found == rows.end() ? nullptr : found;
 }
 
+const ElementRow &methodElement()
+{
+    return methodRow;
+}
+
 std::vector<QString> elementsOf(qsizetype method)
 {
     std::vector<QString> names;
@@ -217,6 +308,11 @@ std::vector<QString> elementsOf(qsizetype method)
 bool isKnownElement(QStringView element)
 {
     return std::ranges::find(rows, element, &ElementRow::element) != rows.end();
+}
+
+QLatin1StringView summaryOf(qsizetype method)
+{
+    return summaries.at(size_t(method));
 }
 
 std::span<const ElementRow> elementRows()

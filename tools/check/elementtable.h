@@ -40,6 +40,7 @@ enum class Need {
 struct AttributeUse
 {
     QLatin1StringView name;
+    QLatin1StringView text; ///< what its value is, for the documentation
     Column column = Column::None;
     bool DocumentSettings::*onlyIf = nullptr; ///< the switch that it is printed under
     Need need = Need::Expected;
@@ -53,15 +54,21 @@ enum class Rest {
     Ignored, ///< the element prints nothing, and takes any
 };
 
+/// What an element is for its document, which is incomplete without one of each that it reads.
+enum class Role { Other, Item, Total };
+
 /// An element as some document methods read it.
 struct ElementRow
 {
     QStringView element;
-    quint16 methods; ///< bit i: the method at i of documentMethods
+    quint16 methods;          ///< bit i: the method at i of documentMethods
+    QLatin1StringView prints; ///< what it prints, for the documentation; words in backquotes
     std::span<const AttributeUse> attributes;
+    Role role = Role::Other;
     bool DocumentSettings::*onlyIf = nullptr; ///< the switch that its attributes are printed under
     Rest rest = Rest::Nothing;
-    bool hidesMarked = false; ///< an item whose name begins with `=` is never printed
+    QLatin1StringView setting{}; ///< the key word of another setting that shapes it
+    bool hidesMarked = false;    ///< an item whose name begins with `=` is never printed
 
     /// Whether it prints nothing with these attributes, whatever the settings.
     bool isHidden(const QXmlAttributes &atts) const;
@@ -73,8 +80,12 @@ struct ElementRow
 
 /// The element as the method at `method` of documentMethods reads it, or null.
 const ElementRow *elementRow(QStringView element, qsizetype method);
+/// The element that names the document method, which all documents read.
+const ElementRow &methodElement();
 /// The elements that a method reacts to, those of the top of a document first.
 std::vector<QString> elementsOf(qsizetype method);
+/// What a document is, in half a sentence.
+QLatin1StringView summaryOf(qsizetype method);
 /// Whether any method reacts to the element.
 bool isKnownElement(QStringView element);
 /// All rows.

@@ -2,11 +2,12 @@
 #include "tools/check/checkingdevice.h"
 
 #include "render/vocabulary.h"
+#include "text/localeencoding.h"
 #include "tools/terminal.h"
 
-#include <algorithm>
+#include <QTextCodec>
 
-// What goes wrong on the paper: the device's own lines, looked at as they were written.
+#include <algorithm>
 
 namespace requestcheck {
 
@@ -55,7 +56,99 @@ bool isNumber(QStringView text, int mostPoints)
     return digits > 0 && text.count(u'.') <= mostPoints && digits + text.count(u'.') == text.size();
 }
 
+bool isLineEnd(QChar c)
+{
+    return c == u'\n' || c == u'\r';
+}
+
+bool isControl(QChar c)
+{
+    return c.unicode() < 0x20 || (c.unicode() >= 0x7F && c.unicode() < 0xA0);
+}
+
+bool isAscii(QStringView text)
+{
+    return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
+}
+
+/// The first character of the text that the codec writes as `?`; empty without one.
+QString firstUnknown(QStringView text, QTextCodec *codec)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size();
+        const QStringView character = text.sliced(i, isPair ? 2 : 1);
+        i += isPair ? 1 : 0;
+        if (!isAscii(character) && text::encoded(character, codec) == "?")
+            return character.toString();
+    }
+    return {};
+}
+
 } // namespace
+
+// What the value of an attribute does to the line that it is printed in.
+
+void CheckingDevice::checkValue(int position)
+{
+    const QString value = current.atts.value(position);
+    const QString name = tools::excerpt(current.atts.qName(position));
+    const tools::Place at = places.attribute(position);
+    checkCharacters(value, name, at);
+    checkEncoding(value, name, at);
+    const AttributeUse *const use = current.row->find(current.atts.qName(position));
+    if (use && use->name.endsWith("address"_L1))
+        checkAddress(value, name, at);
+}
+
+void CheckingDevice::checkCharacters(const QString &value, const QString &name, tools::Place at)
+{
+    if (std::ranges::any_of(value, isLineEnd)) {
+        tell("line-feed",
+             "a line end in "_L1 + name + ": the printer takes what follows for a command"_L1, at);
+    } else {
+        const auto *const control = std::ranges::find_if(value, isControl);
+        if (control != value.end())
+            tell("control-character",
+                 "the control character "_L1 + tools::excerpt(QString(*control)) + " in "_L1 + name,
+                 at);
+    }
+    const bool isFramed = !current.row->find(u"department"); // unlike a fiscal command
+    if (isFramed && value.contains("\"@"_L1))
+        tell("end-mark", "`\"@` in "_L1 + name + " ends the printed line early"_L1, at);
+}
+
+void CheckingDevice::checkEncoding(const QString &value, const QString &name, tools::Place at)
+{
+    if (isAscii(value))
+        return;
+    if (value.contains(QChar::ReplacementCharacter)) {
+        tell("undecodable", name + " has bytes that are not in the encoding of the request"_L1, at);
+        return;
+    }
+    QTextCodec *const codec = text::localeCodec();
+    if (!codec) // UTF-8, which has them all
+        return;
+    const QString unknown = firstUnknown(value, codec);
+    if (!unknown.isEmpty())
+        tell("not-in-encoding",
+             tools::excerpt(unknown) + " in "_L1 + name + " prints as `?`: it is not in "_L1
+                 + QString::fromLatin1(codec->name()),
+             at);
+}
+
+/// An empty part between commas ends an address.
+void CheckingDevice::checkAddress(const QString &value, const QString &name, tools::Place at)
+{
+    const qsizetype end = value.startsWith(u',') ? 0 : value.indexOf(",,"_L1);
+    const QString lost = end < 0 ? QString() : value.sliced(end);
+    if (std::ranges::any_of(lost, [](QChar c) { return c != u',' && !c.isSpace(); }))
+        tell("address-part",
+             "an empty part ends "_L1 + name + ": "_L1 + tools::excerpt(lost)
+                 + " is not printed"_L1,
+             at);
+}
+
+// What goes wrong on the paper: the device's own lines, looked at as they were written.
 
 void CheckingDevice::printSeparatorLine()
 {
@@ -88,7 +181,7 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
         return;
     }
     const auto tellNotCentred = [&](const QString &trouble) {
-        tell(codes::notCentred, tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
+        tell("not-centred", tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
              places.tag());
     };
     const bool isCentred = justify == "center"_L1;
@@ -104,7 +197,7 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
 /// Tells the attributes that are wider than their columns, else the longest in the line.
 void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
 {
-    const codes::Code &code = codes::lineTooLong;
+    Code code = "line-too-long";
     int longest = -1;
     bool isTold = false;
     const auto sizeAt = [this](int i) { return current.atts.value(i).size(); };
@@ -154,7 +247,7 @@ void CheckingDevice::checkDescription()
 
 void CheckingDevice::tellCut(QLatin1StringView attribute, const QString &lost)
 {
-    tell(codes::cutDescription,
+    tell("cut-description",
          u'`' + attribute + "` is cut: "_L1 + tools::excerpt(lost) + " is not printed"_L1,
          placeOf(attribute));
 }
@@ -167,12 +260,12 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
     if (description.size() < name.size())
         tellCut("name"_L1, name.sliced(description.size()));
     if (description.contains(u'"'))
-        tell(codes::fiscalQuote, u"a double quote in `name` ends the description early"_s,
+        tell("fiscal-quote", u"a double quote in `name` ends the description early"_s,
              placeOf("name"_L1));
     checkFiscalNumber("number"_L1, quantity);
     checkFiscalNumber("price"_L1, price);
     if (!isNumber(department, 0))
-        tell(codes::fiscalDepartment,
+        tell("fiscal-department",
              department.isEmpty()
                  ? u"the item has no `department`"_s
                  : "the department "_L1 + tools::excerpt(department) + " is no number"_L1,
@@ -182,7 +275,7 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
 void CheckingDevice::checkFiscalNumber(QLatin1StringView attribute, const QString &value)
 {
     if (!isNumber(value, 1))
-        tell(codes::fiscalNumber,
+        tell("fiscal-number",
              value.isEmpty() ? "the item has no `"_L1 + attribute + u'`'
                              : u'`' + attribute + "` is "_L1 + tools::excerpt(value)
                                    + ": a fiscal command takes digits and at most one point"_L1,
