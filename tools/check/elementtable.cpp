@@ -37,7 +37,7 @@ constexpr quint16 Lists = WithCustomer | Receipts | Report | Sold | Statement;
 
 constexpr quint16 Types = AbstractReceipt | AbstractInvoice;
 
-// In the order of documentMethods().
+// In the order of documentMethods.
 constexpr auto summaries = std::to_array<QLatin1StringView>({
     "The ticket that carries an order to where it is prepared: quantities and names"_L1,
     "The pre-bill: items with prices"_L1,
@@ -53,6 +53,7 @@ constexpr auto summaries = std::to_array<QLatin1StringView>({
     "The items sold in a period"_L1,
     "A customer's statement of account"_L1,
 });
+static_assert(summaries.size() == documentMethods.size());
 
 using S = DocumentSettings;
 using A = AttributeUse;
