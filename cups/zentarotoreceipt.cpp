@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: MIT
+// The filter of the queues of receipt printers: the print scheduler starts it for every request, as
+//     QUEUE JOB USER TITLE COPIES OPTIONS [FILE]
+// and sends what it writes to the printer. It tells what is wrong as such filters do, in lines with
+// a level on standard error. A status other than 0 stops the job, which waits for a person.
+#include "app/syncsingleton.h"
+#include "app/translation.h"
+#include "app/ztconfiguration.h"
+#include "render/companyprinterdriver.h"
+#include "render/requestreader.h"
+#include "text/localefile.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTextCodec>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+#include <sys/ioctl.h>
+#include <sys/mman.h>
+#include <sys/sendfile.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A document of more is a mistake; it is in memory until it is whole.
+constexpr qint64 MaxDocumentBytes = qint64(64) * 1'024 * 1'024;
+
+/// What the printer's state shows from a faulty request to the next one in order.
+constexpr char FaultyReason[] = "zentaro.request-faulty-warning";
+
+/// Tells the scheduler something, in one line of what it keeps and shows; "ERROR", "WARNING"...
+void tell(const char *level, QString message)
+{
+    for (QChar &c : message)
+        c = c.isPrint() ? c : u' ';
+    std::fprintf(stderr, "%s: %s\n", level, message.left(500).toUtf8().constData());
+}
+
+/// Waits, a second at most, until the scheduler has read what it was told: it shows "Filter failed"
+/// instead when it sees the end of the filter first.
+void waitUntilHeard()
+{
+    int unread = 0;
+    for (int i = 0; i < 200 && ioctl(STDERR_FILENO, FIONREAD, &unread) == 0 && unread > 0; ++i)
+        usleep(5'000);
+}
+
+[[noreturn]] void endWithoutMemory()
+{
+    std::fputs("ERROR: There is not enough memory to print the request\n", stderr);
+    waitUntilHeard();
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// An option of the job, of which the last counts, from the words of a line in which blanks, quotes
+/// and backslashes are escaped; empty when it is not there.
+QByteArray jobOption(const char *line, QByteArrayView name)
+{
+    QByteArray word;
+    QByteArray value;
+    const auto endWord = [&] {
+        if (qstrnicmp(word, name.data(), name.size()) == 0 && word.mid(name.size(), 1) == "=")
+            value = word.sliced(name.size() + 1);
+        word.clear();
+    };
+    char quote = '\0';
+    for (const char *c = line; *c != '\0'; ++c) {
+        if (*c == '\\' && c[1] != '\0')
+            word += *++c;
+        else if (quote != '\0' ? *c == quote : *c == '"' || *c == '\'')
+            quote = quote == '\0' ? *c : '\0';
+        else if (quote == '\0' && *c == ' ')
+            endWord();
+        else
+            word += *c;
+    }
+    endWord();
+    return value;
+}
+
+/// An option as the queue has it in its printer description; empty when it has none.
+QByteArray queueOption(const QByteArray &name)
+{
+    QFile description(qEnvironmentVariable("PPD", u"/dev/null"_s));
+    if (!description.open(QIODevice::ReadOnly))
+        return {};
+    while (!description.atEnd()) {
+        const QByteArray line = description.readLine();
+        if (line.startsWith("*Default" + name + ':'))
+            return line.sliced(line.indexOf(':') + 1).trimmed();
+    }
+    return {};
+}
+
+QByteArray option(const char *line, const QByteArray &name)
+{
+    const QByteArray ofJob = jobOption(line, name);
+    return ofJob.isEmpty() ? queueOption(name) : ofJob;
+}
+
+/// The codec of the print file; null, for UTF-8, where nothing else is wanted or known.
+QTextCodec *codecOf(const QByteArray &encoding)
+{
+    if (encoding.isEmpty() || encoding == "UTF-8")
+        return nullptr;
+    QTextCodec *const codec = QTextCodec::codecForName(encoding);
+    if (!codec)
+        tell("WARNING", "The encoding %1 is not known; the print file is in UTF-8"_L1.arg(
+                            QString::fromUtf8(encoding)));
+    return codec;
+}
+
+/// The file with the settings of the queue; of all queues where it has none of its own.
+QString settingsFile(const QString &queue)
+{
+    const QString own = ZTConfiguration::queueFile(queue);
+    QString file = QFile::exists(own) ? own : ZTConfiguration::queueFile();
+    if (!QFileInfo(file).isReadable())
+        tell("WARNING", "The settings in %1 cannot be read; it prints without"_L1.arg(file));
+    return file;
+}
+
+/// Where the reading of a request is, and why it ended before the request did.
+class Progress : public requestreader::Observer
+{
+public:
+    void taken(QStringView text, bool utf8) override
+    {
+        for (const QChar c : text) {
+            lastLine = line;
+            lastColumn = column;
+            column += utf8 ? sizeInUtf8(c) : 1;
+            if (c == u'\n') {
+                ++line;
+                column = 1;
+            }
+        }
+    }
+    void stopped(requestreader::Stop, const QString &word) override
+    {
+        fault = word.isEmpty() ? u"a limit of the print run is exceeded"_s : word;
+    }
+
+    /// The last character that was read; columns count bytes in UTF-8, else characters.
+    QString place() const { return u"line %1, column %2"_s.arg(lastLine).arg(lastColumn); }
+    bool isAtStart() const { return lastLine == 0; }
+
+    QString fault; ///< empty when the request was read to its end
+
+private:
+    /// Each half of a surrogate pair has half of its four bytes.
+    static int sizeInUtf8(QChar c)
+    {
+        return c.unicode() < 0x80 ? 1 : c.unicode() < 0x800 || c.isSurrogate() ? 2 : 3;
+    }
+
+    int line = 1;
+    int column = 1;
+    int lastLine = 0;
+    int lastColumn = 0;
+};
+
+/// The printer, which learns what is not printed and why.
+class ReceiptPrinter : public CompanyPrinterDriver
+{
+public:
+    using CompanyPrinterDriver::CompanyPrinterDriver;
+
+    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+                      const QXmlAttributes &atts) override
+    {
+        const bool goesOn =
+            CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
+        if (!goesOn)
+            refusal = u"the method `%1` is not known"_s.arg(atts.value(u"name"_s));
+        return goesOn;
+    }
+    void startSection() override
+    {
+        hasSection = true;
+        CompanyPrinterDriver::startSection();
+    }
+    /// Writes what is on its way to the print file.
+    void end()
+    {
+        stream->flush();
+        if (stream->status() != QTextStream::Ok)
+            refusal = "its print file cannot be written: "_L1 + file->errorString();
+    }
+
+    bool hasSection = false; ///< without one there is nothing to print
+    QString refusal;         ///< why the printer takes no more; empty while it does
+};
+
+/// What became of a request.
+struct Outcome
+{
+    bool isPrintable; ///< there is a section
+    QString fault;    ///< what is wrong with the request; empty when it is in order
+};
+
+/// Reads the request and writes its print file on `descriptor`.
+Outcome render(QIODevice &request, int descriptor, QTextCodec *codec)
+{
+    auto file = std::make_unique<text::LocaleFile>(QString(), codec);
+    file->limitTo(MaxDocumentBytes);
+    file->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered);
+    ReceiptPrinter printer(std::move(file));
+    Progress progress;
+    requestreader::read(request, printer, &progress);
+    printer.end();
+    if (progress.isAtStart())
+        return {false, u"the request is empty"_s};
+    if (!printer.refusal.isEmpty() || !progress.fault.isEmpty())
+        return {printer.hasSection,
+                progress.place() + ": "_L1
+                    + (printer.refusal.isEmpty() ? progress.fault : printer.refusal)};
+    return {printer.hasSection, printer.hasSection ? QString() : u"the request names no method"_s};
+}
+
+/// Sends the print file to the printer as often as there are copies; false when nobody takes it.
+bool send(int descriptor, int output, int copies)
+{
+    const off_t size = lseek(descriptor, 0, SEEK_END);
+    for (int i = 0; i < copies; ++i) {
+        for (off_t at = 0; at < size;) {
+            if (sendfile(output, descriptor, &at, size_t(size - at)) <= 0)
+                return false;
+        }
+    }
+    return true;
+}
+
+/// Shows in the state of the printer whether its last request was faulty.
+void tellState(bool faulty)
+{
+    if (faulty || qgetenv("PRINTER_STATE_REASONS").contains(FaultyReason))
+        std::fprintf(stderr, "STATE: %c%s\n", faulty ? '+' : '-', FaultyReason);
+}
+
+/// Prints the job of these arguments on `output`; answers the exit status.
+int printJob(int argc, char **argv, int output)
+{
+    QFile request(argc > 6 ? QFile::decodeName(argv[6]) : QString());
+    if (argc > 6 ? !request.open(QIODevice::ReadOnly) : !request.open(0, QIODevice::ReadOnly)) {
+        tell("ERROR", "Not printed: the request cannot be read: "_L1 + request.errorString());
+        return EXIT_FAILURE;
+    }
+    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
+    const Outcome outcome = render(request, descriptor, codecOf(option(argv[5], "Encoding")));
+    const bool isFaulty = !outcome.fault.isEmpty();
+    tellState(isFaulty);
+    if (!outcome.isPrintable || (isFaulty && option(argv[5], "Faulty") == "hold")) {
+        tell("ERROR", "Not printed: "_L1 + outcome.fault);
+        return EXIT_FAILURE;
+    }
+    if (isFaulty)
+        tell("ERROR", "Printed as far as the request goes: "_L1 + outcome.fault);
+    const int copies = qMax(1, atoi(argv[4]));
+    if (!send(descriptor, output, copies))
+        return EXIT_FAILURE; // of which the scheduler knows
+    std::fprintf(stderr, "PAGE: 1 %d\n", copies);
+    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 6 && argc != 7) {
+        std::fputs("Usage: zentarotoreceipt job user title copies options [file]\n", stderr);
+        return EXIT_FAILURE;
+    }
+    std::set_terminate(endWithoutMemory);
+    // Standard output is the printer: what the print run tells there goes to the scheduler's log.
+    const int output = dup(STDOUT_FILENO);
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+    int words = 1; // the others are not the toolkit's
+    const QCoreApplication application(words, argv);
+    const QString queue = qEnvironmentVariable("PRINTER", QFile::decodeName(argv[0]));
+    ZTConfiguration settings(settingsFile(queue), u"cfg"_s);
+    SyncSingleton<ZTConfiguration>::instance_pointer = &settings;
+    QTranslator translator; // without a translation the texts stay as they are
+    loadTranslation(translator, settings);
+    QCoreApplication::installTranslator(&translator);
+    const int status = printJob(argc, argv, output);
+    if (status != EXIT_SUCCESS)
+        waitUntilHeard();
+    return status;
+}
