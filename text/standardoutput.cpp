@@ -2,17 +2,44 @@
 #include "text/standardoutput.h"
 
 #include <cstdio>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace text {
 
+namespace {
+
+void writeLine(QByteArrayView line, std::FILE *file)
+{
+    std::fwrite(line.data(), 1, size_t(line.size()), file);
+    std::fputc('\n', file);
+    std::fflush(file);
+}
+
+constinit LineSink::Take sink = nullptr; // standard output
+
+} // namespace
+
 void printLine(QByteArrayView line)
 {
-    std::fwrite(line.data(), 1, size_t(line.size()), stdout);
-    std::fputc('\n', stdout);
-    std::fflush(stdout);
+    sink ? sink(line) : writeLine(line, stdout);
+}
+
+LineSink::LineSink(Take take)
+    : before(std::exchange(sink, take))
+{
+}
+
+LineSink::~LineSink()
+{
+    sink = before;
+}
+
+void LineSink::toErrors(QByteArrayView line)
+{
+    writeLine(line, stderr);
 }
 
 void reserveStandardStreams()

@@ -4,7 +4,7 @@
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
 #include "render/vocabulary.h"
-#include "tools/requests/divertedoutput.h"
+#include "text/standardoutput.h"
 
 #include <QXmlLocator>
 
@@ -109,7 +109,7 @@ std::optional<int> Trace::paperWidthAt(qint64 offset) const
 
 Rendering render(QIODevice &request, const QString &printName, bool traceElements)
 {
-    const tools::DivertedOutput diverted(tools::DivertedOutput::Target::Errors);
+    const text::LineSink errors(text::LineSink::toErrors);
     TracingPrinter printer(printName, traceElements);
     const bool whole = requestreader::read(request, printer);
     Rendering rendering;

@@ -4,9 +4,9 @@
 #include "app/syncsingleton.h"
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
+#include "text/standardoutput.h"
 #include "tools/config/outline.h"
 #include "tools/config/source.h"
-#include "tools/requests/divertedoutput.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -53,7 +53,7 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
         return false;
     }
     // The first use reads the user's own file, whose absence is told by whoever minds it.
-    const DivertedOutput diverted(DivertedOutput::Target::Nowhere);
+    const text::LineSink quiet(text::LineSink::drop);
     ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();
     if (!isOwn)
         configuration->readFile(path, configtool::formatOf(path));
