@@ -20,13 +20,16 @@ QString inLatin1(const QString &text)
 } // namespace
 
 ZTConfiguration::ZTConfiguration()
+    : ZTConfiguration(userFile())
 {
-    readFile(userFile(), u"cfg"_s);
 }
 
-ZTConfiguration::ZTConfiguration(const QString &fileName, const QString &fileType)
-    : Config(fileName, fileType)
+ZTConfiguration::ZTConfiguration(const QString &cfgFile)
 {
+    // What readFile() does for this format, but without the floor that knows the other.
+    fileName = cfgFile;
+    fileType = u"cfg"_s;
+    loadFile();
 }
 
 QString ZTConfiguration::userFile()

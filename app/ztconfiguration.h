@@ -10,8 +10,13 @@ class ZTConfiguration : public libconfig::Config
 public:
     /// Reads the user's file. A missing one leaves every setting empty.
     ZTConfiguration();
-    /// Another file in the user's place, in the format "cfg" or "xml".
-    ZTConfiguration(const QString &fileName, const QString &fileType);
+    /// Another file in the user's place, in the format "cfg".
+    explicit ZTConfiguration(const QString &cfgFile);
+    /// The same in the format "cfg" or "xml"; who calls it links zentaro_config_tree.
+    ZTConfiguration(const QString &fileName, const QString &fileType)
+        : Config(fileName, fileType)
+    {
+    }
 
     /// The path of the user's own file.
     static QString userFile();

@@ -3,14 +3,17 @@
 
 #include "config/cfgscanner.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace libconfig {
 
 using namespace Qt::StringLiterals;
 
-bool CfgContent::read(std::istream &stream)
+CfgContent::CfgContent(QByteArray content)
+    : text(std::move(content))
 {
+    using Statement = CfgScanner::Statement;
+    CfgScanner scanner({text.constData(), size_t(text.size())});
     std::vector<quint32> open{0}; // the groups whose body is being read
     const auto closeGroup = [&] {
         Entry &group = entries[open.back()];
@@ -19,29 +22,27 @@ bool CfgContent::read(std::istream &stream)
             entries.pop_back();
         open.pop_back();
     };
-    using Statement = CfgScanner::Statement;
-    CfgScanner scanner(stream);
-    for (Statement read = scanner.next(); read != Statement::EndOfFile; read = scanner.next()) {
+    while (!open.empty()) {
+        const Statement read = scanner.next();
+        if (read == Statement::EndOfFile)
+            break;
         if (read == Statement::GroupEnd) {
             closeGroup();
-            if (open.empty())
-                return true;
             continue;
         }
         entries[open.back()].hasMember = true; // also where the nested group turns out empty
-        Entry &entry = entries.emplace_back();
-        entry.name = append(scanner.trimmedName());
-        entry.isGroup = read == Statement::GroupBegin;
-        if (entry.isGroup) {
-            open.push_back(quint32(entries.size() - 1));
-        } else {
-            entry.value = appendWithoutQuotes(scanner.trimmedValue());
-            entry.end = quint32(entries.size());
-        }
+        const bool isGroup = read == Statement::GroupBegin;
+        const auto index = quint32(entries.size());
+        entries.push_back({scanner.trimmedName(), {}, index + 1, isGroup, false});
+        if (isGroup)
+            open.push_back(index);
+        else
+            entries.back().value = scanner.trimmedValue();
     }
+    length = scanner.end();
+    closed = open.empty();
     while (!open.empty())
         closeGroup();
-    return false;
 }
 
 QString CfgContent::lookup(const KeyPath &path) const
@@ -55,7 +56,7 @@ QString CfgContent::lookup(const KeyPath &path) const
         while (!ends.isEmpty() && ends.back() == i)
             ends.pop_back();
         const Entry &entry = entries[i];
-        const bool isNamed = entry.isGroup && viewOf(entry.name) == path.groups[ends.size()];
+        const bool isNamed = entry.isGroup && latin1(entry.name) == path.groups[ends.size()];
         if (isNamed && ends.size() + 1 < path.groups.size()) {
             ends.append(entry.end);
             ++i;
@@ -73,27 +74,17 @@ QString CfgContent::lookup(const KeyPath &path) const
 /// The value of a group's own setting; of two of one name the later counts.
 QString CfgContent::valueIn(quint32 group, QStringView setting) const
 {
-    Piece value;
+    quint32 found = group; // which has no value
     for (quint32 i = group + 1; i < entries[group].end; i = entries[i].end) {
-        if (!entries[i].isGroup && viewOf(entries[i].name) == setting)
-            value = entries[i].value;
+        if (!entries[i].isGroup && latin1(entries[i].name) == setting)
+            found = i;
     }
-    return textOf(value);
+    return valueOf(entries[found]);
 }
 
-CfgContent::Piece CfgContent::append(std::string_view piece)
+QString CfgContent::valueOf(const Entry &setting)
 {
-    const auto begin = quint32(text.size());
-    text += piece;
-    return {begin, quint32(text.size()) - begin};
-}
-
-CfgContent::Piece CfgContent::appendWithoutQuotes(std::string_view piece)
-{
-    Piece appended = append(piece);
-    text.erase(std::remove(text.begin() + appended.begin, text.end(), '"'), text.end());
-    appended.size = quint32(text.size()) - appended.begin;
-    return appended;
+    return withoutQuotes(setting.value);
 }
 
 } // namespace libconfig

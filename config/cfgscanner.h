@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
-#include <istream>
-#include <string>
 #include <string_view>
+
+class QIODevice;
 
 namespace libconfig {
 
-/// The grammar of the "cfg" form: takes a stream of bytes apart, statement by statement. The
-/// store's reader stands on it, and so does whoever tells a person where a file goes wrong.
+/// The grammar of the "cfg" form: takes a text apart, statement by statement. The store's reader
+/// stands on it, and so does whoever tells a person where a file goes wrong.
 ///
 /// A byte is a character of ISO 8859-1. There are no errors: whatever the bytes, each of them
 /// belongs to one statement.
@@ -28,9 +29,10 @@ public:
         EndOfFile,  ///< what no structural character follows
     };
 
-    explicit CfgScanner(std::istream &stream);
+    /// The text is borrowed. What is behind its first MaxBytes is not read.
+    explicit CfgScanner(std::string_view text);
 
-    /// Reads on to the end of the next statement.
+    /// Goes on to the end of the next statement.
     Statement next();
 
     // Of the statement that next() answered last.
@@ -42,37 +44,31 @@ public:
     /// Their bytes; those of a value still with its quotes.
     std::string_view trimmedName() const;
     std::string_view trimmedValue() const;
-    /// The bytes before the structural character, and those between it and the end of a value.
-    const std::string &rawName() const { return nameText; }
-    const std::string &rawValue() const { return valueText; }
+    /// The bytes before the structural character, and those between it and what ends the statement.
+    std::string_view rawName() const { return text.substr(beginning, marked - beginning); }
+    std::string_view rawValue() const;
 
-    // Where it stands, in bytes from where the scanner began.
+    // Where it stands, in bytes from the text's first.
 
-    qint64 begin() const { return beginning; } ///< of its first byte
-    qint64 mark() const { return marked; }     ///< of `:`, `=` or `}`; of the end of the file
-    qint64 end() const { return offset; }      ///< behind its last byte
-    /// Whether the `{` or `;` that ends it was found; false when the file ended first.
+    qint64 begin() const { return qint64(beginning); } ///< of its first byte
+    qint64 mark() const { return qint64(marked); }     ///< of `:`, `=` or `}`; of the text's end
+    qint64 end() const { return qint64(offset); }      ///< behind its last byte
+    /// Whether the `{` or `;` that ends it was found; false when the text ended first.
     bool complete() const { return terminated; }
 
-    /// Skips the input up to and including `c`; false when the end of the file came first.
-    static bool skipPast(std::istream &stream, char c);
-
 private:
-    static constexpr int EndOfInput = std::istream::traits_type::eof();
-
-    Statement nextFromBuffer();
-    template <typename IsEnd>
-    int readUntil(IsEnd isEnd, std::string *text);
-    void skipPast(char c);
-    void readValue();
-
-    std::istream &input;
-    std::string nameText;
-    std::string valueText;
-    qint64 beginning = 0;
-    qint64 marked = 0;
-    qint64 offset = 0;
+    std::string_view text;
+    size_t beginning = 0;
+    size_t marked = 0;
+    size_t offset = 0;
     bool terminated = false;
 };
+
+/// The content of an open file, up to MaxBytes and a piece more of one that exceeds it. Where
+/// reading fails, what came before.
+QByteArray limitedContent(QIODevice &file);
+
+/// What is kept of a value's bytes: all but the double quotes.
+QString withoutQuotes(std::string_view value);
 
 } // namespace libconfig

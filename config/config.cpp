@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
+// The lower floor: what a program needs that only asks a "cfg" file for its settings.
 #include "config/config.h"
 
 #include "config/cfgcontent.h"
+#include "config/cfgscanner.h"
+#include "text/filename.h"
+#include "text/standardoutput.h"
 
-#include <vector>
+#include <QFile>
 
 namespace libconfig {
 
@@ -11,97 +15,69 @@ using namespace Qt::StringLiterals;
 
 Config::Config() = default;
 
-Config::Config(QString const &fileName, QString const &fileType)
+Config::~Config() = default;
+
+void Config::loadFile()
 {
-    constructor(fileName, fileType);
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        tellUnreadable(fileName);
+    const CfgContent content(file.isOpen() ? limitedContent(file) : QByteArray());
+    stream.place(content.isClosed() ? QFile::encodeName(fileName) : QByteArray(), content.size());
+    addFile(content);
 }
 
-Config::~Config()
+void Config::tellUnreadable(const QString &name)
 {
-    closeFile();
-    deleteDocument();
+    text::printLine("Error in the method FileReader::open( " + QFile::encodeName(name)
+                    + " ): File Not Found");
 }
 
-void Config::readFile(QString const &fileName, QString const &fileType)
+void Config::addFile(CfgContent file)
 {
-    constructor(fileName, fileType);
+    if (tree)
+        tree->append(file, fileName);
+    if (!tree || !files.empty())
+        files.push_back(std::move(file));
 }
 
-void Config::constructor(QString const &name, QString const &type)
-{
-    fileName = name;
-    fileType = type;
-    newDocument();
-    if (fileType == "cfg"_L1)
-        loadFile();
-    else if (fileType == "xml"_L1)
-        loadXmlFile();
-}
-
-void Config::newDocument()
-{
-    deleteDocument();
-    treeSoFar = std::make_unique<QDomDocument>();
-}
-
-/// Takes the tree apart from the top: the toolkit deletes nested nodes by recursion, and a file may
-/// nest its groups deeper than the stack reaches.
-void Config::deleteDocument()
-{
-    content.reset();
-    attributeOrder.clear();
-    if (!treeSoFar)
-        return;
-    std::vector<QDomNode> loose;
-    const auto loosen = [&loose](QDomNode &parent, const QDomNode &child) {
-        loose.push_back(parent.removeChild(child));
-    };
-    for (QDomNode top = treeSoFar->firstChildElement(); !top.isNull();
-         top = treeSoFar->firstChildElement()) // a file that was loaded again has a second
-        loosen(*treeSoFar, top);
-    while (!loose.empty()) {
-        QDomNode node = loose.back();
-        loose.pop_back();
-        for (QDomNode child = node.firstChild(); !child.isNull(); child = node.firstChild())
-            loosen(node, child);
-    }
-    treeSoFar.reset();
-}
-
+/// The first file with a member has the tree's first element.
 QString Config::lookup(QString const &key) const
 {
-    if (content)
-        return content->lookup(KeyPath(key));
-    return lookup(treeSoFar ? treeSoFar->firstChildElement().firstChild() : QDomNode(), key);
+    const KeyPath path(key);
+    for (const CfgContent &file : files) {
+        if (file.hasMember())
+            return file.lookup(path);
+    }
+    return files.empty() && tree ? tree->lookup(path) : u""_s;
 }
 
-QString Config::lookup(QDomNode node, QString const &key) const
+std::ifstream &Config::Stream::operator*()
 {
-    const KeyPath path(key);
-    const QString setting = path.setting.toString();
-    const QDomNode top = node;
-    qsizetype depth = 0; // of `node` below `top`
-    while (!node.isNull()) {
-        QDomNode next;
-        if (node.isElement() && node.nodeName() == path.groups[depth]) {
-            if (depth + 1 < path.groups.size()) {
-                next = node.firstChild();
-                depth += next.isNull() ? 0 : 1;
-            } else if (QString value = node.toElement().attribute(setting); !value.isEmpty()) {
-                return value;
-            }
-        }
-        // On to the next group in file order, back out of those that are done with.
-        while (next.isNull() && node != top) {
-            next = node.nextSibling();
-            if (next.isNull()) {
-                node = node.parentNode();
-                --depth;
-            }
-        }
-        node = next;
+    if (!made) {
+        made = std::make_unique<std::ifstream>();
+        open();
     }
-    return u""_s;
+    return *made;
+}
+
+void Config::Stream::place(const QByteArray &filePath, std::streamoff offset)
+{
+    path = filePath;
+    start = offset;
+    if (made) {
+        made->close();
+        made->clear();
+        open();
+    }
+}
+
+void Config::Stream::open()
+{
+    if (path.isEmpty())
+        return;
+    made->open(path.constData(), std::ios::in | std::ios::binary);
+    made->seekg(start);
 }
 
 } // namespace libconfig

@@ -1,23 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "config/attributeorder.h"
-
-#include <QDomDocument>
+#include <QByteArray>
 #include <QMutex>
 #include <QString>
-#include <QTextStream>
 
 #include <fstream>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
+class QDomDocument;
+class QDomNode;
+class QTextStream;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace libconfig {
 
 class CfgContent;
+class ConfigTree;
+struct KeyPath;
 
 /// The configuration store: a file of named groups and their settings, read into a tree and asked
 /// by dotted keys such as "zentaro.logger.level".
@@ -26,6 +30,14 @@ class CfgContent;
 /// in ISO 8859-1; "xml" has an element per group and an attribute per setting. In the tree a group
 /// is an element and a setting is an attribute of its group's element; above the top-level groups
 /// stands the file element, whose tag name is the file name.
+///
+///     const libconfig::Config config(u"/etc/till.conf"_s, u"cfg"_s);
+///     if (config.lookup(u"till.receiptdoc.printTelephone"_s) == u"true"_s)
+///         ...
+///
+/// It stands on two floors. Reading and asking a "cfg" file, which is loadFile() and lookup(key),
+/// needs zentaro_config alone; who calls anything else links zentaro_config_tree, and for the views
+/// zentaro_config_views.
 class Config
 {
 public:
@@ -41,6 +53,8 @@ public:
     /// nothing. A "cfg" file that cannot be read is told on standard output; nothing else is ever
     /// reported, and what cannot be read leaves an empty tree.
     void readFile(QString const &fileName, QString const &fileType);
+    /// The same with the content of the file at hand.
+    void readContent(const QByteArray &content, QString const &fileName, QString const &fileType);
     /// What readFile does.
     void constructor(QString const &fileName, QString const &fileType);
 
@@ -51,11 +65,13 @@ public:
     bool openFile(QString const &name);
     void closeFile();
 
-    /// Reads the whole "cfg" file. The stream is closed at the end of the file, and stays open
-    /// where a `}` at the top level ended the reading before it.
+    /// Reads the whole "cfg" file `fileName`, which joins what was read before. The stream is
+    /// closed then, but where a `}` at the top level ended the reading it is open behind that group
+    /// end.
     void loadFile();
-    /// Reads the body of the group `name`, up to and including its `};`, from the open stream. The
-    /// group's element joins `parent` with its first member; without members it never does.
+    /// Reads the body of the group `name`, up to and including its `};`, from the open stream,
+    /// which must be one that can be read again from where the group ends: no pipe. The group's
+    /// element joins `parent` with its first member; without members it never does.
     void loadFile(QString const &name, QDomNode parent);
     /// Reads the whole "xml" file; one that is missing, not well-formed, over 64 MiB or nested more
     /// than MaxXmlDepth deep leaves an empty tree.
@@ -79,20 +95,23 @@ public:
     void forEachSetting(
         const std::function<void(const QString &key, const QString &value)> &visit) const;
 
-    // The writers. An empty name means `fileName`. A file is replaced when the new one is complete,
-    // or stays as it was: what cannot be written is told in one line on standard output and answers
-    // false. An empty tree writes an empty file. Settings stand in file order.
+    // The writers. An empty name means `fileName`. A file is written when all of it is there, or
+    // stays as it was: what cannot be written, or would be over 64 MiB, is told in one line on
+    // standard output and answers false. An empty tree writes an empty file. Settings stand in file
+    // order.
 
     /// Writes the "cfg" form in ISO 8859-1; a character that it lacks becomes `?`. Of the top-level
     /// groups only the first is written.
     bool buildConfigFile(QString name);
     /// Writes one group and everything below it, in the encoding of the text stream.
-    void buildConfigFile(QDomNode node, QTextStream &ts);
+    void buildConfigFile(QDomNode node, QTextStream &ts) const;
     /// Writes the XML form in UTF-8, the first top-level group only. Nothing is escaped, and
     /// settings outside any group go before it in the "cfg" syntax.
     bool buildConfigXmlFile(QString name);
     /// Writes one group and everything below it, in the encoding of the text stream.
-    void buildConfigXmlFile(QDomNode node, QTextStream &ts);
+    void buildConfigXmlFile(QDomNode node, QTextStream &ts) const;
+    /// What they write, by the format word "cfg" or "xml"; none over 64 MiB.
+    std::optional<QByteArray> writtenAs(const QString &format) const;
     /// Prints "Tree " and every group and setting on standard output, in ISO 8859-1.
     void printConfigTree() const;
     /// Prints one group and everything below it.
@@ -123,9 +142,42 @@ public:
     void loadListView(QTreeWidgetItem *item, QDomDocument *parent);
     void loadListView(QTreeWidgetItem *item, QDomNode parent);
 
+    /// The seam between the floors: what the upper one keeps of the files.
+    class Tree
+    {
+    public:
+        Tree() = default;
+        Tree(const Tree &) = delete;
+        Tree &operator=(const Tree &) = delete;
+        virtual ~Tree() = default;
+        /// The answer to lookup(key).
+        virtual QString lookup(const KeyPath &path) const = 0;
+        /// Adds a file behind those that are there.
+        virtual void append(const CfgContent &file, const QString &name) = 0;
+    };
+
 protected:
-    /// A pointer to the tree, which what a "cfg" file holds joins when the pointer is first used: a
-    /// print run needs none. From then on lookups walk the tree.
+    /// A standard stream that is made when it is first used: to set one up takes longer than to
+    /// read a configuration.
+    class Stream
+    {
+    public:
+        std::ifstream &operator*();
+        std::ifstream *operator->() { return &**this; }
+        operator std::ifstream &() { return **this; }
+        /// Leaves it open on a file, `offset` bytes behind the first; closed without a path.
+        void place(const QByteArray &filePath, std::streamoff offset);
+
+    private:
+        void open();
+
+        std::unique_ptr<std::ifstream> made;
+        QByteArray path;
+        std::streamoff start = 0;
+    };
+
+    /// A pointer to the tree, which the files that were read join when it is first used. From then
+    /// on lookups walk the tree.
     class Document
     {
     public:
@@ -133,8 +185,8 @@ protected:
             : owner(config)
         {
         }
-        operator QDomDocument *() const { return owner.tree(); }
-        QDomDocument *operator->() const { return owner.tree(); }
+        operator QDomDocument *() const { return owner.takenDocument(); }
+        QDomDocument *operator->() const { return owner.takenDocument(); }
 
     private:
         Config &owner;
@@ -142,36 +194,26 @@ protected:
 
     QString fileName;         ///< as given
     QString fileType;         ///< the format word as given
-    std::ifstream stream;     ///< the bytes of a "cfg" file
+    Stream stream;            ///< the bytes of a "cfg" file, an std::ifstream
     Document document{*this}; ///< the tree, owned; null until a file is read
 
 private:
-    using TreeWriter = void (Config::*)(QTextStream &);
-
-    QDomDocument *tree();
-    const QDomDocument *grownTree() const;
-    void appendGroup(const CfgContent &body, const QString &name, QDomNode &parent) const;
-    static QDomElement newElement(QDomDocument &document, const QString &name);
-    void addSetting(QDomElement &element, const QString &name, const QString &value) const;
-    void addSettingOf(const QTreeWidgetItem &item, QDomElement &group);
-    void noteAttributeOrder(const QByteArray &content);
+    static void tellUnreadable(const QString &name);
+    void addFile(CfgContent file);
+    void startAnew(QString const &name, QString const &type);
+    void loadXml(const QByteArray &content);
+    const ConfigTree &grownTree() const;
+    ConfigTree &takenTree();
+    QDomDocument *takenDocument();
     void newDocument();
-    void deleteDocument();
+    bool replaceFile(const QString &name, const char *operation, const QString &format) const;
 
-    bool replaceFile(QString path, const char *operation, QStringConverter::Encoding encoding,
-                     TreeWriter writeTree);
-    void writeCfgTree(QTextStream &ts);
-    void writeXmlTree(QTextStream &ts);
-    void writeFileSettings(QTextStream &ts);
-    void writeCfgSettings(const QDomElement &group, const QString &indentation, QTextStream &ts);
-
+    /// What lookups are answered from, until someone takes the tree.
+    std::vector<CfgContent> files;
     // Operations that change nothing may be called by several threads at once, and some of them
     // are the first to want the tree.
     mutable QMutex growing;
-    mutable bool isGrown = false;            ///< whether `content` is in the tree
-    mutable AttributeOrder attributeOrder;   ///< of the tree
-    std::unique_ptr<CfgContent> content;     ///< what lookups are answered from, where it is set
-    std::unique_ptr<QDomDocument> treeSoFar; ///< as far as it is grown
+    mutable std::unique_ptr<Tree> tree; ///< a ConfigTree
 };
 
 } // namespace libconfig

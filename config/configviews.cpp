@@ -2,7 +2,7 @@
 #include "config/configviews.h"
 
 #include "config/config.h"
-#include "config/elementwalk.h"
+#include "config/configtree.h"
 
 #include <QTreeWidget>
 
@@ -108,7 +108,7 @@ QTreeWidget *Config::newConfigListView()
 QTreeWidget *Config::buildConfigListView()
 {
     auto *const view = new ConfigListView;
-    buildConfigListView(document ? document->firstChildElement() : QDomElement(), view);
+    buildConfigListView(grownTree().document.firstChildElement(), view);
     return view;
 }
 
@@ -129,12 +129,13 @@ void Config::buildConfigListView(QDomNode node, QTreeWidgetItem *item)
 {
     if (!item)
         return;
+    const ConfigTree &tree = grownTree();
     QTreeWidgetItem *open = nullptr; // outside the view until all of it is there
     walkElements(
         node,
         [&](const QDomElement &group) {
             QTreeWidgetItem *const shown = newGroupItem(group.tagName());
-            for (const auto &[key, value] : attributeOrder.attributesOf(group))
+            for (const auto &[key, value] : tree.attributesOf(group))
                 shown->addChild(newSettingItem(key, value));
             if (open)
                 open->addChild(shown);
@@ -173,15 +174,20 @@ void Config::loadListView(QTreeWidgetItem *item, QDomNode parent)
 {
     if (!item || parent.isNull())
         return;
+    ConfigTree &tree = takenTree();
+    const auto addSetting = [&tree](QDomElement &group, const QTreeWidgetItem &setting) {
+        const auto [key, value] = settingOf(setting.text(0));
+        tree.set(group, key, value);
+    };
     if (!isGroupItem(*item)) {
         if (QDomElement group = parent.toElement(); !group.isNull())
-            addSettingOf(*item, group);
+            addSetting(group, *item);
         return;
     }
     // A group joins the tree when it is complete: the toolkit walks up to the root of the tree for
     // every node and attribute that joins it.
     QDomDocument owner = parent.ownerDocument();
-    std::vector<OpenItem> open{{item, newElement(owner, item->text(0))}};
+    std::vector<OpenItem> open{{item, ConfigTree::newElement(owner, item->text(0))}};
     while (!open.empty()) {
         OpenItem &group = open.back();
         if (group.next == group.item->childCount()) {
@@ -192,16 +198,10 @@ void Config::loadListView(QTreeWidgetItem *item, QDomNode parent)
         }
         QTreeWidgetItem *const child = group.item->child(group.next++);
         if (isGroupItem(*child))
-            open.push_back({child, newElement(owner, child->text(0))});
+            open.push_back({child, ConfigTree::newElement(owner, child->text(0))});
         else
-            addSettingOf(*child, group.element);
+            addSetting(group.element, *child);
     }
-}
-
-void Config::addSettingOf(const QTreeWidgetItem &item, QDomElement &group)
-{
-    const auto [key, value] = settingOf(item.text(0));
-    addSetting(group, key, value);
 }
 
 } // namespace libconfig

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFileDevice>
+#include <QFile>
+#include <QSaveFile>
 
 #include <memory>
 
-class QSaveFile;
+struct stat;
 
 namespace libconfig {
 
-/// A file that is written anew. One that exists stays as it was until the new one is complete, so
-/// that a full disk or a process that dies leaves no half of it; a device or a pipe, which cannot
-/// be replaced, is written to as it stands.
+/// A file that is written anew, all at once. One that exists is replaced as a whole where the new
+/// one can have its owner, group, mode and links, so that a process that dies leaves no half of it.
+/// Otherwise it is written where it stands, after its room is made sure of: one of another owner or
+/// with several names, one in a folder that takes no new file, a device or a pipe.
 class NewFile
 {
 public:
@@ -20,16 +22,24 @@ public:
     NewFile &operator=(const NewFile &) = delete;
     ~NewFile();
 
+    /// Whether the file can be written. Nothing of one that exists is touched yet.
     bool open();
-    QFileDevice &device() { return *file; }
-    /// Puts the file in its place unless `isComplete` is false or a write failed, and answers
-    /// whether it did.
-    bool finish(bool isComplete);
-    QString errorString() const { return file->errorString(); }
+    /// Writes the file; false where what it held stays.
+    bool write(const QByteArray &content);
+    /// Why opening or writing failed, in the system's words.
+    QString errorString() const { return error; }
 
 private:
-    std::unique_ptr<QFileDevice> file;
-    QSaveFile *replacement; ///< `file`, or null for a device or a pipe
+    bool openReplacement(const struct stat &now);
+    bool openInPlace();
+    bool writeInPlace(const QByteArray &content);
+    bool fails(int reason);
+
+    const QString path;
+    bool exists = false;
+    std::unique_ptr<QSaveFile> replacement;
+    QFile present; ///< written where it stands
+    QString error;
 };
 
 } // namespace libconfig

@@ -4,6 +4,7 @@
 #include "config/config.h"
 #include "fuzz/scratch.h"
 
+#include <QDomDocument>
 #include <QStringList>
 
 #include <vector>

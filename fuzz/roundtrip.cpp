@@ -2,7 +2,7 @@
 // A configuration of any bytes, read, written and read again: the second tree is the first one, but
 // for what the written form does not hold.
 #include "config/config.h"
-#include "config/elementwalk.h"
+#include "config/configtree.h"
 #include "fuzz/scratch.h"
 
 #include <QRegularExpression>

@@ -89,8 +89,6 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
         return false; // nothing more would be written
     if (qName == element::method)
         return startMethod(valueOf(atts, "name"_L1));
-    if (!method || method->name != currentMethod)
-        method = documentMethod(currentMethod);
     if (method)
         (this->*method->print)(qName, atts);
     return true;
@@ -159,7 +157,8 @@ void PrinterDriver::loadValues(const QString &type)
     settings.style = setting("style"_L1);
     for (const SettingKey<bool> &aSwitch : switchSettings())
         settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
-    topMargin = descriptionWidth = {};
+    topMargin.reset();
+    descriptionWidth.reset();
 }
 
 /// The setting of the current document type; empty when the configuration has none.
@@ -176,9 +175,9 @@ int PrinterDriver::numberSetting(QLatin1StringView keyWord) const
 
 /// The setting, of which `known` keeps the value: few documents ask for it, but those may do so for
 /// every item, and a lookup takes longer the larger the configuration is.
-int PrinterDriver::numberOnce(KnownNumber &known, QLatin1StringView keyWord) const
+int PrinterDriver::numberOnce(std::optional<int> &known, QLatin1StringView keyWord) const
 {
-    if (!known.number || known.docPath != docPath)
-        known = {docPath, numberSetting(keyWord)};
-    return *known.number;
+    if (!known)
+        known = numberSetting(keyWord);
+    return *known;
 }

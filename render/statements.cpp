@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "render/printerdriver.h"
+
 #include "render/vocabulary.h"
 
 using namespace Qt::StringLiterals;

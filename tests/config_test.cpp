@@ -2,8 +2,9 @@
 #include "config/config.h"
 
 #include "app/ztconfiguration.h"
-#include "config/cfgscanner.h"
 #include "tests/support.h"
+
+#include <QDomDocument>
 
 #include <gtest/gtest.h>
 
@@ -21,6 +22,7 @@ public:
         load(text, format);
     }
 
+    int elements() const { return document->childNodes().size(); }
     void load(const QByteArray &text, const QString &format = u"cfg"_s)
     {
         support::writeFile(path(), text);
@@ -80,29 +82,6 @@ TEST(Config, KeepsTextOfAnyLengthAndGroupsOfAnyDepth)
     EXPECT_EQ(nested.lookup(u"z."_s.repeated(depth) + u'k'), u"1"_s);
 }
 
-TEST(CfgScanner, ReadsAStreamThatHoldsNothingReady)
-{
-    struct : std::streambuf
-    {
-        int underflow() override { return left.empty() ? traits_type::eof() : left.front(); }
-        int uflow() override
-        {
-            const int next = underflow();
-            left.remove_prefix(left.empty() ? 0 : 1);
-            return next;
-        }
-        std::string_view left = "z:{k=1;};";
-    } unbuffered;
-    std::istream stream(&unbuffered);
-    libconfig::CfgScanner scanner(stream);
-    using Statement = libconfig::CfgScanner::Statement;
-    EXPECT_EQ(scanner.next(), Statement::GroupBegin);
-    EXPECT_EQ(scanner.next(), Statement::Setting);
-    EXPECT_EQ(scanner.value(), u"1"_s);
-    EXPECT_EQ(scanner.next(), Statement::GroupEnd);
-    EXPECT_EQ(scanner.next(), Statement::EndOfFile);
-}
-
 TEST(Config, ReadsXmlUpToALimit)
 {
     Loaded config({});
@@ -137,13 +116,44 @@ TEST(Config, ReadsAgainWhateverTheFirstReadingLeft)
     EXPECT_EQ(config.lookup(u"z.k"_s), u"3"_s);
 }
 
-TEST(Config, JumpsBehindAnyByte)
+class Walked : public Loaded
 {
-    Loaded config("z\xFF:{k=1;}");
+public:
+    using Loaded::Loaded;
+
+    /// What is left of the stream.
+    std::string rest() { return {std::istreambuf_iterator<char>(stream), {}}; }
+
+    /// Reads a group from the open stream, below the first one.
+    void readGroup(const QString &name) { loadFile(name, document->firstChild().firstChild()); }
+};
+
+TEST(Config, ReadsAnOpenStreamPieceByPiece)
+{
+    Walked config("z\xFF:{k=1;} ; n:{k=2;e:{};}; }; the rest");
+    EXPECT_EQ(config.rest(), " the rest"); // stays open where a `}` ended the reading
     ASSERT_TRUE(config.openFile());
     EXPECT_TRUE(config.jump('\xFF'));
-    EXPECT_TRUE(config.jump('}')); // the last byte of the file
+    EXPECT_TRUE(config.jump(';'));
+    EXPECT_TRUE(config.jump(';'));
+    EXPECT_TRUE(config.jump('{'));
+    config.readGroup(u"m"_s);
+    EXPECT_EQ(config.lookup(u"z\u00FF.m.k"_s), u"2"_s);
+    EXPECT_EQ(config.rest(), " }; the rest");
     EXPECT_FALSE(config.jump('}'));
+    config.load("z:{k=1;};");
+    EXPECT_EQ(config.rest(), ""); // closed at the end of the file
+}
+
+TEST(Config, TakesInAFileThatIsReadBesideAnother)
+{
+    Loaded config("z:{k=1;};");
+    support::writeFile(config.path(), "z:{k=2;};");
+    for (int i = 0; i < 2; ++i) {
+        config.loadFile();
+        EXPECT_EQ(config.lookup(u"z.k"_s), u"1"_s); // the first has the first element
+        EXPECT_EQ(config.elements(), 2 + i);
+    }
 }
 
 TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)

@@ -4,6 +4,7 @@
 #include "tests/guienvironment.h"
 #include "tests/support.h"
 
+#include <QDomDocument>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>

@@ -211,9 +211,11 @@ bool CheckingDevice::isOff(bool DocumentSettings::*aSwitch) const
 void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
                                      tools::Place at)
 {
-    if (!isConfigured)
+    const auto switches = switchSettings();
+    const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
+    if (!isConfigured || found == switches.end())
         return;
-    const QString key = docPath + keyWordOf(aSwitch);
+    const QString key = docPath + found->keyWord;
     if (toldSwitches.insert(key).second)
         tell("switch-off", u'`' + key + "` is off: `"_L1 + what + "` is not printed"_L1, at);
 }

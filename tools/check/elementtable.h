@@ -3,7 +3,7 @@
 
 #include "render/documentsettings.h"
 
-#include <QStringList>
+#include <QStringView>
 
 #include <span>
 #include <vector>
@@ -90,12 +90,6 @@ QLatin1StringView summaryOf(qsizetype method);
 bool isKnownElement(QStringView element);
 /// All rows.
 std::span<const ElementRow> elementRows();
-
-/// The key word of a switch; empty for null.
-QString keyWordOf(bool DocumentSettings::*aSwitch);
-/// The key words of the settings that switch or shape a row: beside the widths of columns, which
-/// shape them all.
-QStringList settingsOf(const ElementRow &row);
 
 /// What becomes of an attribute.
 enum class Fate { Printed, SwitchedOff, Kept, Unread };

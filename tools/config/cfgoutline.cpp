@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <sstream>
 
 namespace configtool {
 
@@ -69,7 +68,6 @@ private:
                   Severity severity = Severity::Error);
 
     const std::string_view bytes;
-    std::istringstream stream;
     CfgScanner scanner;
     std::vector<qint64> lines; // where each begins
     Outline outline;
@@ -78,8 +76,7 @@ private:
 
 Reader::Reader(const QByteArray &content)
     : bytes(content.constData(), size_t(content.size()))
-    , stream(std::string(bytes))
-    , scanner(stream)
+    , scanner(bytes)
     , lines{0}
     , open{0}
 {
@@ -294,7 +291,7 @@ std::string_view Reader::textBetween(qint64 begin, qint64 end) const
 qint64 Reader::nameBegin() const
 {
     const size_t blanks = scanner.rawName().find_first_not_of(WhiteSpace);
-    return blanks == std::string::npos ? scanner.mark() : scanner.begin() + qint64(blanks);
+    return blanks == std::string_view::npos ? scanner.mark() : scanner.begin() + qint64(blanks);
 }
 
 void Reader::tell(Severity severity, QLatin1StringView code, const QString &text, qint64 offset)

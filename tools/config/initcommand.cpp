@@ -40,7 +40,7 @@ int init(const tools::Call &call)
     }
     QDir().mkpath(QFileInfo(source->path).path());
     libconfig::NewFile file(source->path);
-    if (!file.open() || !file.finish(file.device().write(content) == content.size()))
+    if (!file.open() || !file.write(content))
         return tools::tellTrouble(call, source->path, file.errorString());
     return tools::printOut(source->path + u'\n');
 }

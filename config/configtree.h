@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "config/cfgcontent.h"
+#include "config/config.h"
+
+#include <QDomDocument>
+
+#include <unordered_map>
+#include <vector>
+
+namespace libconfig {
+
+/// Visits `node` and the elements below it in document order: `enter(element)` before its children,
+/// `leave(element)` after them. Ends at once when `enter` answers false. Nodes that are not
+/// elements are passed over. No recursion: groups nest to any depth.
+template <typename Enter, typename Leave>
+void walkElements(QDomNode node, Enter enter, Leave leave)
+{
+    const QDomNode first = node;
+    while (node.isElement()) {
+        if (!enter(node.toElement()))
+            return;
+        QDomNode next = node.firstChildElement();
+        while (next.isNull()) {
+            leave(node.toElement());
+            if (node == first)
+                return;
+            next = node.nextSiblingElement();
+            if (next.isNull())
+                node = node.parentNode();
+        }
+        node = next;
+    }
+}
+
+/// The tree of a configuration. The toolkit keeps the attributes of its elements in a hash and
+/// lists them differently in every run: the order in which they came is kept beside it.
+class ConfigTree : public Config::Tree
+{
+public:
+    struct Attribute
+    {
+        QString name;
+        QString value;
+    };
+
+    ConfigTree() = default;
+    ConfigTree(const ConfigTree &) = delete;
+    ConfigTree &operator=(const ConfigTree &) = delete;
+    ~ConfigTree() override;
+
+    QString lookup(const KeyPath &path) const override;
+    void append(const CfgContent &file, const QString &name) override;
+
+    /// Adds a group element to `parent`, if the body of the group has a member.
+    void append(const CfgContent &body, const QString &name, QDomNode &parent);
+    /// Sets an attribute, which came after those that the element has. One that is set twice keeps
+    /// its first place.
+    void set(QDomElement &element, const QString &name, const QString &value);
+    /// Notes the order alone.
+    void note(const QDomElement &element, const QString &name);
+    /// The attributes of `element` in their order; those never noted follow by name.
+    std::vector<Attribute> attributesOf(const QDomElement &element) const;
+
+    /// An element of any name: the toolkit creates none without a name, but holds one. A new
+    /// document comes to life with its first element, and is a null node before.
+    static QDomElement newElement(QDomDocument &document, const QString &name);
+    /// The setting of a key whose first field is the tag name of `node`, as Config::lookup.
+    static QString lookup(QDomNode node, const KeyPath &path);
+
+    QDomDocument document;
+
+private:
+    std::unordered_map<const void *, std::vector<QString>> names; // by identity of the element
+};
+
+} // namespace libconfig
