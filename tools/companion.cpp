@@ -4,6 +4,7 @@
 #include "tools/check/requestcheck.h"
 #include "tools/config/subcommands.h"
 #include "tools/preview/previewcommand.h"
+#include "tools/queue/queuecommand.h"
 #include "tools/terminal.h"
 
 #include <QFile>
@@ -19,10 +20,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<Command, 3> commands = {{
+constexpr std::array<Command, 4> commands = {{
     {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
     {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
     {"preview"_L1, "shows what will be printed, as text or as a picture"_L1, preview::run},
+    {"queue"_L1, "print queues: makes, lists, removes and tries them"_L1, queuetool::run},
 }};
 
 } // namespace

@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: MIT
+#include "tools/queue/queuecommand.h"
+
+#include "app/ztconfiguration.h"
+#include "tools/terminal.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QXmlStreamWriter>
+
+#include <array>
+
+namespace queuetool {
+
+using namespace Qt::StringLiterals;
+using tools::Call;
+
+namespace {
+
+/// A word as a shell would take it.
+QString inShell(QString word)
+{
+    static const QRegularExpression special(u"[^\\w@%+=:,./-]"_s);
+    if (!word.isEmpty() && !word.contains(special))
+        return word;
+    return u'\'' + word.replace(u'\'', "'\\''"_L1) + u'\'';
+}
+
+/// The options and arguments of a command about queues, and the scheduler's commands that do it.
+class QueueCommand : public tools::CommandLine
+{
+public:
+    QueueCommand(const Call &call, const QString &description)
+        : CommandLine(call, description)
+        , call(call)
+    {
+        addOption({{u"v"_s, u"verbose"_s}, u"Shows the scheduler's commands that it runs."_s});
+    }
+
+    /// As CommandLine::read(), and the first argument is the name of a queue.
+    std::optional<int> readNames(int arguments)
+    {
+        if (const std::optional<int> status = read(arguments, arguments))
+            return status;
+        const QString name = this->arguments().first();
+        if (ZTConfiguration::isQueueName(name) && !name.startsWith(u'-'))
+            return std::nullopt;
+        return wrongUsage(u'`' + name + "` cannot be the name of a queue"_L1);
+    }
+
+    /// What one of the scheduler's commands writes; nothing when it fails, which is told in its own
+    /// words.
+    std::optional<QString> ran(const QString &name, const QStringList &words,
+                               const QByteArray &input = {}) const
+    {
+        QString shown = name;
+        for (const QString &word : words)
+            shown += u' ' + inShell(word);
+        if (isSet(u"verbose"_s))
+            tools::printError(shown + u'\n');
+        QString program = QStandardPaths::findExecutable(name);
+        if (program.isEmpty()) // few people have the administrator's commands in their path
+            program = QStandardPaths::findExecutable(name, {u"/usr/sbin"_s});
+        if (program.isEmpty()) {
+            tools::tellTrouble(call, name, u"the package cups-client is needed for this"_s);
+            return std::nullopt;
+        }
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LC_ALL"_s,
+                           u"C.UTF-8"_s); // what is read here reads the same everywhere
+        process.setProcessEnvironment(environment);
+        process.start(program, words);
+        process.write(input);
+        process.closeWriteChannel();
+        process.waitForFinished(-1);
+        const QString errors = QString::fromUtf8(process.readAllStandardError()).trimmed();
+        if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+            return QString::fromUtf8(process.readAllStandardOutput());
+        tools::printError(call.command + ": "_L1 + tools::inOneLine(errors.section(u'\n', -1))
+                          + u'\n');
+        return std::nullopt;
+    }
+
+private:
+    const Call &call;
+};
+
+/// The printer description of receipt printers, as installed or built; empty without one.
+QByteArray printerDescription(QString *path)
+{
+    *path = QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path()
+            + "/" ZENTARO_DATA_FROM_BIN "/ppd/zentaro/zentaro-receipt.ppd"_L1;
+    QFile file(*path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+int add(const Call &call)
+{
+    QueueCommand line(call, u"Makes a queue of the receipt printer at the device URI, as "
+                            "socket://192.0.2.7:9100 or serial:/dev/ttyS0?baud=9600, or changes "
+                            "one."_s);
+    line.addArgument(u"QUEUE"_s, u"The queue's name."_s);
+    line.addArgument(u"URI"_s, u"The printer's; `lpinfo -v` lists some."_s);
+    line.addOption({u"encoding"_s, u"The print files' encoding; UTF-8 unless given."_s, u"NAME"_s});
+    line.addOption({u"hold-faulty"_s, u"Keeps a request that breaks off instead of printing its "
+                                      "beginning."_s});
+    line.addOption({u"shared"_s, u"Lets other machines print to it."_s});
+    if (const std::optional<int> status = line.readNames(2))
+        return *status;
+    static const QRegularExpression scheme(u"^[a-z][a-z0-9+.-]*:."_s);
+    const QString uri = line.arguments().at(1);
+    if (!uri.contains(scheme))
+        return line.wrongUsage(u'`' + uri + "` is no device URI"_L1);
+    QString path;
+    const QByteArray description = printerDescription(&path);
+    if (description.isEmpty())
+        return tools::tellTrouble(call, path, u"the package zentaro-cups is needed for this"_s);
+    const QString encoding = line.isSet(u"encoding"_s) ? line.value(u"encoding"_s) : u"UTF-8"_s;
+    if (!description.contains("\n*Encoding " + encoding.toUtf8() + '/'))
+        return line.wrongUsage("no queue has the encoding `"_L1 + encoding + u'`');
+    const QString name = line.arguments().first();
+    const QString faulty = line.isSet(u"hold-faulty"_s) ? u"hold"_s : u"print"_s;
+    if (!line.ran(u"lpadmin"_s,
+                  {u"-p"_s, name, u"-E"_s, u"-v"_s, uri, u"-P"_s, path, u"-o"_s,
+                   "Encoding="_L1 + encoding, u"-o"_s, "Faulty="_L1 + faulty, u"-o"_s,
+                   "printer-is-shared="_L1 + (line.isSet(u"shared"_s) ? "true"_L1 : "false"_L1)}))
+        return tools::Trouble;
+    return tools::Fine;
+}
+
+int remove(const Call &call)
+{
+    QueueCommand line(call, u"Removes a queue and its jobs. Its settings stay."_s);
+    line.addArgument(u"QUEUE"_s, u"The queue's name."_s);
+    if (const std::optional<int> status = line.readNames(1))
+        return *status;
+    return line.ran(u"lpadmin"_s, {u"-x"_s, line.arguments().first()}) ? tools::Fine
+                                                                       : tools::Trouble;
+}
+
+/// What the pattern, in which `QUEUE` stands for the name of a queue, finds in a list.
+QRegularExpressionMatchIterator found(QString pattern, const QString &queue, const QString &list)
+{
+    pattern.replace("QUEUE"_L1, QRegularExpression::escape(queue));
+    return QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(list);
+}
+
+int list(const Call &call)
+{
+    QueueCommand line(call,
+                      u"Lists the queues with their state, the jobs that wait, their printers "
+                      "and what is told of them. The status is 1 when a printer or a job is "
+                      "stopped."_s);
+    if (const std::optional<int> status = line.read(0, 0))
+        return *status;
+    std::array<QString, 3> lists;
+    const std::array<QStringList, 3> words = {{{u"-v"_s}, {u"-p"_s}, {u"-l"_s, u"-o"_s}}};
+    for (size_t i = 0; i < words.size(); ++i) {
+        const std::optional<QString> answer = line.ran(u"lpstat"_s, words[i]);
+        if (!answer)
+            return tools::Trouble;
+        lists[i] = *answer;
+    }
+    const auto &[devices, printers, jobs] = lists;
+    bool stopped = false;
+    QString text;
+    for (const auto &device : found(u"^device for (\\S+): (.*)$"_s, {}, devices)) {
+        const QString name = device.captured(1);
+        QString state;
+        QString told;
+        for (const auto &it :
+             found(u"^printer QUEUE (?:is )?(idle|now printing|disabled|holding new "
+                   "jobs).*\\n(?:\\t(.+)\\n)?"_s,
+                   name, printers)) {
+            state = it.captured(1);
+            stopped |= state == "disabled"_L1;
+            if (it.hasCaptured(2))
+                told = "  "_L1 + it.captured(2) + u'\n';
+        }
+        int count = 0;
+        for (const auto &job :
+             found(u"^(QUEUE-\\d+) .*\\n(?:\\tStatus: (.*)\\n)?(?:\\tAlerts: (.*)\\n)?"_s, name,
+                   jobs)) {
+            ++count;
+            stopped |= job.captured(3).contains("errors"_L1);
+            if (!job.captured(2).isEmpty())
+                told += "  "_L1 + job.captured(1) + ": "_L1 + job.captured(2) + u'\n';
+        }
+        text += name + ": "_L1 + state + ", "_L1 + QString::number(count) + " waiting, "_L1
+                + device.captured(2) + u'\n' + told;
+    }
+    const int status = tools::printOut(text);
+    return status == tools::Fine && stopped ? tools::Findings : status;
+}
+
+/// Characters of European print files; what an encoding lacks comes out as `?`.
+constexpr std::array characters = {
+    u"àâäáãåæçèéêëìíîï", u"ñòóôöõøœùúûüýÿß",  u"ÀÂÄÁÃÅÆÇÈÉÊËÌÍÎÏ",
+    u"ÑÒÓÔÖÕØŒÙÚÛÜÝŸ",   u"€£¥¢§°ªº«»¿¡±½¼µ", u"ąćęłńśźżčďěňřšťůž",
+};
+
+/// A request whose items show the columns of a ticket and a receipt of the queue, what its encoding
+/// has and what its settings are.
+QByteArray testPage(const QString &queue, const QString &encoding)
+{
+    const QString own = ZTConfiguration::queueFile(queue);
+    const QString path = QFile::exists(own) ? own : ZTConfiguration::queueFile();
+    const bool isReadable = QFileInfo(path).isReadable();
+    const ZTConfiguration settings(isReadable ? path : u"/dev/null"_s, u"cfg"_s);
+    QByteArray request;
+    QXmlStreamWriter writer(&request);
+    const auto writeItem = [&](const QString &number, const QString &name) {
+        writer.writeEmptyElement(u"receipe"_s);
+        writer.writeAttribute(u"number"_s, number);
+        writer.writeAttribute(u"name"_s, name);
+        writer.writeAttribute(u"price"_s, u"1.50"_s);
+        writer.writeAttribute(u"totalPrice"_s, u"12.00"_s);
+    };
+    const auto writeMethod = [&](const QString &method, const QString &prefix) {
+        writer.writeEmptyElement(u"method"_s);
+        writer.writeAttribute(u"name"_s, method);
+        writeItem(u"8"_s, u"1234567890"_s.repeated(10));
+        for (const QString &word : {u"paperWidth"_s, u"quantityFieldWidth"_s, u"priceFieldWidth"_s,
+                                    u"totalPriceFieldWidth"_s})
+            writeItem(settings.getStrValue(prefix + word), word);
+    };
+    writer.writeStartElement(u"print"_s);
+    writeMethod(u"printPartialOrder"_s, u"zentaro.doc."_s);
+    for (const QString &text : {queue, isReadable ? path : u"no settings"_s, encoding})
+        writeItem({}, text);
+    for (const char16_t *const row : characters)
+        writeItem({}, QString::fromUtf16(row));
+    writeMethod(u"printFullOrderReceipt"_s, u"zentaro.receiptdoc."_s);
+    writer.writeEndElement();
+    return request;
+}
+
+int test(const Call &call)
+{
+    QueueCommand line(call, u"Prints a page with the columns, the settings and the characters of a "
+                            "queue."_s);
+    line.addArgument(u"QUEUE"_s, u"The queue's name."_s);
+    if (const std::optional<int> status = line.readNames(1))
+        return *status;
+    const QString name = line.arguments().first();
+    const std::optional<QString> options = line.ran(u"lpoptions"_s, {u"-p"_s, name, u"-l"_s});
+    if (!options)
+        return tools::Trouble;
+    QString encoding;
+    for (const auto &it : found(u"^Encoding/.*\\*(\\S+)"_s, {}, *options))
+        encoding = it.captured(1);
+    const std::optional<QString> sent =
+        line.ran(u"lp"_s,
+                 {u"-d"_s, name, u"-t"_s, u"test page"_s, u"-o"_s,
+                  u"document-format=application/vnd.zentaro.print-request"_s},
+                 testPage(name, encoding));
+    return sent ? tools::printOut(*sent) : tools::Trouble;
+}
+
+constexpr std::array<tools::Command, 4> commands = {{
+    {"add"_L1, "makes a queue of a printer"_L1, add},
+    {"list"_L1, "tells of the queues and their jobs"_L1, list},
+    {"remove"_L1, "removes a queue"_L1, remove},
+    {"test"_L1, "prints a page that shows what a queue prints like"_L1, test},
+}};
+
+} // namespace
+
+int run(const Call &call)
+{
+    return tools::dispatch(call, {u"The queues of receipt printers."_s, commands, {}, {}});
+}
+
+} // namespace queuetool
