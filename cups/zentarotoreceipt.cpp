@@ -9,6 +9,7 @@
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
 #include "text/localefile.h"
+#include "text/standardoutput.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -225,12 +226,12 @@ Outcome render(QIODevice &request, int descriptor, QTextCodec *codec)
 }
 
 /// Sends the print file to the printer as often as there are copies; false when nobody takes it.
-bool send(int descriptor, int output, int copies)
+bool send(int descriptor, int copies)
 {
     const off_t size = lseek(descriptor, 0, SEEK_END);
     for (int i = 0; i < copies; ++i) {
         for (off_t at = 0; at < size;) {
-            if (sendfile(output, descriptor, &at, size_t(size - at)) <= 0)
+            if (sendfile(STDOUT_FILENO, descriptor, &at, size_t(size - at)) <= 0)
                 return false;
         }
     }
@@ -244,8 +245,8 @@ void tellState(bool faulty)
         std::fprintf(stderr, "STATE: %c%s\n", faulty ? '+' : '-', FaultyReason);
 }
 
-/// Prints the job of these arguments on `output`; answers the exit status.
-int printJob(int argc, char **argv, int output)
+/// Prints the job of these arguments; answers the exit status.
+int printJob(int argc, char **argv)
 {
     QFile request(argc > 6 ? QFile::decodeName(argv[6]) : QString());
     if (argc > 6 ? !request.open(QIODevice::ReadOnly) : !request.open(0, QIODevice::ReadOnly)) {
@@ -263,7 +264,7 @@ int printJob(int argc, char **argv, int output)
     if (isFaulty)
         tell("ERROR", "Printed as far as the request goes: "_L1 + outcome.fault);
     const int copies = qMax(1, atoi(argv[4]));
-    if (!send(descriptor, output, copies))
+    if (!send(descriptor, copies))
         return EXIT_FAILURE; // of which the scheduler knows
     std::fprintf(stderr, "PAGE: 1 %d\n", copies);
     return EXIT_SUCCESS;
@@ -278,9 +279,8 @@ int main(int argc, char **argv)
         return EXIT_FAILURE;
     }
     std::set_terminate(endWithoutMemory);
-    // Standard output is the printer: what the print run tells there goes to the scheduler's log.
-    const int output = dup(STDOUT_FILENO);
-    dup2(STDERR_FILENO, STDOUT_FILENO);
+    // Standard output is the printer: what the print run has to say goes to the scheduler's log.
+    const text::LineSink toLog(text::LineSink::toErrors);
     int words = 1; // the others are not the toolkit's
     const QCoreApplication application(words, argv);
     const QString queue = qEnvironmentVariable("PRINTER", QFile::decodeName(argv[0]));
@@ -289,7 +289,7 @@ int main(int argc, char **argv)
     QTranslator translator; // without a translation the texts stay as they are
     loadTranslation(translator, settings);
     QCoreApplication::installTranslator(&translator);
-    const int status = printJob(argc, argv, output);
+    const int status = printJob(argc, argv);
     if (status != EXIT_SUCCESS)
         waitUntilHeard();
     return status;
