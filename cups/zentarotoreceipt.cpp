@@ -123,7 +123,7 @@ QString settingsFile(const QString &queue)
     const QString own = ZTConfiguration::queueFile(queue);
     QString file = QFile::exists(own) ? own : ZTConfiguration::queueFile();
     if (!QFileInfo(file).isReadable())
-        tell("WARNING", "The settings in %1 cannot be read; it prints without"_L1.arg(file));
+        tell("WARNING", "The settings in %1 cannot be read; it prints with none"_L1.arg(file));
     return file;
 }
 
