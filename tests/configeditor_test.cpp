@@ -4,9 +4,12 @@
 #include "tools/window/configeditor.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSpinBox>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -48,7 +51,22 @@ protected:
         return tree()->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
     }
 
-    QTreeWidget *tree() { return editor.treeView(); }
+    QTreeWidget *tree() { return editor.findChild<QTreeWidget *>(); }
+    QLineEdit *searchField()
+    {
+        return editor.centralWidget()->findChild<QLineEdit *>({}, Qt::FindDirectChildrenOnly);
+    }
+    QListWidget *findingsView() { return editor.findChild<QListWidget *>(); }
+
+    /// Runs what the menus call so, without the marks of their keys.
+    void choose(const QString &text)
+    {
+        for (QAction *const action : editor.findChildren<QAction *>()) {
+            if (action->text().remove(u'&') == text)
+                return action->trigger();
+        }
+        ADD_FAILURE() << text.toStdString();
+    }
 
     void select(const QString &text) { tree()->setCurrentItem(item(text)); }
 
@@ -84,8 +102,8 @@ protected:
     {
         editor.listFindings();
         QStringList texts;
-        for (int i = 0; i < editor.findingsView()->count(); ++i)
-            texts.append(editor.findingsView()->item(i)->text());
+        for (int i = 0; i < findingsView()->count(); ++i)
+            texts.append(findingsView()->item(i)->text());
         return texts;
     }
 
@@ -106,13 +124,13 @@ TEST_F(Editor, ChangesAddsRemovesUndoesAndSaves)
     change(u"paperWidth = 40"_s, u"32"_s);
     EXPECT_TRUE(editor.isWindowModified());
     select(u"printDate = true"_s);
-    editor.toggleSwitch();
-    editor.addSetting();
+    choose(u"Switch On or Off"_s);
+    choose(u"Add Setting"_s);
     type(u"topMargin = 2"_s);
     select(u"zentaro"_s);
-    editor.addGroup();
+    choose(u"Add Group"_s);
     type(u"db"_s);
-    editor.addSetting();
+    choose(u"Add Setting"_s);
     type(u"dbname=till"_s);
     const QByteArray all = saved();
     EXPECT_EQ(all, "zentaro: \n{\n    doc: \n    {\n        paperWidth = \"32\";\n"
@@ -124,15 +142,15 @@ TEST_F(Editor, ChangesAddsRemovesUndoesAndSaves)
     select(u"doc"_s);
     item(u"topMargin = 2"_s)->setSelected(true); // goes with its group
     item(u"dbname=till"_s)->setSelected(true);
-    editor.removeSelected();
+    choose(u"Remove"_s);
     EXPECT_EQ(item(u"zentaro"_s)->childCount(), 1);
-    editor.changes().undo();
+    choose(u"Undo"_s);
     EXPECT_EQ(saved(), all);
-    while (editor.changes().canUndo())
-        editor.changes().undo();
+    for (int i = 0; i < 9; ++i)
+        choose(u"Undo"_s);
     EXPECT_EQ(saved(), small);
-    while (editor.changes().canRedo())
-        editor.changes().redo();
+    for (int i = 0; i < 9; ++i)
+        choose(u"Redo"_s);
     EXPECT_EQ(item(u"db"_s)->childCount(), 0);
     EXPECT_EQ(asked, QStringList());
 }
@@ -141,14 +159,14 @@ TEST_F(Editor, ForgetsAnItemThatIsNotEntered)
 {
     open(small);
     select(u"doc"_s);
-    editor.addSetting();
+    choose(u"Add Setting"_s);
     type(u"nothing"_s, Qt::Key_Escape);
     EXPECT_EQ(item(u"doc"_s)->childCount(), 2);
     change(u"paperWidth = 40"_s, u"1"_s, Qt::Key_Escape);
     EXPECT_FALSE(editor.isWindowModified());
     tree()->setCurrentItem(tree()->topLevelItem(0));
-    editor.removeSelected(); // the file itself stays
-    editor.toggleSwitch();
+    choose(u"Remove"_s); // the file itself stays
+    choose(u"Switch On or Off"_s);
     EXPECT_EQ(tree()->topLevelItemCount(), 1);
     EXPECT_FALSE(editor.isWindowModified());
 
@@ -172,20 +190,20 @@ TEST_F(Editor, ListsFindingsAsOneTypes)
     EXPECT_TRUE(found[0].contains(u"neither"));
     EXPECT_TRUE(found[1].startsWith(u"saving loses"));
     tree()->setCurrentItem(tree()->topLevelItem(0));
-    editor.findingsView()->setCurrentRow(1);
+    findingsView()->setCurrentRow(1);
     EXPECT_EQ(tree()->currentItem()->text(0), u"printDate = a;b"_s);
 }
 
 TEST_F(Editor, ShowsWhatASearchFinds)
 {
     open("zentaro : { doc : { printDate = true; paperWidth = 40; }; bin : { path = /date; }; };");
-    editor.searchField()->setText(u"DATE"_s);
+    searchField()->setText(u"DATE"_s);
     EXPECT_FALSE(item(u"printDate = true"_s)->isHidden());
     EXPECT_TRUE(item(u"paperWidth = 40"_s)->isHidden());
     EXPECT_TRUE(item(u"bin"_s)->isHidden()); // the text is in a value
-    editor.searchField()->setText(u"bin"_s);
+    searchField()->setText(u"bin"_s);
     EXPECT_FALSE(item(u"path = /date"_s)->isHidden()); // its group is found
-    editor.searchField()->clear();
+    searchField()->clear();
     EXPECT_FALSE(item(u"paperWidth = 40"_s)->isHidden());
 }
 
@@ -235,9 +253,9 @@ TEST_F(Editor, StartsAFileThatIsNotThere)
     ASSERT_TRUE(editor.open({path, u"cfg"_s}));
     editor.show();
     EXPECT_EQ(findings().size(), 1);
-    editor.addGroup();
+    choose(u"Add Group"_s);
     type(u"zentaro"_s);
-    editor.addSetting();
+    choose(u"Add Setting"_s);
     type(u"a = 1"_s);
     EXPECT_EQ(saved(), "zentaro: \n{\n    a = \"1\";\n};\n\n");
     EXPECT_FALSE(editor.open({folder.path(), u"cfg"_s}));

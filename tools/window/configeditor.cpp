@@ -4,18 +4,19 @@
 #include "config/configviews.h"
 #include "tools/config/losses.h"
 #include "tools/config/settingcheck.h"
-#include "tools/knownkeys.h"
-#include "tools/window/itemdelegate.h"
-#include "tools/window/treechanges.h"
+#include "tools/terminal.h"
+#include "tools/window/settingpane.h"
 
-#include <QLabel>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
-#include <QTreeWidget>
+#include <QStatusBar>
 
-#include <algorithm>
-#include <utility>
+#include <cerrno>
+#include <unistd.h>
 
 namespace configtool {
 
@@ -25,127 +26,169 @@ namespace {
 
 constexpr int SubjectRole = Qt::UserRole; // of a finding's row: the entry it is about
 
-QTreeWidgetItem *topMost(QTreeWidgetItem *item, const QTreeWidgetItem *file)
+/// The store of a file that need not be there yet: it is empty then, and nothing is told.
+class EditedFile : public libconfig::Config
 {
-    QTreeWidgetItem *top = item;
-    for (; item && item != file; item = item->parent()) {
-        if (item->isSelected())
-            top = item;
+public:
+    explicit EditedFile(const Source &source)
+    {
+        if (QFileInfo::exists(source.path))
+            readFile(source.path, source.format);
+        fileName = source.path;
+        fileType = source.format;
     }
-    return top;
+};
+
+QByteArray contentOfFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Why the file cannot be written, or made where it is missing; empty when it can.
+QString whyUnwritable(const QString &path)
+{
+    QFileInfo place(path);
+    while (!place.exists() && place.path() != place.filePath())
+        place.setFile(place.path());
+    if (place.filePath() != path && !place.isDir())
+        return qt_error_string(ENOTDIR);
+    return access(QFile::encodeName(place.filePath()).constData(), W_OK) == 0
+               ? QString()
+               : qt_error_string(errno);
+}
+
+QString listOf(const std::vector<Finding> &findings)
+{
+    constexpr size_t Most = 12; // lines in a box
+    QStringList lines;
+    for (size_t i = 0; i < findings.size() && i < Most; ++i)
+        lines.append(u"• "_s + findings[i].text);
+    if (findings.size() > Most)
+        lines.append(ConfigEditor::tr("and %1 more").arg(findings.size() - Most));
+    return lines.join(u'\n');
 }
 
 } // namespace
 
-void ConfigEditor::addSetting()
+bool ConfigEditor::refuse(const QString &text, const QString &details)
 {
-    QTreeWidgetItem *const group = currentGroup();
-    QTreeWidgetItem *const current = tree->currentItem();
-    int index = 0; // behind the current setting, or the last one; groups come after settings
-    if (current && current->parent() == group && !libconfig::isGroupItem(*current)) {
-        index = group->indexOfChild(current) + 1;
-    } else {
-        while (index < group->childCount() && !libconfig::isGroupItem(*group->child(index)))
-            ++index;
+    ask(text, details, QMessageBox::Ok);
+    return false;
+}
+
+bool ConfigEditor::open(const Source &file)
+{
+    QFile present(file.path);
+    const QFileInfo info(present);
+    const QString trouble = tr("%1 cannot be edited.").arg(file.path);
+    if (info.exists() && !info.isFile())
+        return refuse(trouble, tr("It is not a file."));
+    if (info.size() > MaxContentBytes)
+        return refuse(trouble, tr("It has more than 64 MiB."));
+    if (info.exists() && !present.open(QIODevice::ReadOnly))
+        return refuse(tr("%1 cannot be read.").arg(file.path), present.errorString());
+    const QByteArray content = present.isOpen() ? present.readAll() : QByteArray();
+    Outline outline = readOutline(content, file.format);
+    if (nestsTooDeep(outline))
+        return refuse(trouble, tr("Its groups stand too deep within each other."));
+    written = content;
+    fileFaults = std::move(outline.faults);
+    fileLosses = std::move(outline.losses);
+    const std::unique_ptr<QTreeWidget> view(EditedFile(file).newConfigListView());
+    std::unique_ptr<QTreeWidgetItem> item(view->takeTopLevelItem(0));
+    if (!item) {
+        item.reset(libconfig::newGroupItem(file.path));
+        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     }
-    addAndEdit(u"add setting"_s,
-               std::unique_ptr<QTreeWidgetItem>(libconfig::newSettingItem({}, {})), index);
+    tree->take(std::move(item));
+    nameFile(file);
+    listFindings();
+    tree->setFocus();
+    return true;
 }
 
-void ConfigEditor::addGroup()
+void ConfigEditor::nameFile(const Source &file)
 {
-    addAndEdit(u"add group"_s, std::unique_ptr<QTreeWidgetItem>(libconfig::newGroupItem({})),
-               currentGroup()->childCount());
+    source = file;
+    tree->fileItem()->setText(0, file.path);
+    setWindowTitle(u"%1[*] – %2"_s.arg(QFileInfo(file.path).fileName(), tr("Configuration")));
+    updateHint();
 }
 
-void ConfigEditor::addAndEdit(const QString &what, std::unique_ptr<QTreeWidgetItem> item, int index)
+void ConfigEditor::chooseFile()
 {
-    tree->setFocus(); // what is being edited is entered
-    searchLine->clear();
-    QTreeWidgetItem *const added = item.get();
-    undoStack.beginMacro(what);
-    isAdding = true;
-    isEntered = false;
-    undoStack.push(new PresenceChange(what, std::move(item), currentGroup(), index,
-                                      [this](QTreeWidgetItem *shown) { showItem(shown); }));
-    tree->editItem(added);
-}
-
-/// A text has been entered for an item.
-void ConfigEditor::enter(QTreeWidgetItem *item, const QString &text)
-{
-    typing = {};
-    isEntered = true;
-    if (text != item->text(0))
-        undoStack.push(
-            new TextChange(item, text, [this](QTreeWidgetItem *shown) { showItem(shown); }));
-}
-
-/// The line in which an item was edited has closed; an item that was to be added and got no text
-/// goes again.
-void ConfigEditor::endEditing()
-{
-    typing = {};
-    treeChanged();
-    if (!isAdding)
+    if (!confirmLeaving())
         return;
-    isAdding = false;
-    undoStack.endMacro();
-    if (!isEntered)
-        undoStack.undo();
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open"), QFileInfo(source.path).path());
+    if (!path.isEmpty())
+        open({path, formatOf(path)});
 }
 
-void ConfigEditor::removeSelected()
+void ConfigEditor::chooseTarget()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save As"), source.path);
+    if (!path.isEmpty())
+        saveTo({path, formatOf(path)});
+}
+
+bool ConfigEditor::saveTo(const Source &target)
+{
+    tree->setFocus(); // what is being typed is entered
+    if (!confirmReplacing(target) || !confirmLosses(target.format))
+        return false;
+    QDir().mkpath(QFileInfo(target.path).path());
+    if (!EditedFile(target).loadListView(tree))
+        return refuse(tr("%1 could not be written.").arg(target.path), whyUnwritable(target.path));
+    written = contentOfFile(target.path);
+    fileFaults.clear();
+    fileLosses.clear();
+    tree->changes.setClean();
+    nameFile(target);
+    listFindings();
+    statusBar()->showMessage(tr("Saved %1").arg(target.path), 5'000);
+    return true;
+}
+
+/// Whether a file may be replaced that another program has changed meanwhile.
+bool ConfigEditor::confirmReplacing(const Source &target)
+{
+    if (target.path != source.path || contentOfFile(target.path) == written)
+        return true; // the dialog has asked about another file
+    return ask(tr("%1 has changed since it was opened.").arg(target.path),
+               tr("Saving replaces it with what this window shows."),
+               QMessageBox::Save | QMessageBox::Cancel)
+           == QMessageBox::Save;
+}
+
+/// Whether a file may be written that lacks something.
+bool ConfigEditor::confirmLosses(const QString &format)
+{
+    std::vector<Finding> lost = fileLosses;
+    const std::vector<Finding> more = lossesInFormat(tree->outlineIn(format).outline, format);
+    lost.insert(lost.end(), more.begin(), more.end());
+    return lost.empty()
+           || ask(tr("The file that is written will lack something:"), listOf(lost),
+                  QMessageBox::Save | QMessageBox::Cancel)
+                  == QMessageBox::Save;
+}
+
+/// Whether the present file may be left, saved or not.
+bool ConfigEditor::confirmLeaving()
 {
     tree->setFocus();
-    QList<QTreeWidgetItem *> chosen; // without what lies below another chosen one
-    for (QTreeWidgetItem *const item : tree->selectedItems()) {
-        if (item != fileItem() && topMost(item, fileItem()) == item)
-            chosen.append(item);
-    }
-    if (chosen.isEmpty())
-        return;
-    tree->clearSelection(); // the view would part it again for every item that goes
-    undoStack.beginMacro(u"remove"_s);
-    // From the last one, so that none moves those behind it; to show each would take minutes.
-    ShowItem show = [this](QTreeWidgetItem *shown) { showItem(shown); };
-    std::ranges::reverse(chosen);
-    for (QTreeWidgetItem *const item : std::as_const(chosen))
-        undoStack.push(new PresenceChange({}, item, std::exchange(show, {})));
-    undoStack.endMacro();
+    if (tree->changes.isClean())
+        return true;
+    const auto answer =
+        ask(tr("%1 has changes that are not saved.").arg(QFileInfo(source.path).fileName()), {},
+            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
-void ConfigEditor::toggleSwitch()
+void ConfigEditor::closeEvent(QCloseEvent *event)
 {
-    QTreeWidgetItem *const item = tree->currentItem();
-    if (!item || !item->parent() || libconfig::isGroupItem(*item))
-        return;
-    const auto [key, value] = libconfig::settingOf(item->text(0));
-    if (const Setting *const setting = tools::findSetting(item->parent()->text(0), key);
-        setting && setting->kind == SettingKind::Switch)
-        enter(item, libconfig::settingText(key, value == "true"_L1 ? u"false"_s : u"true"_s));
-}
-
-QTreeWidgetItem *ConfigEditor::fileItem() const
-{
-    return tree->topLevelItem(0);
-}
-
-/// The group that new items join.
-QTreeWidgetItem *ConfigEditor::currentGroup() const
-{
-    QTreeWidgetItem *const current = tree->currentItem();
-    if (!current)
-        return fileItem();
-    return libconfig::isGroupItem(*current) ? current : current->parent();
-}
-
-void ConfigEditor::showItem(QTreeWidgetItem *item)
-{
-    for (QTreeWidgetItem *above = item->parent(); above; above = above->parent())
-        above->setExpanded(true);
-    tree->setCurrentItem(item);
-    tree->scrollToItem(item);
+    event->setAccepted(!tree->fileItem() || confirmLeaving());
 }
 
 /// The tree is not what the findings are about any more.
@@ -153,26 +196,22 @@ void ConfigEditor::treeChanged()
 {
     listed = {};
     pause.start();
-    updateHint();
+    showSetting();
 }
 
 void ConfigEditor::listFindings()
 {
     pause.stop();
-    listed = outlineOf(*tree, source.format, typing);
+    updateHint();
+    listed = tree->outlineIn(source.format);
     std::vector<Finding> found = checkSettings(listed.outline);
     for (Finding &loss : lossesInFormat(listed.outline, source.format)) {
         if (loss.code == "lost-group"_L1 || loss.code == "lost-duplicate"_L1)
             continue; // found above
-        loss.text.prepend(u"saving loses "_s);
+        loss.text = tr("saving loses %1").arg(loss.text);
         found.push_back(std::move(loss));
     }
-    QHash<const QTreeWidgetItem *, tools::Severity> marks;
-    for (const Finding &finding : found) {
-        tools::Severity &mark = marks[listed.items[size_t(finding.subject)]];
-        mark = std::max(mark, finding.severity);
-    }
-    delegate->setMarks(marks);
+    tree->mark(listed, found);
 
     const size_t count = fileFaults.size() + found.size();
     const QSignalBlocker silence(findings);
@@ -184,14 +223,11 @@ void ConfigEditor::listFindings()
         row->setData(SubjectRole, finding.subject);
     };
     for (const Finding &fault : fileFaults)
-        list("In the file, line "_L1 + QString::number(fault.at.line) + ": "_L1 + fault.text,
-             fault);
+        list(tr("In the file, line %1: %2").arg(fault.at.line).arg(fault.text), fault);
     for (const Finding &finding : tools::abridged(std::move(found)))
         list(finding.text, finding);
-    findingsTitle->setText(count == 0   ? u"Nothing wrong"_s
-                           : count == 1 ? u"1 finding"_s
-                                        : QString::number(count) + " findings"_L1);
-    applySearch();
+    findingsTitle->setText(count == 0 ? tr("Nothing wrong") : tr("Findings: %1").arg(count));
+    tree->showMatching(listed, searchLine->text());
 }
 
 /// Goes to the item that a finding is about.
@@ -202,29 +238,49 @@ void ConfigEditor::showFinding(int row)
     const QListWidgetItem *const finding = findings->item(row);
     const qsizetype subject = finding ? finding->data(SubjectRole).toLongLong() : -1;
     if (subject >= 0 && subject < qsizetype(listed.items.size()))
-        showItem(listed.items[size_t(subject)]);
+        tree->showItem(listed.items[size_t(subject)]);
 }
 
-void ConfigEditor::search(const QString &text)
+void ConfigEditor::currentChanged()
 {
-    searchLine->setText(text);
-    if (listed.items.empty())
-        listFindings();
+    ++session;
+    showSetting();
+}
+
+/// Shows the current item's value and what it is for.
+void ConfigEditor::showSetting()
+{
+    const QTreeWidgetItem *const item = tree->currentItem();
+    QString key;
+    const auto [word, value] =
+        item ? libconfig::settingOf(item->text(0)) : std::pair<QString, QString>();
+    const bool isGroup = !item || libconfig::isGroupItem(*item);
+    for (const QTreeWidgetItem *above = item ? item->parent() : nullptr; above && above->parent();
+         above = above->parent())
+        key.prepend(above->text(0) + u'.');
+    if (isGroup)
+        setting->showGroup(item ? key + item->text(0) : QString());
     else
-        applySearch();
+        setting->show(key + word, tree->settingOf(item), value);
 }
 
-void ConfigEditor::applySearch()
+/// Gives the current setting the value that the person gives it.
+void ConfigEditor::edit(const QString &value)
 {
-    const QString text = searchLine->text();
-    const std::vector<bool> shown = matching(listed.outline, text);
-    for (size_t i = 0; i < shown.size(); ++i) {
-        QTreeWidgetItem *const item = listed.items[i];
-        if (item->isHidden() == shown[i])
-            item->setHidden(!shown[i]);
-        if (shown[i] && !text.isEmpty() && item->childCount() > 0)
-            item->setExpanded(true);
-    }
+    if (QTreeWidgetItem *const item = tree->currentItem())
+        tree->setValue(item, value, session);
+}
+
+void ConfigEditor::updateHint()
+{
+    QStringList hints;
+    if (const QString reason = whyUnwritable(source.path); !reason.isEmpty())
+        hints.append(tr("This file cannot be written: %1. “Save As” writes another.").arg(reason));
+    if (tree->fileItem()->childCount() == 0)
+        hints.append(tr("There are no settings yet. “zentaro config init” writes a complete "
+                        "configuration to start from; or add a group “zentaro” first."));
+    hint->setText(hints.join(u'\n'));
+    hint->setVisible(!hints.isEmpty());
 }
 
 } // namespace configtool

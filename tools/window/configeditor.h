@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "config/config.h"
 #include "tools/config/source.h"
-#include "tools/window/editedfile.h"
-#include "tools/window/treeoutline.h"
+#include "tools/window/configtree.h"
 
 #include <QMainWindow>
 #include <QMessageBox>
-#include <QStyle>
 #include <QTimer>
-#include <QUndoStack>
 
 #include <functional>
 #include <memory>
@@ -17,103 +15,76 @@
 class QLabel;
 class QLineEdit;
 class QListWidget;
-class QSplitter;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace configtool {
 
-class ItemDelegate;
+class SettingPane;
 
-/// The window in which a configuration is edited: its tree, a search field above it, and beside it
-/// what is wrong with it, as one types.
+/// The window in which a configuration is edited: its tree with a search field above it, what the
+/// current setting is for and an editor that fits it, and what is wrong, as one types.
 class ConfigEditor : public QMainWindow
 {
+    Q_DECLARE_TR_FUNCTIONS(ConfigEditor)
+
 public:
     /// Asks the person something, or tells, and answers one of the buttons.
     using Ask = std::function<QMessageBox::StandardButton(
         const QString &text, const QString &details, QMessageBox::StandardButtons buttons)>;
 
     ConfigEditor();
-    ConfigEditor(const ConfigEditor &) = delete;
-    ConfigEditor &operator=(const ConfigEditor &) = delete;
-    ~ConfigEditor() override;
 
     /// Shows another file; a file that does not exist yet shows empty. A file that cannot be read
     /// is told and answers false.
     bool open(const Source &file);
     /// Writes the file in its own format, after a word with the person when something would be lost
     /// by it. False when it was not written.
-    bool save();
+    bool save() { return saveTo(source); }
+    /// The same under another name, which the window has from then on.
+    bool saveTo(const Source &target);
 
-    // The edits; each can be undone.
-
-    /// Adds a setting to the current group, or a group to it, and begins to edit it.
-    void addSetting();
-    void addGroup();
-    /// Removes the selected items.
-    void removeSelected();
-    /// Turns the current setting from true to false or the other way.
-    void toggleSwitch();
-
-    /// Shows only what matches the text.
-    void search(const QString &text);
     /// Lists what is wrong, at once; otherwise it is listed a moment after each change.
     void listFindings();
-
     /// Another way to ask than a message box.
     void setAsk(Ask way) { ask = std::move(way); }
-    QTreeWidget *treeView() const { return tree; }
-    QListWidget *findingsView() const { return findings; }
-    QLineEdit *searchField() const { return searchLine; }
-    QUndoStack &changes() { return undoStack; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
     void buildWindow();
-    QWidget *buildFindingsPane();
-    void buildActions();
+    void buildFileMenu();
+    void buildEditMenu();
     QAction *addEntry(QMenu *menu, const QString &text, QStyle::StandardPixmap icon,
                       const QKeySequence &shortcut, const std::function<void()> &run);
-    void takeTree(QTreeWidget *view);
-    void dropTree();
 
+    bool refuse(const QString &text, const QString &details);
     void chooseFile();
+    void chooseTarget();
     bool confirmLeaving();
-    bool confirmLosses();
-    bool confirmReplacing();
+    bool confirmLosses(const QString &format);
+    bool confirmReplacing(const Source &target);
+    void nameFile(const Source &file);
 
-    QTreeWidgetItem *fileItem() const;
-    QTreeWidgetItem *currentGroup() const;
-    void addAndEdit(const QString &what, std::unique_ptr<QTreeWidgetItem> item, int index);
-    void enter(QTreeWidgetItem *item, const QString &text);
-    void endEditing();
-    void showItem(QTreeWidgetItem *item);
-    void showFinding(int row);
     void treeChanged();
-    void applySearch();
+    void currentChanged();
+    void showSetting();
+    void edit(const QString &value);
+    void showFinding(int row);
     void updateHint();
 
     Source source;
     QByteArray written;              ///< the file's content as it was last read or written
     std::vector<Finding> fileFaults; ///< of the file as it was read
     std::vector<Finding> fileLosses; ///< what reading it lost
-    std::unique_ptr<EditedFile> store;
 
-    QSplitter *splitter;
-    QLineEdit *searchLine;
-    QTreeWidget *tree = nullptr;
-    QLabel *hint; ///< what to do with an empty tree
-    QLabel *findingsTitle;
-    QListWidget *findings;
-    ItemDelegate *delegate = nullptr;
+    QLineEdit *const searchLine;
+    ConfigTree *const tree;
+    SettingPane *const setting;
+    QLabel *const hint; ///< what to do with an empty tree, or a file that cannot be written
+    QLabel *const findingsTitle;
+    QListWidget *const findings;
 
-    QUndoStack undoStack;
-    bool isAdding = false;  ///< a new item is being edited, in an open macro
-    bool isEntered = false; ///< its text has been entered
-    Typing typing;
+    int session = 0;    ///< counts the settings that have been shown
     TreeOutline listed; ///< what the findings are about; empty when it has changed since
     QTimer pause;       ///< after a change, before the findings are listed
     Ask ask;

@@ -14,12 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The toolkit aborts without a display; this ends the process in the usual way instead.
+/// The toolkit aborts without a display; this ends the process in the usual way instead. Its
+/// remarks about the machine are not the user's affair.
 void endWhenFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
+    if (type != QtFatalMsg)
+        return;
     tools::printError("zentaro config edit: "_L1 + message + u'\n');
-    if (type == QtFatalMsg)
-        _exit(tools::Trouble);
+    _exit(tools::Trouble);
 }
 
 int edit(const tools::Call &call, const configtool::Source &source)

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "tools/window/configtree.h"
+
+#include "config/configviews.h"
+#include "tools/knownkeys.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace configtool {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another text for an item.
+class TextChange : public QUndoCommand
+{
+public:
+    TextChange(ConfigTree &tree, QTreeWidgetItem *item, const QString &text, int session)
+        : QUndoCommand(ConfigTree::tr("change"))
+        , tree(tree)
+        , item(item)
+        , other(text)
+        , session(session)
+    {
+    }
+    void redo() override { exchange(); }
+    void undo() override { exchange(); }
+    int id() const override { return session > 0 ? 1 : -1; }
+    bool mergeWith(const QUndoCommand *command) override
+    {
+        const auto *const later = dynamic_cast<const TextChange *>(command);
+        return later && later->item == item && later->session == session;
+    }
+
+private:
+    void exchange()
+    {
+        const QString present = item->text(0);
+        item->setText(0, std::exchange(other, present));
+        tree.showItem(item);
+    }
+
+    ConfigTree &tree;
+    QTreeWidgetItem *const item;
+    QString other; // the text that the item does not have now
+    const int session;
+};
+
+/// An item that joins the tree or leaves it; the change owns it while it is outside.
+class PresenceChange : public QUndoCommand
+{
+public:
+    /// Adds `item`, or removes it where it stands in the tree. One that `isAdded` has joined it
+    /// already.
+    PresenceChange(const QString &text, ConfigTree &tree, QTreeWidgetItem *item,
+                   QTreeWidgetItem *parent, int index, bool isAdded = false)
+        : QUndoCommand(text)
+        , tree(tree)
+        , item(item)
+        , outside(item->parent() ? nullptr : item)
+        , parent(parent)
+        , index(index)
+        , isDone(isAdded)
+    {
+    }
+    void redo() override
+    {
+        if (!std::exchange(isDone, false))
+            exchange();
+    }
+    void undo() override { exchange(); }
+
+private:
+    void exchange()
+    {
+        if (outside) {
+            parent->insertChild(index, outside.release());
+            tree.showItem(item);
+        } else {
+            outside.reset(parent->takeChild(index));
+        }
+    }
+
+    ConfigTree &tree;
+    QTreeWidgetItem *const item;
+    std::unique_ptr<QTreeWidgetItem> outside; // `item`, while the tree does not have it
+    QTreeWidgetItem *const parent;
+    const int index;
+    bool isDone;
+};
+
+} // namespace
+
+/// The group that new items join.
+QTreeWidgetItem *ConfigTree::currentGroup() const
+{
+    QTreeWidgetItem *const current = currentItem();
+    if (!current)
+        return fileItem();
+    return libconfig::isGroupItem(*current) ? current : current->parent();
+}
+
+void ConfigTree::addSetting()
+{
+    setFocus(); // what is being typed is entered
+    const QTreeWidgetItem *const group = currentGroup();
+    QTreeWidgetItem *const current = currentItem();
+    int index = 0; // behind the current setting, or the last one; groups come after settings
+    if (current && current->parent() == group && !libconfig::isGroupItem(*current)) {
+        index = group->indexOfChild(current) + 1;
+    } else {
+        while (index < group->childCount() && !libconfig::isGroupItem(*group->child(index)))
+            ++index;
+    }
+    addAndEdit(libconfig::newSettingItem({}, {}), index);
+}
+
+void ConfigTree::addGroup()
+{
+    setFocus();
+    addAndEdit(libconfig::newGroupItem({}), currentGroup()->childCount());
+}
+
+void ConfigTree::addAndEdit(QTreeWidgetItem *item, int index)
+{
+    currentGroup()->insertChild(index, item);
+    showItem(item);
+    editItem(item);
+    isNew = true;
+}
+
+/// The text that has been typed is entered.
+void ConfigTree::commitData(QWidget *)
+{
+    QTreeWidgetItem *const item = std::exchange(typed, nullptr);
+    if (!item)
+        return;
+    const QString text = item->text(0);
+    if (std::exchange(isNew, false)) {
+        QTreeWidgetItem *const parent = item->parent();
+        changes.push(
+            new PresenceChange(tr("add"), *this, item, parent, parent->indexOfChild(item), true));
+    } else if (text != before) {
+        item->setText(0, before);
+        changes.push(new TextChange(*this, item, text, 0));
+    }
+}
+
+void ConfigTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTreeWidgetItem *const item = std::exchange(typed, nullptr);
+    const bool goes = std::exchange(isNew, false);
+    if (item && !goes)
+        item->setText(0, before);
+    QTreeWidget::closeEditor(editor, hint);
+    if (item && goes)
+        delete item;
+}
+
+void ConfigTree::removeSelected()
+{
+    setFocus();
+    QList<QTreeWidgetItem *> chosen = selectedItems();
+    chosen.removeIf([this](const QTreeWidgetItem *item) { // it goes with another
+        const QTreeWidgetItem *above = item->parent();
+        while (above && !above->isSelected())
+            above = above->parent();
+        return item == fileItem() || above;
+    });
+    if (chosen.isEmpty())
+        return;
+    clearSelection(); // the view would part it again for every item that goes
+    changes.beginMacro(tr("remove"));
+    std::ranges::reverse(chosen); // so that none moves those behind it
+    for (QTreeWidgetItem *const item : std::as_const(chosen))
+        changes.push(new PresenceChange({}, *this, item, item->parent(),
+                                        item->parent()->indexOfChild(item)));
+    changes.endMacro();
+}
+
+void ConfigTree::setValue(QTreeWidgetItem *item, const QString &value, int session)
+{
+    const auto [key, present] = libconfig::settingOf(item->text(0));
+    if (value != present)
+        changes.push(new TextChange(*this, item, libconfig::settingText(key, value), session));
+}
+
+void ConfigTree::setEverywhere(QTreeWidgetItem *item)
+{
+    const auto [key, value] = libconfig::settingOf(item->text(0));
+    const QTreeWidgetItem *const product = item->parent()->parent();
+    changes.beginMacro(tr("change everywhere"));
+    for (int i = 0; i < product->childCount(); ++i) {
+        QTreeWidgetItem *const group = product->child(i);
+        if (!libconfig::isGroupItem(*group) || !tools::isDocumentGroup(group->text(0))
+            || !tools::findSetting(group->text(0), key))
+            continue;
+        if (QTreeWidgetItem *const present = settingIn(*group, key))
+            setValue(present, value);
+        else
+            changes.push(
+                new PresenceChange({}, *this, libconfig::newSettingItem(key, value), group, 0));
+    }
+    changes.endMacro();
+    showItem(item);
+}
+
+void ConfigTree::toggleSwitch()
+{
+    QTreeWidgetItem *const item = currentItem();
+    const Setting *const setting = settingOf(item);
+    if (setting && setting->kind == SettingKind::Switch)
+        setValue(item,
+                 libconfig::settingOf(item->text(0)).second == "true"_L1 ? u"false"_s : u"true"_s);
+}
+
+} // namespace configtool
