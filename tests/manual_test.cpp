@@ -99,8 +99,8 @@ TEST(Completion, KnowsKeysAndValues)
         QStringList(u"zentaro.doc.paperWidth"_s));
     EXPECT_EQ(offered({u"zentaro"_s, u"check"_s, u"-c"_s, u"x"_s, u"--j"_s}, home),
               QStringList(u"--json"_s));
-    EXPECT_EQ(offered({u"zentaro"_s, u"preview"_s, u"--diff"_s, u"s"_s}, home),
-              QStringList(u"side"_s));
+    EXPECT_EQ(offered({u"zentaro"_s, u"preview"_s, u"--width-mm"_s, u"5"_s}, home),
+              QStringList(u"58"_s));
 }
 
 TEST(Manual, ListsEveryMethodAndEveryKeyAsTheFuzzDictionaryDoes)

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support.h"
 #include "tools/preview/difference.h"
-#include "tools/preview/paper.h"
+#include "tools/preview/document.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QTextCodec>
 
@@ -47,10 +46,6 @@ const struct
     {"unified",
      {u"--against"_s, u"@/samples/zentaro-32.conf"_s, u"@/tests/golden/preview"_s,
       u"@/samples/printFullOrder.xml"_s},
-     1},
-    {"side",
-     {u"--against"_s, u"@/samples/zentaro-32.conf"_s, u"--diff"_s, u"side"_s,
-      u"@/tests/golden/preview/sold.xml"_s},
      1},
 };
 
@@ -131,7 +126,6 @@ TEST(Preview, TellsWhatIsWrong)
         {{request, u"--columns"_s, u"0"_s}, 2, "--columns takes a number from 1 to 500"},
         {{request, u"--dpi"_s, u"9999"_s}, 2, "--dpi takes a number from 50 to 1200"},
         {{request, u"--width-mm"_s, u"70"_s}, 2, "--width-mm is 58 or 80"},
-        {{request, u"--diff"_s, u"x"_s}, 2, "--diff is unified or side"},
         {{request, u"--encoding"_s, u"x"_s}, 2, "unknown encoding `x`"},
         {{request, u"--config"_s, u"/no/such"_s}, 2, "/no/such: No such file"},
         {{request, u"--against"_s, u"/no/such"_s}, 2, "/no/such: No such file"},
@@ -140,7 +134,7 @@ TEST(Preview, TellsWhatIsWrong)
         {{request, u"--config"_s, home.path(u"broken.conf"_s)}, 0, "broken.conf: it has faults"},
         {{printFile, u"--against"_s, home.configurationPath()}, 2, "not a print request"},
         {{printFile, u"--annotate"_s}, 2, "a print file does not tell"},
-        {{home.path(u"broken.xml"_s)}, 1, "line 3: the print run stops reading here"},
+        {{home.path(u"broken.xml"_s)}, 1, "line 4: the print run stops reading here"},
         {{home.path(u"unknown.xml"_s)}, 1, "File Format Not Supported"},
         {{home.path(u"empty"_s)}, 0, "nothing is printed"},
         {{sourceDir() + u"/samples"_s, u"--against"_s, home.configurationPath()}, 0, ""},
@@ -168,14 +162,11 @@ TEST(Preview, DrawsInTheLocalesEncoding)
     EXPECT_TRUE(text.contains("0.0|0  <- 1 beyond the edge\n"));
 }
 
-std::vector<preview::PrintLine> linesOf(QByteArray content, QTextCodec *codec = nullptr)
+std::vector<preview::PrintLine> linesOf(QByteArrayView file, QTextCodec *codec = nullptr)
 {
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::ReadOnly);
-    preview::PrintFile file(buffer, codec);
     std::vector<preview::PrintLine> lines;
-    while (const auto line = file.next())
-        lines.push_back(*line);
+    for (qsizetype at = 0; at < file.size(); at = lines.back().next)
+        lines.push_back(preview::lineAt(file, at, codec));
     return lines;
 }
 
@@ -184,7 +175,6 @@ QByteArray bytesOf(const std::vector<preview::PrintLine> &lines)
 {
     QByteArray bytes;
     for (const preview::PrintLine &line : lines) {
-        EXPECT_EQ(line.offset, line.kind == LineKind::Piece ? line.offset : bytes.size());
         bytes += line.kind == LineKind::Printed ? "\"" : "";
         for (const char32_t c : line.text) {
             if (preview::isUndecodedByte(c))
@@ -193,8 +183,9 @@ QByteArray bytesOf(const std::vector<preview::PrintLine> &lines)
                 bytes += QStringView(QChar::fromUcs4(c)).toUtf8();
         }
         bytes += line.kind == LineKind::Printed ? "\"@" : "";
-        if (line.kind != LineKind::Piece && line.end != preview::LineEnd::Missing)
+        if (line.end != preview::LineEnd::Missing)
             bytes += line.end == preview::LineEnd::LineFeed ? "\n" : "\r\n";
+        EXPECT_EQ(line.next, bytes.size());
     }
     return bytes;
 }
@@ -211,16 +202,6 @@ TEST(PrintFile, LosesNothing)
         for (int j = 0; j < 40; ++j)
             content += parts[qsizetype(random() % size_t(parts.size()))];
         EXPECT_EQ(bytesOf(linesOf(content)), content) << content.toHex(' ').toStdString();
-    }
-    for (const int before : {0, 1, 2, 3}) { // a character of three bytes across a piece's end
-        const QByteArray line =
-            QByteArray(before, 'x') + QByteArray("\xE2\x82\xAC").repeated(3'000);
-        const auto lines = linesOf(line + '\n');
-        EXPECT_GE(lines.size(), 3U);
-        EXPECT_EQ(lines.front().kind, LineKind::Piece);
-        EXPECT_EQ(bytesOf(lines), line);
-        for (const preview::PrintLine &piece : lines)
-            EXPECT_FALSE(std::ranges::any_of(piece.text, preview::isUndecodedByte));
     }
 }
 
@@ -251,18 +232,22 @@ TEST(Preview, SendsNoCommandToTheTerminal)
     }
 }
 
-TEST(Difference, PairsEqualRows)
+TEST(Difference, KeepsAsManyRowsAsThereCanBe)
 {
     const struct
     {
         const char *before;
         const char *after;
-        const char *pairs; ///< `=` equal, `|` both, `<` and `>` only one
+        const char *lines; ///< ` ` in both, `-` and `+` in one
     } rows[] = {
-        {"abc", "abc", "==="},      {"abc", "", "<<<"},
-        {"", "ab", ">>"},           {"abc", "axc", "=|="},
-        {"abcd", "acd", "=<=="},    {"acd", "abcd", "=>=="},
-        {"xabcy", "zabc", "|===<"}, {"abcabba", "cbabac", "<<=<=>==>"},
+        {"abc", "abc", " a b c"},
+        {"abc", "", "-a-b-c"},
+        {"", "ab", "+a+b"},
+        {"abc", "axc", " a-b+x c"},
+        {"abcd", "acd", " a-b c d"},
+        {"acd", "abcd", " a+b c d"},
+        {"xabcy", "zabc", "-x+z a b c-y"},
+        {"abcabba", "cbabac", "-a-b c-a b+a b a+c"},
     };
     const auto rowsOf = [](const char *letters) {
         std::vector<preview::Row> all;
@@ -273,17 +258,12 @@ TEST(Difference, PairsEqualRows)
         return all;
     };
     for (const auto &row : rows) {
-        std::string signs;
-        std::string before;
-        std::string after;
-        for (const auto &pair : preview::pairedRows(rowsOf(row.before), rowsOf(row.after))) {
-            signs += pair.equal ? '=' : pair.before < 0 ? '>' : pair.after < 0 ? '<' : '|';
-            before += pair.before < 0 ? "" : std::string(1, row.before[pair.before]);
-            after += pair.after < 0 ? "" : std::string(1, row.after[pair.after]);
+        std::string lines;
+        for (const auto &pair : preview::comparedRows(rowsOf(row.before), rowsOf(row.after))) {
+            lines += pair.before < 0 ? '+' : pair.after < 0 ? '-' : ' ';
+            lines += pair.before < 0 ? row.after[pair.after] : row.before[pair.before];
         }
-        EXPECT_EQ(before, row.before);
-        EXPECT_EQ(after, row.after);
-        EXPECT_EQ(signs, row.pairs);
+        EXPECT_EQ(lines, row.lines);
     }
 }
 

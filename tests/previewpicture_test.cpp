@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support.h"
-#include "tools/preview/picture.h"
 
-#include <QDomDocument>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <QRegularExpression>
+#include <QSvgRenderer>
 
 #include <gtest/gtest.h>
 
@@ -94,49 +95,52 @@ TEST(Picture, IsItsReferenceCellByCell)
     }
 }
 
-/// Every character has the place of its cell, however the viewer's font runs.
-TEST(SvgPicture, PlacesEveryCharacter)
+/// Text, not outlines of letters; each in its cell.
+TEST(SvgPicture, ShowsWhatThePixelsShow)
 {
+    constexpr int Reduction = 8;
+    constexpr QSize Cell(72 / Reduction, 144 / Reduction); // of 40 columns, 40 dots to a millimetre
     const support::Folder folder;
-    const QString name = folder.path(u"ticket.svg"_s);
-    ASSERT_EQ(draw({u"@/tests/golden/preview/sold.xml"_s, u"-o"_s, name}).exitStatus, 0);
-    QDomDocument svg;
-    ASSERT_TRUE(svg.setContent(support::readFile(name)));
-    constexpr int Cell = 14; // 575 pixels of 72 mm by 40
-    const QDomNodeList texts = svg.elementsByTagName(u"text"_s);
-    int left = 0;
-    QStringList lines;
-    for (int i = 0; i < texts.size(); ++i) {
-        const QDomElement text = texts.at(i).toElement();
-        const QStringList places = text.attribute(u"x"_s).split(u' ');
-        ASSERT_EQ(places.size(), text.text().size());
-        for (qsizetype j = 1; j < places.size(); ++j)
-            EXPECT_EQ(places[j].toInt() - places[j - 1].toInt(), Cell);
-        if (text.text().startsWith(u"Venduto"_s))
-            left = places.first().toInt();
-        lines += text.text();
-        if (text.text() == "0"_L1) { // the one beyond the edge
-            EXPECT_EQ(places.first().toInt(), left + 40 * Cell);
-        }
+    const QString sample = u"@/tests/golden/preview/sold.xml"_s;
+    for (const QString &name : {u"t.png"_s, u"t.svg"_s}) {
+        const QStringList words{sample, u"--dpi"_s, u"1016"_s, u"-o"_s, folder.path(name)};
+        ASSERT_EQ(draw(words).exitStatus, 0);
     }
-    EXPECT_GT(left, 0);
-    EXPECT_TRUE(lines.contains(u" 38 x Caffè....................    49.40"_s));
-    EXPECT_TRUE(lines.contains(u"1204 x Grissini.................     0.0"_s));
-    EXPECT_TRUE(lines.contains(u"0"_s));
+    const QByteArray svg = support::readFile(folder.path(u"t.svg"_s));
+    EXPECT_TRUE(svg.contains(">Caff\xC3\xA8....................</text>"));
+    EXPECT_TRUE(svg.contains("<title>sold.xml</title>"));
+    EXPECT_TRUE(svg.contains("\"DejaVu Sans Mono, monospace\""));
+
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int count = 0;
+    const QGuiApplication application(count, nullptr);
+    const QImage large(folder.path(u"t.png"_s));
+    const QImage expected =
+        large.convertToFormat(QImage::Format_RGB32)
+            .scaled(large.size() / Reduction, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage image(expected.size(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    QSvgRenderer(QByteArray(svg).replace(", monospace", "")).render(&painter);
+    painter.end();
+    const std::vector<double> cells = greyOfCells(expected, Cell);
+    EXPECT_EQ(differing(greyOfCells(image, Cell), cells), 0);
+    EXPECT_GT(differing(greyOfCells(image, Cell, 1), cells), 30) << "too tolerant";
 }
 
-TEST(PdfPicture, IsOnePageOfThePaper)
+TEST(PdfPicture, HasAPageOfThePaperForEachDocument)
 {
     const support::Folder folder;
-    const QString name = folder.path(u"TICKET.PDF"_s);
-    ASSERT_EQ(draw({u"@/tests/golden/preview/sold.xml"_s, u"-o"_s, name}).exitStatus, 0);
+    const QString name = folder.path(u"TICKETS.PDF"_s);
+    ASSERT_EQ(draw({u"@/samples/printSold.xml"_s, u"@/samples/printReport.xml"_s, u"-o"_s, name})
+                  .exitStatus,
+              0);
     const QString pdf = QString::fromLatin1(support::readFile(name));
     EXPECT_TRUE(pdf.startsWith(u"%PDF-"_s));
     static const QRegularExpression box(u"/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]"_s);
-    const QRegularExpressionMatch match = box.match(pdf);
-    ASSERT_TRUE(match.hasMatch());
-    EXPECT_GT(match.captured(1).toDouble(), 80 / 25.4 * 72);
-    EXPECT_LT(match.captured(1).toDouble(), 100 / 25.4 * 72);
+    int pages = 0;
+    for (auto matches = box.globalMatch(pdf); matches.hasNext(); ++pages)
+        EXPECT_NEAR(matches.next().captured(1).toDouble(), 80 / 25.4 * 72, 0.5);
+    EXPECT_EQ(pages, 2);
 }
 
 TEST(Picture, IsWholeOrNotThereAtAll)

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tools/command.h"
-#include "tools/preview/picture.h"
+#include "tools/preview/paper.h"
 
 #include <QCoreApplication>
 
@@ -24,8 +24,8 @@ struct Desktop
     std::unique_ptr<QCoreApplication> (*pictureApplication)(int &argc, char **argv);
     /// Writes the file, which is replaced when the new one is complete. Answers why it could not be
     /// written, and an empty text when it was.
-    QString (*writePicture)(const preview::Picture &picture, const QString &fileName,
-                            preview::PictureFormat format);
+    QString (*writePicture)(const std::vector<preview::Sheet> &sheets,
+                            const preview::PictureOptions &options);
 };
 
 /// Runs the companion program's commands; answers the exit status. `desktop` is null in the program

@@ -1,23 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/preview/paper.h"
-
-#include <vector>
+#include "tools/preview/terminaldrawing.h"
 
 namespace preview {
 
-/// A row of each of two papers, side by side; -1 where one has none.
+/// The most rows of a document that are compared, or drawn in a picture.
+constexpr size_t MostRows = 4'000;
+
+/// A row that both of two sheets have, or one of them: its place in each, -1 where it has none.
 struct RowPair
 {
     qsizetype before = -1;
     qsizetype after = -1;
-    bool equal = false;
 };
 
-/// The rows of two papers beside each other, equal ones where there are most of them. Between
-/// those, the rows that differ stand in pairs as long as both papers have some. Papers that differ
-/// in more than 4,000 rows are paired from the first differing row on.
-std::vector<RowPair> pairedRows(const std::vector<Row> &before, const std::vector<Row> &after);
+/// The rows of two sheets in order, at most MostRows of each, with as many in both as there can be;
+/// what differs between those is first all that goes, then all that comes.
+std::vector<RowPair> comparedRows(const std::vector<Row> &before, const std::vector<Row> &after);
+
+/// Marks the rows that only one of the sheets has.
+void markChanges(Sheet &before, Sheet &after);
+
+/// The difference as `diff -u` prints it, with three rows around each change: `-` before what only
+/// the first sheet has, `+` before what only the second has; in colours for a terminal.
+QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row> &after,
+                          const TerminalDrawing &drawing, bool coloured);
 
 } // namespace preview

@@ -1,92 +1,155 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/document.h"
 
+#include "render/companyprinterdriver.h"
+#include "render/requestreader.h"
+#include "render/vocabulary.h"
+#include "text/localefile.h"
+#include "tools/check/tagplaces.h"
 #include "tools/requests/requestfiles.h"
 
-#include <QFile>
-#include <QTemporaryFile>
+#include <QBuffer>
+
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace preview {
 
 using namespace Qt::StringLiterals;
+using requestcheck::TagPlaces;
 
 namespace {
 
-/// A file that is removed with the object.
-class OwnFile : public QFile
+/// The printer of the print run, which notes where in the print file it is.
+class TracingDevice : public CompanyPrinterDriver
 {
 public:
-    using QFile::QFile;
-    ~OwnFile() override { remove(); }
+    TracingDevice(std::unique_ptr<QFile> printFile, const TagPlaces &places, bool traceElements)
+        : CompanyPrinterDriver(std::move(printFile))
+        , places(places)
+        , traceElements(traceElements)
+    {
+    }
+
+    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+                      const QXmlAttributes &atts) override
+    {
+        const bool isMethod = qName == element::method;
+        const qint64 begin = isMethod ? written() : 0;
+        const bool goOn = CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
+        if (isMethod && goOn)
+            trace.sections.push_back({begin, settings.paperWidth});
+        noteElement();
+        return goOn;
+    }
+
+    /// What was printed since the element before comes from the tag that was read last.
+    void noteElement()
+    {
+        const qint64 end = traceElements ? written() : 0;
+        const qint64 begin = trace.elements.empty() ? 0 : trace.elements.back().end;
+        if (end > begin)
+            trace.elements.push_back({end, places.tag().line});
+    }
+    /// Whether all that was printed is in the print file.
+    bool isWritten()
+    {
+        written();
+        return stream->status() == QTextStream::Ok && file->error() == QFile::NoError;
+    }
+
+    Trace trace;
+
+private:
+    /// The bytes in the print file. Its position counts those before they are encoded.
+    qint64 written()
+    {
+        stream->flush();
+        return file->size();
+    }
+
+    const TagPlaces &places;
+    const bool traceElements;
 };
 
-/// A copy that can be read twice; null when there is no room for it.
-std::unique_ptr<QIODevice> copied(QIODevice &source)
+/// Why the print file is not whole; empty when it is.
+QString faultOf(TracingDevice &device, const TagPlaces &places)
 {
-    constexpr int PieceBytes = 64 * 1'024;
-    auto copy = std::make_unique<QTemporaryFile>();
-    bool written = copy->open();
-    for (QByteArray piece = source.read(PieceBytes); written && !piece.isEmpty();
-         piece = source.read(PieceBytes))
-        written = copy->write(piece) == piece.size();
-    if (!written || !copy->flush() || !copy->seek(0))
-        return nullptr;
-    return copy;
+    if (!device.isWritten())
+        return u"more than %1 bytes would be printed"_s.arg(MostBytes);
+    return places.stop ? u"line %1: the print run stops reading here"_s.arg(places.last().line)
+                       : QString();
+}
+
+/// A file without a name that can be read again by its descriptor.
+std::unique_ptr<text::LocaleFile> memoryFile()
+{
+    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
+    auto file = std::make_unique<text::LocaleFile>();
+    file->limitTo(MostBytes);
+    file->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle);
+    return file;
 }
 
 } // namespace
 
-std::optional<Source> readSource(const tools::Call &call, const QString &name)
+std::optional<Input> readInput(const tools::Call &call, const QString &name)
 {
-    constexpr int MostBlank = 4 * 1'024; // bytes before the first character of a request
-    Source source{name, tools::openedRequest(call, name), false};
-    if (!source.content)
+    constexpr qint64 PieceBytes = 64 * 1'024;
+    const std::unique_ptr<QFile> file = tools::openedRequest(call, name);
+    if (!file)
         return std::nullopt;
-    if (name == tools::StandardInput || source.content->isSequential())
-        source.content = copied(*source.content);
-    if (!source.content) {
-        tools::tellTrouble(call, name, u"there is no room for a copy of it"_s);
+    QByteArray bytes;
+    for (QByteArray piece = file->read(PieceBytes); !piece.isEmpty();
+         piece = file->read(PieceBytes)) {
+        bytes += piece;
+        if (bytes.size() > MostBytes) {
+            tools::tellTrouble(call, name, u"it has more than %1 bytes"_s.arg(MostBytes));
+            return std::nullopt;
+        }
+    }
+    if (file->error() != QFile::NoError) {
+        tools::tellTrouble(call, name, file->errorString());
         return std::nullopt;
     }
-    source.isRequest = isRequest(source.content->peek(MostBlank));
-    source.content->close();
-    return source;
+    return Input{name, bytes, isRequest(bytes)};
 }
 
-Printer::Printer(const tools::Call &call, bool traceElements)
-    : call(call)
-    , traceElements(traceElements)
+bool isRequest(const QByteArray &bytes)
 {
+    constexpr qsizetype MostBlank = 4 * 1'024; // bytes before the first character of a request
+    QByteArray begin = bytes.first(qMin(bytes.size(), MostBlank));
+    for (const char *const mark : {"\xEF\xBB\xBF", "\xFE\xFF", "\xFF\xFE"}) {
+        if (begin.startsWith(mark))
+            begin.remove(0, qsizetype(qstrlen(mark)));
+    }
+    return begin.replace('\0', QByteArray()).trimmed().startsWith('<');
 }
 
-std::optional<Document> Printer::print(Source &source)
+Document render(const QByteArray &request, bool traceElements)
 {
     Document document;
-    if (!source.isRequest)
-        document.printFile = std::move(source.content);
-    else if (!printRequest(source, document))
-        return std::nullopt;
-    if (document.printFile->size() == 0)
-        tools::tellTrouble(call, source.name, u"nothing is printed"_s);
-    return document;
-}
-
-bool Printer::printRequest(Source &source, Document &document)
-{
-    const QString name = folder.filePath(QString::number(++printed));
-    document.printFile = std::make_unique<OwnFile>(name);
-    if (!source.content->open(QIODevice::ReadOnly)) {
-        tools::tellTrouble(call, source.name, source.content->errorString());
-        return false;
+    document.codec = text::localeCodec();
+    std::unique_ptr<text::LocaleFile> printFile = memoryFile();
+    QFile written;
+    if (!printFile->isOpen()
+        || !written.open(dup(printFile->handle()), QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
+        document.fault = u"there is no memory for the print file"_s;
+        return document;
     }
-    Rendering rendering = render(*source.content, name, traceElements);
-    source.content->close();
-    document.trace = std::move(rendering.trace);
-    document.isRendered = true;
-    document.isWhole = rendering.fault.isEmpty();
-    if (!document.isWhole)
-        tools::tellTrouble(call, source.name, rendering.fault);
-    return QFile::exists(name);
+    {
+        TagPlaces places;
+        TracingDevice device(std::move(printFile), places, traceElements);
+        QBuffer source;
+        source.setData(request);
+        requestreader::read(source, device, &places);
+        device.noteElement();
+        document.fault = faultOf(device, places);
+        document.trace = std::move(device.trace);
+    }
+    written.seek(0);
+    document.printFile = written.readAll();
+    return document;
 }
 
 } // namespace preview

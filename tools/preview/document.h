@@ -2,52 +2,32 @@
 #pragma once
 
 #include "tools/command.h"
-#include "tools/preview/rendering.h"
-
-#include <QIODevice>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "tools/preview/paper.h"
 
 namespace preview {
 
-/// A file that a word of the command names: a print request or a print file.
-struct Source
+/// The largest file, of requests and of what they print, that is held in memory: bytes.
+constexpr qint64 MostBytes = qint64(64) * 1'024 * 1'024;
+
+/// What a word of the command names: a print request or a print file.
+struct Input
 {
     QString name;
-    std::unique_ptr<QIODevice> content; ///< closed, and not sequential
-    bool isRequest = false;             ///< by its content, whatever its name
+    QByteArray bytes;
+    bool isRequest = false; ///< by its content, whatever its name
 };
 
-/// The file, or standard input for `-`; nothing when it cannot be read, which is told.
-std::optional<Source> readSource(const tools::Call &call, const QString &name);
+/// The file, or standard input for `-`; nothing when it cannot be read or is larger than MostBytes,
+/// which is told.
+std::optional<Input> readInput(const tools::Call &call, const QString &name);
 
-/// The print file of a source.
-struct Document
-{
-    std::unique_ptr<QIODevice> printFile; ///< closed, and not sequential
-    Trace trace;                          ///< empty where the source is a print file itself
-    bool isRendered = false;              ///< and so in the encoding of the locale
-    bool isWhole = true;                  ///< whether the request was read to its end
-};
+/// Whether a file is a print request, whatever its encoding: its first character other than white
+/// space is `<`.
+bool isRequest(const QByteArray &bytes);
 
-/// Makes the print files of sources, with the configuration that is in use.
-class Printer
-{
-public:
-    Printer(const tools::Call &call, bool traceElements);
-
-    /// The document of a source, whose content it takes when that is a print file. What cannot be
-    /// printed to its end, or prints nothing, is told. Nothing where there is no print file.
-    std::optional<Document> print(Source &source);
-
-private:
-    bool printRequest(Source &source, Document &document);
-
-    const tools::Call &call;
-    const bool traceElements;
-    QTemporaryDir folder;
-    int printed = 0;
-};
+/// Prints a request into memory, by the device of the print run, with the configuration and the
+/// translation that are in use. What the print run tells goes where text::LineSink says. With
+/// `traceElements` the document knows the lines of the request that its own lines come from.
+Document render(const QByteArray &request, bool traceElements);
 
 } // namespace preview

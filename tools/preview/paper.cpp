@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/paper.h"
 
-#include "tools/preview/fiscalline.h"
-
-#include <QBuffer>
-
 #include <algorithm>
 #include <span>
 #include <utility>
@@ -15,22 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isFiscal(LineKind kind)
-{
-    return kind == LineKind::FiscalItem || kind == LineKind::FiscalDiscount
-           || kind == LineKind::FiscalPayment;
-}
-
 /// What is wrong with a line that the device does not write.
 QString faultOf(const PrintLine &line)
 {
-    if (line.kind == LineKind::Piece)
-        return u"part of a line of more than 4,096 bytes"_s;
+    constexpr CellsView EndMark = U"\"@";
     if (line.kind == LineKind::Empty)
         return u"empty line"_s;
-    if (line.kind != LineKind::Unframed)
-        return {};
-    if (line.text.ends_with(U"\"@"))
+    if (line.kind == LineKind::Printed)
+        return line.text.find(EndMark) == Cells::npos ? QString() : u"ends at its first \"@"_s;
+    if (line.text.ends_with(EndMark))
         return u"without its opening quote"_s;
     if (line.text.starts_with(U'"'))
         return u"without its closing \"@"_s;
@@ -42,7 +31,7 @@ QString faultOfEnd(const PrintLine &line)
     if (line.end == LineEnd::Missing)
         return u"without its line end"_s;
     const bool hasReturn = line.end == LineEnd::CarriageReturn;
-    if (hasReturn == isFiscal(line.kind) || line.kind == LineKind::Piece)
+    if (hasReturn == (line.kind == LineKind::Fiscal))
         return {};
     return hasReturn ? u"ends with a carriage return"_s : u"without its carriage return"_s;
 }
@@ -52,104 +41,136 @@ QString joined(const QString &a, const QString &b)
     return a.isEmpty() || b.isEmpty() ? a + b : a + "; "_L1 + b;
 }
 
-} // namespace
-
-std::optional<int> widthOfRule(QIODevice &printFile, QTextCodec *codec)
+/// The length of a line that is a rule of `=`, which may be indented; 0 for any other.
+int ruleLength(const PrintLine &line)
 {
-    constexpr int MostBytes = 64 * 1'024;
-    constexpr size_t LeastWidth = 8; // or it is a text of its own
-    QByteArray begin = printFile.peek(MostBytes);
-    QBuffer buffer(&begin);
-    buffer.open(QIODevice::ReadOnly);
-    PrintFile lines(buffer, codec);
-    while (const auto line = lines.next()) {
-        const CellsView text = line->text;
-        const CellsView rule = text.substr(std::min(text.find_first_not_of(U' '), text.size()));
-        if (line->kind == LineKind::Printed && rule.size() >= LeastWidth
-            && rule.find_first_not_of(U'=') == CellsView::npos)
-            return int(rule.size());
+    constexpr size_t Least = 8; // or it is a text of its own
+    const CellsView text = line.text;
+    const CellsView rule = text.substr(std::min(text.find_first_not_of(U' '), text.size()));
+    const bool isRule = line.kind == LineKind::Printed && rule.size() >= Least
+                        && rule.find_first_not_of(U'=') == CellsView::npos;
+    return isRule ? int(rule.size()) : 0;
+}
+
+/// The width of the paper of a print file of which nothing else is known.
+int widthOf(QByteArrayView file, QTextCodec *codec)
+{
+    constexpr qsizetype MostBytesToRule = 64 * 1'024;
+    int longest = DevicePaperWidth;
+    for (qsizetype at = 0; at < file.size();) {
+        const PrintLine line = lineAt(file, at, codec);
+        if (const int length = ruleLength(line); length > 0 && at < MostBytesToRule)
+            return length;
+        if (line.kind == LineKind::Printed)
+            longest = std::max(longest, int(tools::beyondEdge(line.text, 0)));
+        at = line.next;
     }
-    return std::nullopt;
+    return longest;
 }
 
-Paper::Paper(QIODevice &printFile, QTextCodec *codec, const Trace &trace, int width)
-    : file(printFile, codec)
-    , trace(trace)
-    , givenWidth(width)
-    , otherWidth(widthOfRule(printFile, codec).value_or(DevicePaperWidth))
-    , ahead(file.next())
+/// Draws the lines of a print file on paper.
+class Paper
 {
-}
-
-std::optional<Row> Paper::next()
-{
-    while (rows.empty() && ahead) {
-        const PrintLine line = *std::exchange(ahead, file.next());
-        take(line);
-        if (!ahead)
-            tearOff();
+public:
+    Paper(const Document &document, int columns, const std::function<bool(Row)> &take)
+        : document(document)
+        , columns(columns)
+        , take(take)
+    {
+        if (columns == 0 && document.trace.sections.empty())
+            this->columns = widthOf(document.printFile, document.codec);
     }
-    if (rows.empty())
-        return std::nullopt;
-    Row row = std::move(rows.front());
-    rows.pop_front();
-    return row;
-}
 
-void Paper::take(const PrintLine &line)
+    void draw()
+    {
+        while (next < document.printFile.size() && wanted) {
+            offset = next;
+            const PrintLine line = lineAt(document.printFile, offset, document.codec);
+            next = line.next;
+            draw(line);
+        }
+        tearOff();
+    }
+
+private:
+    enum class Section { None, Listing, Fiscal };
+
+    void draw(const PrintLine &line);
+    void drawEmpty(const PrintLine &line);
+    void open(Section kind, const PrintLine &line);
+    void close(Section kind, const PrintLine &line);
+    void tearOff();
+    void print(const PrintLine &line);
+    void printFiscal(const PrintLine &line);
+    void beginOutside();
+    Row row(Row::Kind kind);
+    void add(Row row) { wanted = wanted && take(std::move(row)); }
+
+    const Document &document;
+    int columns; // 0: as the trace says
+    const std::function<bool(Row)> &take;
+    qsizetype offset = 0; // of the line that is drawn
+    qsizetype next = 0;
+    Section section = Section::None;
+    int lastWidth = 0; // of the row before
+    bool torn = false; // paper is open, without a section
+    bool wanted = true;
+};
+
+void Paper::draw(const PrintLine &line)
 {
     switch (line.kind) {
     case LineKind::Empty:
-        return takeEmpty(line);
+        return drawEmpty(line);
     case LineKind::SectionStart:
         return open(Section::Listing, line);
     case LineKind::SectionEnd:
         return close(Section::Listing, line);
     case LineKind::FiscalEnd:
         return close(Section::Fiscal, line);
-    case LineKind::FiscalItem:
-    case LineKind::FiscalDiscount:
-    case LineKind::FiscalPayment:
+    case LineKind::Fiscal:
         return printFiscal(line);
     case LineKind::Printed:
     case LineKind::Unframed:
-    case LineKind::Piece:
-        break;
+        return print(line);
     }
-    print(line, faultOf(line));
 }
 
 /// An empty line opens a section: with the `j` after it, or alone where fiscal lines follow.
-void Paper::takeEmpty(const PrintLine &line)
+void Paper::drawEmpty(const PrintLine &line)
 {
-    const LineKind following = ahead ? ahead->kind : LineKind::Empty;
+    const LineKind following = next < document.printFile.size()
+                                   ? lineAt(document.printFile, next, document.codec).kind
+                                   : LineKind::Empty;
     if (following == LineKind::SectionStart && line.end == LineEnd::LineFeed)
         return;
-    if (isFiscal(following) || following == LineKind::FiscalEnd)
+    if (following == LineKind::Fiscal || following == LineKind::FiscalEnd)
         open(Section::Fiscal, line);
     else
-        print(line, faultOf(line));
+        print(line);
 }
 
 void Paper::open(Section kind, const PrintLine &line)
 {
     tearOff();
     section = kind;
-    Row &row = add(Row::Kind::TopEdge, line);
-    row.mark = kind == Section::Listing ? u"j"_s : QString();
-    row.note = joined(kind == Section::Fiscal ? u"fiscal"_s : QString(), faultOfEnd(line));
+    Row top = row(Row::Kind::TopEdge);
+    top.mark = kind == Section::Listing ? u"j"_s : QString();
+    top.note = joined(kind == Section::Fiscal ? u"fiscal"_s : QString(), faultOfEnd(line));
+    add(std::move(top));
 }
 
 void Paper::close(Section kind, const PrintLine &line)
 {
     const bool matches = section == kind;
     if (section == Section::None && !torn)
-        add(Row::Kind::TornTop, line);
+        add(row(Row::Kind::TornTop));
     section = Section::None;
     torn = false;
-    Row &row = add(Row::Kind::BottomEdge, line);
-    row.mark = kind == Section::Listing ? u"J"_s : u"1T"_s;
-    row.note = joined(matches ? QString() : u"closes what was not opened"_s, faultOfEnd(line));
+    Row bottom = row(Row::Kind::BottomEdge);
+    bottom.mark = kind == Section::Listing ? u"J"_s : u"1T"_s;
+    bottom.note = joined(matches ? QString() : u"closes what was not opened"_s, faultOfEnd(line));
+    add(std::move(bottom));
 }
 
 /// Ends the paper where a section is not closed.
@@ -157,47 +178,94 @@ void Paper::tearOff()
 {
     if (section == Section::None && !torn)
         return;
-    Row row;
-    row.kind = Row::Kind::TornBottom;
-    row.width = lastWidth;
-    row.note = section == Section::None ? QString() : u"the section is not closed"_s;
-    rows.push_back(row);
+    Row bottom;
+    bottom.kind = Row::Kind::TornBottom;
+    bottom.width = lastWidth;
+    bottom.note = section == Section::None ? QString() : u"the section is not closed"_s;
     section = Section::None;
     torn = false;
+    add(std::move(bottom));
 }
 
-void Paper::print(const PrintLine &line, const QString &note)
+void Paper::print(const PrintLine &line)
 {
-    if (section == Section::None && !std::exchange(torn, true))
-        add(Row::Kind::TornTop, line).note = u"outside of a section"_s;
-    Row &row = add(Row::Kind::Line, line);
-    row.text = line.text;
-    row.note = joined(note, line.kind == LineKind::Empty ? QString() : faultOfEnd(line));
-    row.mark = row.note.isEmpty() ? QString() : u"!"_s;
+    beginOutside();
+    Row printed = row(Row::Kind::Line);
+    printed.text = line.text;
+    while (!printed.beyond().empty() && printed.text.back() == U' ')
+        printed.text.pop_back();
+    printed.note =
+        joined(faultOf(line), line.kind == LineKind::Empty ? QString() : faultOfEnd(line));
+    printed.mark = printed.note.isEmpty() ? QString() : u"!"_s;
+    add(std::move(printed));
 }
 
 void Paper::printFiscal(const PrintLine &line)
 {
-    const QString command = escaped(line.text);
-    if (section == Section::None && !std::exchange(torn, true))
-        add(Row::Kind::TornTop, line).note = u"outside of a section"_s;
-    Row &first = add(Row::Kind::Line, line);
-    const std::vector<Cells> lines = receiptLines(line.text, first.width);
-    first.text = lines.front();
-    first.note = joined(command, faultOfEnd(line));
-    for (const Cells &text : std::span(lines).subspan(1))
-        add(Row::Kind::Line, line).text = text;
+    beginOutside();
+    Row first = row(Row::Kind::Line);
+    FiscalReceipt receipt = fiscalReceipt(line.text, first.width);
+    first.text = std::move(receipt.lines.front());
+    first.mark = receipt.fault.isEmpty() ? QString() : u"!"_s;
+    first.note = joined(joined(escaped(line.text), receipt.fault), faultOfEnd(line));
+    add(std::move(first));
+    for (Cells &text : std::span(receipt.lines).subspan(1)) {
+        Row further = row(Row::Kind::Line);
+        further.text = std::move(text);
+        add(std::move(further));
+    }
 }
 
-Row &Paper::add(Row::Kind kind, const PrintLine &line)
+void Paper::beginOutside()
+{
+    if (section != Section::None || std::exchange(torn, true))
+        return;
+    Row top = row(Row::Kind::TornTop);
+    top.note = u"outside of a section"_s;
+    add(std::move(top));
+}
+
+Row Paper::row(Row::Kind kind)
 {
     Row row;
     row.kind = kind;
-    row.width = givenWidth > 0 ? givenWidth : trace.paperWidthAt(line.offset).value_or(otherWidth);
+    row.width =
+        columns > 0 ? columns : document.trace.paperWidthAt(offset).value_or(DevicePaperWidth);
     row.width = std::clamp(row.width, 1, MostPaperWidth);
-    row.requestLine = trace.requestLineAt(line.offset);
+    row.requestLine = document.trace.requestLineAt(offset);
     lastWidth = row.width;
-    return rows.emplace_back(std::move(row));
+    return row;
+}
+
+} // namespace
+
+qint64 Trace::requestLineAt(qint64 offset) const
+{
+    const auto found = std::ranges::upper_bound(elements, offset, {}, &Element::end);
+    return found == elements.end() ? 0 : found->requestLine;
+}
+
+std::optional<int> Trace::paperWidthAt(qint64 offset) const
+{
+    const auto next = std::ranges::upper_bound(sections, offset, {}, &Section::begin);
+    if (next == sections.begin())
+        return std::nullopt;
+    return std::prev(next)->paperWidth;
+}
+
+void drawRows(const Document &document, int columns, const std::function<bool(Row)> &take)
+{
+    Paper(document, columns, take).draw();
+}
+
+std::vector<Row> rowsOf(const Document &document, int columns, size_t most)
+{
+    std::vector<Row> rows;
+    drawRows(document, columns, [&](Row row) {
+        rows.push_back(std::move(row));
+        return rows.size() < most;
+    });
+    return rows;
 }
 
 } // namespace preview

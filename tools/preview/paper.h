@@ -1,12 +1,48 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/paperrules.h"
 #include "tools/preview/printfile.h"
-#include "tools/preview/rendering.h"
 
-#include <deque>
+#include <QByteArray>
+
+#include <functional>
+#include <optional>
 
 namespace preview {
+
+/// Where the parts of a print file come from. Both lists are in the order of the file.
+struct Trace
+{
+    /// What a tag of the request printed: the bytes up to `end`.
+    struct Element
+    {
+        qint64 end;
+        qint64 requestLine; ///< from 1: where the tag begins
+    };
+    struct Section
+    {
+        qint64 begin;   ///< bytes of the print file before it
+        int paperWidth; ///< characters in a line, by the settings of its document
+    };
+
+    std::vector<Element> elements; ///< only where asked for
+    std::vector<Section> sections;
+
+    /// The line of the request that printed the byte at `offset`; 0 where that is unknown.
+    qint64 requestLineAt(qint64 offset) const;
+    /// The paper's width at `offset`; nothing before the first section.
+    std::optional<int> paperWidthAt(qint64 offset) const;
+};
+
+/// A print file, and what is known of where it comes from.
+struct Document
+{
+    QByteArray printFile;
+    QTextCodec *codec = nullptr; ///< of the print file; null: UTF-8
+    Trace trace;                 ///< empty where no request is known
+    QString fault;               ///< why the print file is not whole; empty when it is
+};
 
 /// A row of the paper as it is drawn.
 struct Row
@@ -26,8 +62,41 @@ struct Row
     QString note;           ///< stands behind the paper, in one line
     qint64 requestLine = 0; ///< where it comes from; 0 where that is unknown
 
-    /// The cells beyond the paper's edge.
-    qsizetype overrun() const { return qMax<qsizetype>(qsizetype(text.size()) - width, 0); }
+    CellsView onPaper() const { return CellsView(text).substr(0, size_t(width)); }
+    CellsView beyond() const { return CellsView(text).substr(onPaper().size()); }
+    /// The cells beyond the paper's edge that should not be there.
+    qsizetype overrun() const { return tools::beyondEdge(text, width); }
+    /// The paper's own width is no difference of a row.
+    bool isSameAs(const Row &other) const
+    {
+        return kind == other.kind && mark == other.mark && text == other.text && note == other.note;
+    }
+};
+
+/// The rows of one document, as pictures and windows show them.
+struct Sheet
+{
+    QString title;
+    std::vector<Row> rows;
+    std::vector<bool> changed; ///< of each row; empty: none
+};
+
+/// The paper's measures.
+struct PaperSize
+{
+    int dpi = 203;
+    int widthMm = 80; ///< of which the printer leaves 4 mm white at each side, 5 mm of 58
+};
+
+enum class PictureFormat { Png, Svg, Pdf };
+
+/// A picture of sheets: where it goes, and how it looks.
+struct PictureOptions
+{
+    QString fileName; ///< empty: no picture
+    PictureFormat format = PictureFormat::Png;
+    PaperSize paper;
+    size_t perRow = 1; ///< sheets beside each other; not 0
 };
 
 /// The characters in a line of the device's paper, where nothing tells the width.
@@ -36,41 +105,12 @@ constexpr int DevicePaperWidth = 32;
 /// The most characters in a line of a paper that is drawn; a wider one is drawn so.
 constexpr int MostPaperWidth = 500;
 
-/// The width of the first rule of `=` in the print file, looked for in its first 64 KiB.
-std::optional<int> widthOfRule(QIODevice &printFile, QTextCodec *codec);
+/// Draws a document row by row, until `take` answers false. The paper is `columns` cells wide;
+/// where that is 0, as the trace says; where that is empty, as wide as the first rule of `=` in the
+/// first 64 KiB of the file, else as its longest line, at least the device's.
+void drawRows(const Document &document, int columns, const std::function<bool(Row)> &take);
 
-/// Draws a print file on paper, row by row, in constant memory.
-class Paper
-{
-public:
-    /// The width is `width` cells; where that is 0, what `trace` says, or that of the first rule in
-    /// the file, or the device's. `printFile` is open, not sequential, and borrowed like `trace`.
-    Paper(QIODevice &printFile, QTextCodec *codec, const Trace &trace, int width);
-
-    /// The next row; nothing after the last one.
-    std::optional<Row> next();
-
-private:
-    enum class Section { None, Listing, Fiscal };
-
-    void take(const PrintLine &line);
-    void takeEmpty(const PrintLine &line);
-    void open(Section kind, const PrintLine &line);
-    void close(Section kind, const PrintLine &line);
-    void tearOff();
-    void print(const PrintLine &line, const QString &note);
-    void printFiscal(const PrintLine &line);
-    Row &add(Row::Kind kind, const PrintLine &line); ///< the row is the last one until the next
-
-    PrintFile file;
-    const Trace &trace;
-    int givenWidth;
-    int otherWidth;
-    std::optional<PrintLine> ahead;
-    std::deque<Row> rows;
-    Section section = Section::None;
-    int lastWidth = 0; // of the row before
-    bool torn = false; // paper is open, without a section
-};
+/// The first rows of a document, `most` of them.
+std::vector<Row> rowsOf(const Document &document, int columns, size_t most);
 
 } // namespace preview

@@ -3,14 +3,18 @@
 
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
-#include "tools/preview/terminaldrawing.h"
+#include "text/standardoutput.h"
+#include "tools/companion.h"
+#include "tools/preview/difference.h"
+#include "tools/preview/document.h"
+#include "tools/requests/configurationinuse.h"
 #include "tools/requests/requestfiles.h"
 #include "tools/terminal.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QTextCodec>
 
+#include <array>
 #include <unistd.h>
 
 namespace preview {
@@ -19,211 +23,306 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MostColumns = 500;
-constexpr int LeastDpi = 50;
-constexpr int MostDpi = 1'200;
+/// What the options of a call say.
+struct Options
+{
+    int columns = 0;             ///< of the paper; 0: not said
+    QTextCodec *codec = nullptr; ///< of print files; null: UTF-8
+    bool annotate = false;
+    QString configuration; ///< empty: the user's own
+    QString other;         ///< the configuration to compare with; empty: none
+    PictureOptions picture;
+};
 
 void addOptions(tools::CommandLine &line)
 {
     line.addOption({{u"o"_s, u"output"_s},
                     u"Draws a picture instead: a name that ends in .png, .svg or .pdf."_s,
                     u"PICTURE"_s});
-    line.addOption({u"dpi"_s, u"The picture's dots per inch, 203 unless given."_s, u"DPI"_s});
+    line.addOption({u"dpi"_s, u"The dots per inch of a .png, 203 unless given."_s, u"DPI"_s});
     line.addOption({u"width-mm"_s,
                     u"The paper's width in the picture, 58 or 80 (unless given) millimetres."_s,
                     u"WIDTH"_s});
     line.addOption({u"annotate"_s, u"Shows the line of the request that each line comes from."_s});
     line.addOption({u"columns"_s,
                     u"The characters in a line of the paper; unless given, as the configuration "
-                    u"says, or as a print file's first rule is long."_s,
+                    u"says, or as a print file's first rule or longest line is long."_s,
                     u"COLUMNS"_s});
     tools::addConfigurationOption(line);
     line.addOption({u"against"_s,
                     u"Renders the requests with FILE too, and shows only what changes."_s,
                     u"FILE"_s});
-    line.addOption({u"diff"_s,
-                    u"The form of the changes: unified, or side (by side), which is used unless "
-                    u"given where the terminal is wide enough."_s,
-                    u"FORM"_s});
     line.addOption({u"encoding"_s,
                     u"The encoding of print files; that of the locale unless given."_s, u"NAME"_s});
 }
 
-/// The option's value as a number from `least` to `most`; nothing for another, which is told.
-std::optional<int> numberOf(const tools::CommandLine &line, const QString &option, int least,
-                            int most)
+/// Reads an option that is a number from `least` to `most`. Answers what is wrong with it.
+QString readNumber(const tools::CommandLine &line, const QString &option, int least, int most,
+                   int &number)
 {
-    bool isNumber = false;
-    const int number = line.value(option).toInt(&isNumber);
-    if (isNumber && number >= least && number <= most)
-        return number;
-    line.wrongUsage(u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most));
-    return std::nullopt;
+    bool isNumber = true;
+    if (line.isSet(option))
+        number = line.value(option).toInt(&isNumber);
+    if (isNumber && (!line.isSet(option) || (number >= least && number <= most)))
+        return {};
+    return u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most);
 }
 
-/// Reads the options that say how a picture looks; false when they are wrong, which is told.
-bool readPictureOptions(const tools::CommandLine &line, Options &options)
+/// Reads the options that say how a picture looks. Answers what is wrong with them.
+QString readPictureOptions(const tools::CommandLine &line, PictureOptions &picture)
 {
-    options.picture = line.value(u"output"_s);
-    if (line.isSet(u"output"_s)) {
-        const std::optional<PictureFormat> format = pictureFormatOf(options.picture);
-        if (!format) {
-            line.wrongUsage("the picture's name ends in .png, .svg or .pdf, not as `"_L1
-                            + options.picture + u'`');
-            return false;
-        }
-        options.format = *format;
-    }
-    if (line.isSet(u"dpi"_s)) {
-        const std::optional<int> dpi = numberOf(line, u"dpi"_s, LeastDpi, MostDpi);
-        if (!dpi)
-            return false;
-        options.paper.dpi = *dpi;
-    }
-    if (line.isSet(u"width-mm"_s)) {
-        const QString width = line.value(u"width-mm"_s);
-        if (width != "58"_L1 && width != "80"_L1) {
-            line.wrongUsage(u"--width-mm is 58 or 80"_s);
-            return false;
-        }
-        options.paper.widthMm = width.toInt();
-    }
-    return true;
+    constexpr std::array<std::pair<QLatin1StringView, PictureFormat>, 3> endings = {{
+        {".png"_L1, PictureFormat::Png},
+        {".svg"_L1, PictureFormat::Svg},
+        {".pdf"_L1, PictureFormat::Pdf},
+    }};
+    picture.fileName = line.value(u"output"_s);
+    const auto *const format = std::ranges::find_if(endings, [&picture](const auto &ending) {
+        return picture.fileName.endsWith(ending.first, Qt::CaseInsensitive);
+    });
+    if (format != endings.end())
+        picture.format = format->second;
+    else if (line.isSet(u"output"_s))
+        return "the picture's name ends in .png, .svg or .pdf, not as `"_L1 + picture.fileName
+               + u'`';
+    const QString width = line.value(u"width-mm"_s);
+    if (line.isSet(u"width-mm"_s))
+        picture.paper.widthMm = width == "58"_L1 ? 58 : 80;
+    if (line.isSet(u"width-mm"_s) && width != "58"_L1 && width != "80"_L1)
+        return u"--width-mm is 58 or 80"_s;
+    return readNumber(line, u"dpi"_s, 50, 1'200, picture.paper.dpi);
 }
 
-/// Reads the other options; false when they are wrong, which is told.
-bool readTextOptions(const tools::CommandLine &line, Options &options)
+/// Reads all options. Answers what is wrong with them, and an empty text when nothing is.
+QString readOptions(const tools::CommandLine &line, Options &options)
 {
     options.annotate = line.isSet(u"annotate"_s);
     options.configuration = line.value(u"config"_s);
     options.other = line.value(u"against"_s);
     options.codec = text::localeCodec();
-    if (line.isSet(u"columns"_s)) {
-        const std::optional<int> columns = numberOf(line, u"columns"_s, 1, MostColumns);
-        if (!columns)
-            return false;
-        options.columns = *columns;
-    }
     if (line.isSet(u"encoding"_s)) {
         options.codec = QTextCodec::codecForName(line.value(u"encoding"_s).toLatin1());
-        if (!options.codec) {
-            line.wrongUsage("unknown encoding `"_L1 + line.value(u"encoding"_s) + u'`');
-            return false;
-        }
+        if (!options.codec)
+            return "unknown encoding `"_L1 + line.value(u"encoding"_s) + u'`';
     }
-    if (line.isSet(u"diff"_s)) {
-        const QString form = line.value(u"diff"_s);
-        if (form != "unified"_L1 && form != "side"_L1) {
-            line.wrongUsage(u"--diff is unified or side"_s);
-            return false;
-        }
-        options.sideBySide = form == "side"_L1;
-    }
-    if (line.isSet(u"against"_s) && options.other.isEmpty()) {
-        line.wrongUsage(u"--against takes the name of a configuration"_s);
-        return false;
-    }
-    if (options.annotate && !options.other.isEmpty()) {
-        line.wrongUsage(u"--annotate and --against do not go together"_s);
-        return false;
-    }
-    return true;
+    if (line.isSet(u"against"_s) && options.other.isEmpty())
+        return u"--against takes the name of a configuration"_s;
+    if (options.annotate && !options.other.isEmpty())
+        return u"--annotate and --against do not go together"_s;
+    const QString mistake = readPictureOptions(line, options.picture);
+    return mistake.isEmpty() ? readNumber(line, u"columns"_s, 1, MostPaperWidth, options.columns)
+                             : mistake;
 }
 
-Paper paperOf(const Document &document, const Options &options)
-{
-    QTextCodec *const codec = document.isRendered ? text::localeCodec() : options.codec;
-    return {*document.printFile, codec, document.trace, options.columns};
-}
-
-bool drawOnTerminal(const Document &document, const Options &options, Output &output)
-{
-    qint64 lastLine = 0;
-    for (const Trace::Element &element : document.trace.elements)
-        lastLine = std::max(lastLine, element.requestLine);
-    const TerminalDrawing drawing(text::localeCodec(), lastLine);
-    document.printFile->open(QIODevice::ReadOnly);
-    Paper paper = paperOf(document, options);
-    while (const auto row = paper.next()) {
-        if (!output.write(drawing.drawn(*row) + u'\n'))
-            return false;
-    }
-    return true;
-}
-
-/// Shows documents one by one.
-class Preview
+/// The print runs of a call: one with each configuration.
+class Runs
 {
 public:
-    Preview(const tools::Call &call, const Options &options)
+    Runs(const tools::Call &call, const Options &options)
         : call(call)
         , options(options)
-        , printer(call, options.annotate)
     {
     }
 
-    /// False for trouble, which has been told.
-    bool show(const QString &name, const QString &title)
-    {
-        const std::optional<Document> document = documentOf(name);
-        if (!document)
-            return false;
-        whole = whole && document->isWhole;
-        if (!options.picture.isEmpty()) {
-            sheets.push_back({QFileInfo(title).fileName(), rowsOf(*document, options), {}});
-            return true;
-        }
-        return (title.isEmpty() || output.write(title + ":\n"_L1))
-               && drawOnTerminal(*document, options, output);
-    }
+    /// The exit status so far.
+    int status = tools::Fine;
 
-    /// The exit status.
-    int finish()
+    /// The document of a print file, or of a request with the first configuration, which is loaded
+    /// when the first request comes. What cannot be printed to its end, or prints nothing, is told.
+    /// Nothing for a configuration that cannot be read, which is told.
+    std::optional<Document> documentOf(const Input &input)
     {
-        constexpr size_t PerRow = 5;
-        const bool good = options.picture.isEmpty()
-                              ? output.finish()
-                              : writeSheets(call, options, sheets, PerRow) == tools::Fine;
-        if (!good)
-            return tools::Trouble;
-        return whole ? tools::Fine : tools::Findings;
+        if (!input.isRequest)
+            return checked(input, {input.bytes, options.codec, {}, {}});
+        if (!std::exchange(configured, true) && !useFirst())
+            return std::nullopt;
+        const text::LineSink errors(text::LineSink::toErrors);
+        return checked(input, render(input.bytes, options.annotate));
+    }
+    /// From now on, requests are printed with the second configuration; false when it cannot be
+    /// read, which is told.
+    bool useSecond() { return configuration.use(call, options.other); }
+    QString nameOfFirst() const
+    {
+        return options.configuration.isEmpty() ? ZTConfiguration::userFile()
+                                               : options.configuration;
     }
 
 private:
-    std::optional<Document> documentOf(const QString &name)
+    bool useFirst()
     {
-        std::optional<Source> source = readSource(call, name);
-        if (!source)
-            return std::nullopt;
-        if (!source->isRequest && options.annotate) {
-            tools::tellTrouble(call, name,
-                               u"a print file does not tell the lines of its request"_s);
-            return std::nullopt;
+        if (!configuration.use(call, options.configuration))
+            return false;
+        if (configuration.isMissing())
+            tools::tellTrouble(call, nameOfFirst(),
+                               u"no such file: every setting has its default"_s);
+        return true;
+    }
+
+    Document checked(const Input &input, Document document)
+    {
+        if (!document.fault.isEmpty()) {
+            tools::tellTrouble(call, input.name, document.fault);
+            status = tools::Findings;
         }
-        if (source->isRequest && !std::exchange(configured, true)
-            && !useConfiguration(call, options, configuration))
-            return std::nullopt;
-        return printer.print(*source);
+        if (document.printFile.isEmpty())
+            tools::tellTrouble(call, input.name, u"nothing is printed"_s);
+        return document;
     }
 
     const tools::Call &call;
     const Options &options;
     tools::ConfigurationInUse configuration;
     bool configured = false; // print files need no configuration
-    Printer printer;
-    Output output;
-    std::vector<Sheet> sheets;
-    bool whole = true;
 };
 
-int previewAll(const tools::Call &call, const Options &options, const QStringList &names)
+int drawOnTerminal(const Document &document, const Options &options)
 {
-    Preview preview(call, options);
+    constexpr qsizetype PieceSize = 64 * 1'024; // characters that are written at once
+    const auto &elements = document.trace.elements;
+    const TerminalDrawing drawing(text::localeCodec(),
+                                  elements.empty() ? 0 : elements.back().requestLine);
+    QString text;
+    int status = tools::Fine;
+    drawRows(document, options.columns, [&](const Row &row) {
+        text += drawing.drawn(row) + u'\n';
+        if (text.size() > PieceSize)
+            status = tools::printOut(std::exchange(text, {}));
+        return status == tools::Fine;
+    });
+    return status == tools::Fine ? tools::printOut(text) : status;
+}
+
+/// The rows that a picture may have, and one more where there are too many.
+std::vector<Row> rowsOf(const Document &document, const Options &options)
+{
+    return rowsOf(document, options.columns, MostRows + 1);
+}
+
+/// Draws the sheets into the file that the options name, unless there is none; Fine, or Trouble,
+/// which is told.
+int drawPicture(const tools::Call &call, const Options &options, const std::vector<Sheet> &sheets)
+{
+    if (options.picture.fileName.isEmpty() || sheets.empty())
+        return tools::Fine;
+    const auto isTooLong = [](const Sheet &sheet) { return sheet.rows.size() > MostRows; };
+    const QString fault =
+        std::ranges::any_of(sheets, isTooLong)
+            ? u"a document has more than %1 lines, the most of a picture"_s.arg(MostRows)
+            : call.desktop->writePicture(sheets, options.picture);
+    return fault.isEmpty() ? tools::Fine
+                           : tools::tellTrouble(call, options.picture.fileName, fault);
+}
+
+int previewAll(const tools::Call &call, Options options, const QStringList &names)
+{
+    constexpr size_t PerRow = 5; // and each document on a page of its own
+    options.picture.perRow = options.picture.format == PictureFormat::Pdf ? 1 : PerRow;
+    Runs runs(call, options);
+    std::vector<Sheet> sheets;
     for (const QString &name : names) {
-        if (!preview.show(name, names.size() > 1 ? tools::inOneLine(name) : QString()))
+        const std::optional<Input> input = readInput(call, name);
+        if (!input)
+            return tools::Trouble;
+        if (!input->isRequest && options.annotate)
+            return tools::tellTrouble(call, name,
+                                      u"a print file does not tell the lines of its request"_s);
+        const std::optional<Document> document = runs.documentOf(*input);
+        if (!document)
+            return tools::Trouble;
+        if (!options.picture.fileName.isEmpty()) {
+            sheets.push_back({QFileInfo(name).fileName(), rowsOf(*document, options), {}});
+            continue;
+        }
+        if ((names.size() > 1 && tools::printOut(tools::inOneLine(name) + ":\n"_L1) != tools::Fine)
+            || drawOnTerminal(*document, options) != tools::Fine)
             return tools::Trouble;
     }
-    return preview.finish();
+    return drawPicture(call, options, sheets) == tools::Fine ? runs.status : tools::Trouble;
+}
+
+bool isColoured()
+{
+    return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR")
+           && qgetenv("TERM") != "dumb";
+}
+
+/// Reads all requests; nothing when one is none or cannot be read, which is told.
+std::optional<std::vector<Input>> readRequests(const tools::Call &call, const QStringList &names)
+{
+    std::vector<Input> requests;
+    for (const QString &name : names) {
+        std::optional<Input> input = readInput(call, name);
+        if (!input)
+            return std::nullopt;
+        if (!input->isRequest) {
+            tools::tellTrouble(call, name, u"not a print request, which --against renders anew"_s);
+            return std::nullopt;
+        }
+        requests.push_back(*std::move(input));
+    }
+    return requests;
+}
+
+/// Shows a document that changes, as text; adds both sheets for a picture.
+int showChange(const QString &name, const std::array<QString, 2> &configurations,
+               std::array<Sheet, 2> pair, std::vector<Sheet> &sheets)
+{
+    auto &[before, after] = pair;
+    const TerminalDrawing drawing(text::localeCodec(), 0);
+    QString text;
+    for (const size_t i : {0, 1}) {
+        text += (i == 0 ? "--- "_L1 : "+++ "_L1) + tools::inOneLine(name) + u'\t'
+                + tools::inOneLine(configurations[i]) + u'\n';
+        pair[i].title =
+            QFileInfo(name).fileName() + ", "_L1 + QFileInfo(configurations[i]).fileName();
+    }
+    text += unifiedDifference(before.rows, after.rows, drawing, isColoured());
+    if (std::max(before.rows.size(), after.rows.size()) > MostRows)
+        text += u"... only the first %1 lines are shown\n"_s.arg(MostRows);
+    markChanges(before, after);
+    sheets.insert(sheets.end(), {std::move(before), std::move(after)});
+    return tools::printOut(text);
+}
+
+/// Renders the requests under both configurations and shows those that change.
+int compareAll(const tools::Call &call, Options options, const QStringList &names)
+{
+    options.picture.perRow = 2; // before and after
+    const std::optional<std::vector<Input>> requests = readRequests(call, names);
+    if (!requests)
+        return tools::Trouble;
+    Runs runs(call, options);
+    std::vector<Document> documents;
+    for (const Input &request : *requests) {
+        std::optional<Document> document = runs.documentOf(request);
+        if (!document)
+            return tools::Trouble;
+        documents.push_back(*std::move(document));
+    }
+    if (!runs.useSecond())
+        return tools::Trouble;
+    std::vector<Sheet> sheets;
+    int changes = 0;
+    for (size_t i = 0; i < documents.size(); ++i) {
+        const std::optional<Document> after = runs.documentOf((*requests)[i]);
+        if (!after)
+            return tools::Trouble;
+        if (after->printFile == documents[i].printFile)
+            continue;
+        ++changes;
+        if (showChange(
+                (*requests)[i].name, {runs.nameOfFirst(), options.other},
+                {{{{}, rowsOf(documents[i], options), {}}, {{}, rowsOf(*after, options), {}}}},
+                sheets)
+            != tools::Fine)
+            return tools::Trouble;
+    }
+    if (tools::printOut(u"%1 of %2 documents change\n"_s.arg(changes).arg(documents.size()))
+            != tools::Fine
+        || drawPicture(call, options, sheets) != tools::Fine)
+        return tools::Trouble;
+    return changes > 0 ? tools::Findings : runs.status;
 }
 
 /// The toolkit's remarks about the machine are not the user's affair; why it gives up is, and then
@@ -249,62 +348,6 @@ std::unique_ptr<QCoreApplication> application(const tools::Call &call)
 
 } // namespace
 
-QString Options::configurationName() const
-{
-    return configuration.isEmpty() ? ZTConfiguration::userFile() : configuration;
-}
-
-bool useConfiguration(const tools::Call &call, const Options &options,
-                      tools::ConfigurationInUse &configuration)
-{
-    if (!configuration.use(call, options.configuration))
-        return false;
-    if (configuration.isMissing())
-        tools::tellTrouble(call, options.configurationName(),
-                           u"no such file: every setting has its default"_s);
-    return true;
-}
-
-bool Output::write(const QString &text)
-{
-    constexpr int Piece = 64 * 1'024; // characters
-    waiting += text;
-    return waiting.size() < Piece ? good : finish();
-}
-
-bool Output::finish()
-{
-    good = good && tools::printOut(std::exchange(waiting, {})) == tools::Fine;
-    return good;
-}
-
-std::vector<Row> rowsOf(const Document &document, const Options &options)
-{
-    std::vector<Row> rows;
-    document.printFile->open(QIODevice::ReadOnly);
-    Paper paper = paperOf(document, options);
-    while (rows.size() <= PictureLayout::MostRows) {
-        std::optional<Row> row = paper.next();
-        if (!row)
-            break;
-        rows.push_back(*std::move(row));
-    }
-    document.printFile->close();
-    return rows;
-}
-
-int writeSheets(const tools::Call &call, const Options &options, const std::vector<Sheet> &sheets,
-                size_t perRow)
-{
-    const PictureLayout layout(options.paper, sheets, perRow);
-    QString fault = layout.fault();
-    if (fault.isEmpty())
-        fault = call.desktop->writePicture(layout.picture(), options.picture, options.format);
-    if (fault.isEmpty())
-        return tools::Fine;
-    return tools::tellTrouble(call, options.picture, fault);
-}
-
 int run(const tools::Call &call)
 {
     tools::CommandLine line(call,
@@ -316,17 +359,16 @@ int run(const tools::Call &call)
     if (const auto done = line.read(1, -1))
         return *done;
     Options options;
-    if (!readPictureOptions(line, options) || !readTextOptions(line, options))
-        return tools::Trouble;
+    if (const QString mistake = readOptions(line, options); !mistake.isEmpty())
+        return line.wrongUsage(mistake);
     const std::optional<QStringList> names = tools::requestFiles(call, line.arguments());
     if (!names)
         return tools::Trouble;
-    if (!options.picture.isEmpty() && !call.desktop)
+    if (!options.picture.fileName.isEmpty() && !call.desktop)
         return tools::startDesktop(call);
     const auto theApplication = application(call);
-    if (!options.other.isEmpty())
-        return compareConfigurations(call, options, *names);
-    return previewAll(call, options, *names);
+    return options.other.isEmpty() ? previewAll(call, options, *names)
+                                   : compareAll(call, options, *names);
 }
 
 } // namespace preview

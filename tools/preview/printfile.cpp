@@ -1,130 +1,265 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/printfile.h"
 
-#include "tools/preview/fiscalline.h"
+#include "tools/paperrules.h"
 
-#include <QIODevice>
+#include <QList>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <array>
-#include <utility>
+#include <cwchar>
+#include <locale.h>
+#include <optional>
 
 namespace preview {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr std::array<std::pair<CellsView, LineKind>, 4> commands = {{
-    {U"", LineKind::Empty},
-    {U"j", LineKind::SectionStart},
-    {U"J", LineKind::SectionEnd},
-    {U"1T", LineKind::FiscalEnd},
-}};
-
-QTextCodec *codecOrUtf8(QTextCodec *codec)
+constexpr bool isControl(char32_t c)
 {
-    return codec ? codec : QTextCodec::codecForName("UTF-8");
+    return c < 0x20 || (c >= 0x7F && c < 0xA0);
 }
 
-} // namespace
+/// The columns that a UTF-8 terminal gives a character, whatever the process's own locale is.
+int terminalColumns(char32_t c)
+{
+    static const locale_t utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    if (!utf8)
+        return 1;
+    const locale_t present = uselocale(utf8);
+    const int columns = wcwidth(wchar_t(c));
+    uselocale(present);
+    return columns;
+}
+
+bool isSeen(char32_t c)
+{
+    const QChar::Category category = QChar::category(c);
+    return category != QChar::Other_Format && category != QChar::Separator_Line
+           && category != QChar::Separator_Paragraph && drawable(c) == c;
+}
+
+/// `"name"quantity*priceHdepartmentR`, and after it an adjustment, as `-1,50*5M` or `2*1M`.
+struct FiscalItem
+{
+    CellsView name, quantity, price, department, adjustment;
+};
+
+/// A discount or payment: what stands before and after its value, and its title on the receipt.
+struct FiscalValue
+{
+    CellsView before, after, title, unit;
+};
+
+constexpr std::array<FiscalValue, 5> values = {{
+    {U"=", U"*2M", U"Discount", U"%"},
+    {U"", U"H1T", U"Cash", U""},
+    {U"", U"H3T", U"Credit card", U""},
+    {U"", U"H2T", U"Cheque", U""},
+    {U"", U"H5T", U"Ticket", U""},
+}};
+
+/// Cuts `text` at the first `mark`: answers what stands before it and leaves what follows.
+std::optional<CellsView> upTo(char32_t mark, CellsView &text)
+{
+    const size_t at = text.find(mark);
+    if (at == CellsView::npos)
+        return std::nullopt;
+    const CellsView before = text.substr(0, at);
+    text.remove_prefix(at + 1);
+    return before;
+}
+
+/// The name may hold quotes of its own: it ends at the last one.
+std::optional<FiscalItem> fiscalItem(CellsView line)
+{
+    const size_t quote = line.rfind(U'"');
+    if (!line.starts_with(U'"') || quote == 0)
+        return std::nullopt;
+    CellsView rest = line.substr(quote + 1);
+    const auto quantity = upTo(U'*', rest);
+    const auto price = quantity ? upTo(U'H', rest) : std::nullopt;
+    const auto department = price ? upTo(U'R', rest) : std::nullopt;
+    if (!department || !(rest.empty() || rest.ends_with(U"*1M") || rest.ends_with(U"*5M")))
+        return std::nullopt;
+    return FiscalItem{line.substr(1, quote - 1), *quantity, *price, *department,
+                      rest.substr(0, rest.size() - std::min<size_t>(rest.size(), 3))};
+}
+
+const FiscalValue *fiscalValue(CellsView line)
+{
+    const auto *const found = std::ranges::find_if(values, [line](const FiscalValue &value) {
+        return line.size() > value.before.size() + value.after.size()
+               && line.starts_with(value.before) && line.ends_with(value.after)
+               && line.find_first_not_of(U"0123456789,.+-eE", value.before.size())
+                      == line.size() - value.after.size();
+    });
+    return found == values.end() ? nullptr : found;
+}
+
+QString faultOf(const FiscalItem &item)
+{
+    if (item.name.find(U'"') != CellsView::npos)
+        return u"a double quote ends the name early"_s;
+    if (!tools::isFiscalNumber(item.quantity, U'.') || !tools::isFiscalNumber(item.price, U','))
+        return u"quantity and price take digits and at most one point"_s;
+    if (!tools::isFiscalNumber(item.department))
+        return u"the department is no number"_s;
+    return {};
+}
+
+/// One text at the left and one at the right, on two lines where they do not fit on one.
+void addRow(std::vector<Cells> &lines, CellsView left, CellsView right, int width)
+{
+    const size_t room = size_t(std::max(width, 0));
+    const bool fits = left.size() + 1 + right.size() <= room;
+    if (!fits)
+        lines.emplace_back(left);
+    Cells line(fits ? left : CellsView());
+    const size_t blanks = room - std::min(room, line.size() + right.size());
+    lines.push_back(line.append(blanks, U' ').append(right));
+}
 
 LineKind kindOf(CellsView line)
 {
-    for (const auto &[command, kind] : commands) {
-        if (line == command)
-            return kind;
-    }
     constexpr size_t FrameSize = 3;
+    if (line.empty())
+        return LineKind::Empty;
+    if (line == U"j")
+        return LineKind::SectionStart;
+    if (line == U"J")
+        return LineKind::SectionEnd;
+    if (line == U"1T")
+        return LineKind::FiscalEnd;
     if (line.size() >= FrameSize && line.starts_with(U'"') && line.ends_with(U"\"@"))
         return LineKind::Printed;
-    return fiscalKind(line).value_or(LineKind::Unframed);
+    return fiscalItem(line) || fiscalValue(line) ? LineKind::Fiscal : LineKind::Unframed;
 }
 
-PrintFile::PrintFile(QIODevice &device, QTextCodec *codec)
-    : device(device)
-    , codec(codecOrUtf8(codec))
+/// Adds the character that `bytes` begin with, or their first byte where none does; answers its
+/// size.
+qsizetype addCharacter(Cells &cells, QByteArrayView bytes, QTextCodec *codec)
 {
-}
-
-std::optional<PrintLine> PrintFile::next()
-{
-    QByteArray bytes = std::exchange(kept, {});
-    bytes += device.readLine(MaxLineBytes - bytes.size());
-    if (bytes.isEmpty())
-        return std::nullopt;
-    if (insideLongLine || (!bytes.endsWith('\n') && !device.atEnd()))
-        return piece(std::move(bytes));
-
-    PrintLine line;
-    line.offset = std::exchange(offset, offset + bytes.size());
-    line.end = bytes.endsWith("\r\n") ? LineEnd::CarriageReturn
-               : bytes.endsWith('\n') ? LineEnd::LineFeed
-                                      : LineEnd::Missing;
-    bytes.chop(line.end == LineEnd::Missing ? 0 : line.end == LineEnd::LineFeed ? 1 : 2);
-    line.text = decoded(bytes);
-    line.kind = kindOf(line.text);
-    if (line.kind == LineKind::Printed)
-        line.text = line.text.substr(1, line.text.size() - 3);
-    return line;
-}
-
-/// A part of a long line. The end of it may be the begin of a character, which is kept.
-PrintLine PrintFile::piece(QByteArray bytes)
-{
-    constexpr qsizetype LongestCharacter = 4; // bytes, in any encoding
-    PrintLine line;
-    line.kind = LineKind::Piece;
-    line.offset = offset;
-    insideLongLine = !bytes.endsWith('\n');
-    if (insideLongLine) {
-        line.end = device.atEnd() ? LineEnd::Missing : LineEnd::LineFeed;
-        line.text = decoded(bytes);
-        qsizetype tail = 0;
-        while (tail < LongestCharacter - 1 && !device.atEnd() && !line.text.empty()
-               && isUndecodedByte(line.text.back())) {
-            line.text.pop_back();
-            ++tail;
-        }
-        kept = bytes.last(tail);
-        bytes.chop(tail);
-    } else {
-        line.text = decoded(bytes.chopped(1));
-    }
-    offset += bytes.size();
-    return line;
-}
-
-Cells PrintFile::decoded(const QByteArray &bytes) const
-{
-    Cells cells;
-    cells.reserve(size_t(bytes.size()));
-    for (qsizetype at = 0; at < bytes.size();)
-        at += characterAt(bytes, at, cells);
-    return cells;
-}
-
-/// Adds the character that begins at `at`, or the byte where none does; answers its size.
-qsizetype PrintFile::characterAt(const QByteArray &bytes, qsizetype at, Cells &cells) const
-{
-    const auto first = uchar(bytes[at]);
+    const auto first = uchar(bytes.front());
     if (first < 0x80) {
         cells += char32_t(first);
         return 1;
     }
-    for (qsizetype size = 1; size <= 4 && at + size <= bytes.size(); ++size) {
+    for (qsizetype size = 1; size <= std::min<qsizetype>(4, bytes.size()); ++size) {
         QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-        const QString text = codec->toUnicode(bytes.constData() + at, int(size), &state);
+        const QString text = codec->toUnicode(bytes.data(), int(size), &state);
         const bool isDecoded =
             !text.isEmpty() && state.invalidChars == 0 && state.remainingChars == 0;
         // Not every codec counts what it replaces.
         if (isDecoded
             && (text.front() != QChar::ReplacementCharacter
-                || codec->fromUnicode(text) == bytes.sliced(at, size))) {
+                || codec->fromUnicode(text) == bytes.first(size))) {
             cells += cellsOf(text);
             return size;
         }
     }
     cells += char32_t(UndecodedByte + first);
     return 1;
+}
+
+Cells decoded(QByteArrayView bytes, QTextCodec *codec)
+{
+    Cells cells;
+    cells.reserve(size_t(bytes.size()));
+    while (!bytes.isEmpty())
+        bytes = bytes.sliced(addCharacter(cells, bytes, codec));
+    return cells;
+}
+
+} // namespace
+
+Cells cellsOf(QStringView text)
+{
+    const QList<uint> points = text.toUcs4();
+    return {points.cbegin(), points.cend()};
+}
+
+QString textOf(CellsView cells)
+{
+    QString text;
+    text.reserve(qsizetype(cells.size()));
+    for (const char32_t c : cells)
+        text += QChar::fromUcs4(drawable(c)); // QString's own conversion drops U+FEFF
+    return text;
+}
+
+char32_t drawable(char32_t c)
+{
+    constexpr char32_t FirstSymbol = 0x2400;
+    constexpr char32_t SymbolForDelete = 0x2421;
+    if (c < 0x20)
+        return FirstSymbol + c;
+    if (c == 0x7F)
+        return SymbolForDelete;
+    return isControl(c) || QChar::isSurrogate(c) || QChar::isNonCharacter(c) ? 0xFFFD : c;
+}
+
+bool fillsOneColumn(char32_t c)
+{
+    if (c >= 0x20 && c < 0x7F)
+        return true;
+    const QChar::Direction direction = QChar::direction(c);
+    return drawable(c) == c && direction != QChar::DirR && direction != QChar::DirAL
+           && direction != QChar::DirAN && terminalColumns(c) == 1;
+}
+
+QString numberOf(char32_t c)
+{
+    if (isControl(c) || isUndecodedByte(c))
+        return "\\x"_L1 + QString::number(c & 0xFF, 16).rightJustified(2, u'0');
+    return "U+"_L1 + QString::number(c, 16).toUpper().rightJustified(4, u'0');
+}
+
+QString escaped(CellsView cells)
+{
+    QString text;
+    for (const char32_t c : cells)
+        text += isSeen(c) ? textOf({&c, 1}) : numberOf(c);
+    return text;
+}
+
+PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec)
+{
+    PrintLine line;
+    QByteArrayView bytes = file.sliced(offset);
+    const qsizetype end = bytes.indexOf('\n');
+    bytes = bytes.first(end < 0 ? bytes.size() : end);
+    line.next = offset + bytes.size() + (end < 0 ? 0 : 1);
+    line.end = end < 0                ? LineEnd::Missing
+               : bytes.endsWith('\r') ? LineEnd::CarriageReturn
+                                      : LineEnd::LineFeed;
+    bytes.chop(line.end == LineEnd::CarriageReturn ? 1 : 0);
+    line.text = decoded(bytes, codec ? codec : QTextCodec::codecForName("UTF-8"));
+    line.kind = kindOf(line.text);
+    if (line.kind == LineKind::Printed)
+        line.text = line.text.substr(1, line.text.size() - 3);
+    return line;
+}
+
+FiscalReceipt fiscalReceipt(CellsView command, int width)
+{
+    FiscalReceipt receipt;
+    if (const auto item = fiscalItem(command)) {
+        Cells amounts(item->quantity);
+        amounts.append(U" x ").append(item->price).append(U" dep. ").append(item->department);
+        addRow(receipt.lines, item->name, amounts, width);
+        if (!item->adjustment.empty())
+            addRow(receipt.lines, U"  Adjustment", item->adjustment, width);
+        receipt.fault = faultOf(*item);
+    } else if (const FiscalValue *const value = fiscalValue(command)) {
+        command.remove_prefix(value->before.size());
+        command.remove_suffix(value->after.size());
+        addRow(receipt.lines, value->title, Cells(command).append(value->unit), width);
+    }
+    return receipt;
 }
 
 } // namespace preview

@@ -1,16 +1,42 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/preview/cells.h"
+#include <QByteArrayView>
+#include <QString>
 
-#include <QByteArray>
+#include <string>
+#include <vector>
 
-#include <optional>
-
-class QIODevice;
 class QTextCodec;
 
+/// The lines of a print file, as the printer takes them: a cell of the paper for each character, in
+/// the order of the file. Combining, wide and right-to-left characters have one cell like any
+/// other.
 namespace preview {
+
+/// A code point for each cell. A byte that is no text in the file's encoding stands as
+/// `UndecodedByte` plus the byte, which is no character.
+using Cells = std::u32string;
+using CellsView = std::u32string_view;
+
+constexpr char32_t UndecodedByte = 0xDC00;
+
+constexpr bool isUndecodedByte(char32_t c)
+{
+    return c >= UndecodedByte + 0x80 && c <= UndecodedByte + 0xFF;
+}
+
+Cells cellsOf(QStringView text);
+/// The cells as text, with `drawable(c)` for each.
+QString textOf(CellsView cells);
+
+/// The character itself, or what stands for it where it is drawn: the control's symbol, U+FFFD for
+/// a byte that is no text.
+char32_t drawable(char32_t c);
+/// Whether a terminal moves by one column, to the right, for the character.
+bool fillsOneColumn(char32_t c);
+/// The character by its number: `\x1b` for a control or a byte, `U+4E2D` for any other.
+QString numberOf(char32_t c);
 
 /// What a line of a print file is to the printer.
 enum class LineKind {
@@ -19,11 +45,8 @@ enum class LineKind {
     SectionEnd,   ///< `J`
     FiscalEnd,    ///< `1T`
     Printed,      ///< framed by a quote and `"@`
-    FiscalItem,
-    FiscalDiscount,
-    FiscalPayment,
-    Unframed, ///< none of these
-    Piece,    ///< of a line that is longer than MaxLineBytes
+    Fiscal,       ///< an item, a discount or a payment
+    Unframed,     ///< none of these
 };
 
 enum class LineEnd { Missing, LineFeed, CarriageReturn };
@@ -33,37 +56,28 @@ struct PrintLine
     LineKind kind = LineKind::Empty;
     Cells text; ///< inside the frame for Printed; else the whole line, without its end
     LineEnd end = LineEnd::LineFeed;
-    qint64 offset = 0; ///< bytes of the file before the line
+    qsizetype next = 0; ///< where the next line begins: bytes of the file
 };
 
-/// Reads a print file line by line, in constant memory. Any bytes are a print file: what the device
-/// would not have written is Unframed, and nothing is left out.
-class PrintFile
+/// The line of `file` that begins at `offset`, which is inside of it. Any bytes are a print file:
+/// what the device would not have written is Unframed, and nothing is left out. A null codec means
+/// UTF-8.
+PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec);
+
+/// What a fiscal command comes to on the receipt.
+struct FiscalReceipt
 {
-public:
-    /// A longer line is handed out in pieces of this size, give or take a character.
-    static constexpr int MaxLineBytes = 4'096;
-
-    /// `device` is open and borrowed. `codec` decodes the file; null means UTF-8, as
-    /// text::localeCodec() has it.
-    PrintFile(QIODevice &device, QTextCodec *codec);
-
-    /// The next line; nothing at the end of the file.
-    std::optional<PrintLine> next();
-
-private:
-    Cells decoded(const QByteArray &bytes) const;
-    qsizetype characterAt(const QByteArray &bytes, qsizetype at, Cells &cells) const;
-    PrintLine piece(QByteArray bytes);
-
-    QIODevice &device;
-    QTextCodec *const codec;
-    QByteArray kept; // read and not yet handed out: the begin of a character
-    qint64 offset = 0;
-    bool insideLongLine = false;
+    std::vector<Cells> lines;
+    QString fault; ///< for which the printer refuses it; empty when there is none
 };
 
-/// What follows from `"` at the line's begin and `"@` at its end.
-LineKind kindOf(CellsView line);
+/// What the fiscal printer makes of a Fiscal line, on paper of `width` cells: the item's name with
+/// quantity, price and department at the right, on a line of their own where they do not fit, and
+/// an adjustment of the price; a discount; a payment. Amounts stand as the command has them, as
+/// sums are the printer's to make. Nothing for any other line.
+FiscalReceipt fiscalReceipt(CellsView command, int width);
+
+/// The cells in one line, as a terminal takes it: numbers for what is not to be seen.
+QString escaped(CellsView cells);
 
 } // namespace preview

@@ -42,27 +42,23 @@ QString TerminalDrawing::drawn(const Row &row) const
 
 QString TerminalDrawing::paperOf(const Row &row) const
 {
+    const auto edge = [&](QStringView signs) { // the left end, the middle and the right end
+        return signs[0] + QString(row.width, signs[1]) + signs[2];
+    };
     switch (row.kind) {
     case Row::Kind::TopEdge:
-        return frames ? edge(u'┌', u'─', u'┐', row.width) : edge(u'+', u'-', u'+', row.width);
+        return edge(frames ? u"┌─┐" : u"+-+");
     case Row::Kind::BottomEdge:
-        return frames ? edge(u'└', u'─', u'┘', row.width) : edge(u'+', u'-', u'+', row.width);
+        return edge(frames ? u"└─┘" : u"+-+");
     case Row::Kind::TornTop:
     case Row::Kind::TornBottom:
-        return frames ? edge(u'┄', u'┄', u'┄', row.width) : edge(u'~', u'~', u'~', row.width);
+        return edge(frames ? u"┄┄┄" : u"~~~");
     case Row::Kind::Line:
         break;
     }
-    const CellsView text = row.text;
-    const size_t onPaper = text.size() - size_t(row.overrun());
-    const QString blanks(row.width - qsizetype(onPaper), u' ');
-    return upright() + cellsOf(text.substr(0, onPaper)) + blanks + upright()
-           + cellsOf(text.substr(onPaper));
-}
-
-QString TerminalDrawing::edge(QChar left, QChar middle, QChar right, int width) const
-{
-    return left + QString(width, middle) + right;
+    const QChar upright = frames ? u'│' : u'|';
+    const QString blanks(row.width - qsizetype(row.onPaper().size()), u' ');
+    return upright + cellsOf(row.onPaper()) + blanks + upright + cellsOf(row.beyond());
 }
 
 bool TerminalDrawing::isShown(char32_t c) const

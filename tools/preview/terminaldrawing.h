@@ -3,8 +3,6 @@
 
 #include "tools/preview/paper.h"
 
-class QTextCodec;
-
 namespace preview {
 
 /// Draws rows of paper as lines of text. What a terminal does not show as one column is drawn as a
@@ -19,12 +17,8 @@ public:
     /// The row, without a line end.
     QString drawn(const Row &row) const;
 
-    /// The upright line that edges and columns are drawn with.
-    QChar upright() const { return frames ? u'│' : u'|'; }
-
 private:
     QString paperOf(const Row &row) const;
-    QString edge(QChar left, QChar middle, QChar right, int width) const;
     QString cellsOf(CellsView cells) const;
     QString notesOn(const Row &row) const;
     bool isShown(char32_t c) const;

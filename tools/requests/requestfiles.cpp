@@ -46,7 +46,7 @@ std::optional<QStringList> requestFiles(const Call &call, const QStringList &wor
     return files;
 }
 
-std::unique_ptr<QIODevice> openedRequest(const Call &call, const QString &name)
+std::unique_ptr<QFile> openedRequest(const Call &call, const QString &name)
 {
     auto file = std::make_unique<QFile>(name);
     const bool opened = name == StandardInput ? file->open(stdin, QIODevice::ReadOnly)

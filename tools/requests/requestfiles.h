@@ -3,7 +3,7 @@
 
 #include "tools/command.h"
 
-#include <QIODevice>
+#include <QFile>
 
 #include <memory>
 
@@ -19,6 +19,6 @@ constexpr QLatin1StringView StandardInput("-");
 std::optional<QStringList> requestFiles(const Call &call, const QStringList &words);
 
 /// The file, or standard input, open for reading; null when it cannot be opened, which is told.
-std::unique_ptr<QIODevice> openedRequest(const Call &call, const QString &name);
+std::unique_ptr<QFile> openedRequest(const Call &call, const QString &name);
 
 } // namespace tools

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "tools/window/picturefile.h"
 
-#include <QBuffer>
-#include <QFontDatabase>
-#include <QHash>
-#include <QImage>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QRawFont>
-#include <QSaveFile>
+#include "tools/window/sheetpainter.h"
 
-#include <map>
+#include <QBuffer>
+#include <QImage>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <array>
+#include <span>
 
 namespace preview {
 
@@ -18,155 +19,213 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Without any font the toolkit still lists some, all of whose characters are boxes: those have no
-/// tables.
-bool isUsable(const QString &family)
+/// The limits of a picture of pixels: its sides, and its area, a byte for each while it is drawn.
+constexpr int MostPixelsOfSide = 32'000;
+constexpr qint64 MostPixels = 40'000'000;
+constexpr int LeastCellWidth = 3; // pixels, below which nothing can be read
+
+/// The grid of pictures that are no pixels: 40 dots to a millimetre.
+constexpr int VectorDpi = 1'016;
+constexpr double VectorDotsOfMm = 40;
+constexpr int LongestPageMm = 5'000; // readers of PDF show no longer one
+
+/// Sheets in rows of `perRow`.
+class Picture
 {
-    return !QRawFont::fromFont(QFont(family)).fontTable("cmap").isEmpty();
+public:
+    Picture(std::span<const Sheet> sheets, const PaperSize &paper, size_t perRow,
+            SheetPainter::Frame frame)
+        : perRow(perRow)
+        , columns(std::min(perRow, sheets.size()))
+        , rows((sheets.size() + perRow - 1) / perRow)
+    {
+        constexpr int TooHigh = 1'000'000'000; // and no higher, for the sum to remain a number
+        painters.reserve(sheets.size());
+        for (size_t i = 0; i < sheets.size(); ++i) {
+            const QSize sheet = painters.emplace_back(sheets[i], paper, frame).size();
+            columns[i % perRow] = std::max(columns[i % perRow], sheet.width());
+            rows[i / perRow] = std::max(rows[i / perRow], sheet.height());
+        }
+        for (const int column : columns)
+            size.rwidth() += column;
+        for (const int row : rows)
+            size.setHeight(std::min(size.height() + row, TooHigh));
+    }
+
+    bool isTooSmall() const
+    {
+        return std::ranges::any_of(painters, [](const SheetPainter &painter) {
+            return painter.cellWidth() < LeastCellWidth;
+        });
+    }
+
+    void paint(QPaintDevice &device, const Colours &colours) const
+    {
+        QPainter painter(&device);
+        paint(painter, colours);
+    }
+    void paint(QPainter &painter, const Colours &colours) const
+    {
+        painter.fillRect(QRect(QPoint(), size), colours.desk.ground);
+        QPoint corner;
+        for (size_t i = 0; i < painters.size(); ++i) {
+            painter.save();
+            painter.translate(corner);
+            painters[i].paint(painter, colours);
+            painter.restore();
+            corner.rx() += columns[i % perRow];
+            if ((i + 1) % perRow == 0)
+                corner = {0, corner.y() + rows[i / perRow]};
+        }
+    }
+
+    QSize size{0, 0};
+
+private:
+    const size_t perRow;
+    std::vector<SheetPainter> painters;
+    std::vector<int> columns; // the width of each column of sheets, in pixels
+    std::vector<int> rows;    // the height of each row
+};
+
+SheetPainter::Frame frameOf(const std::vector<Sheet> &sheets)
+{
+    return sheets.size() > 1 ? SheetPainter::Frame::Title : SheetPainter::Frame::Notes;
 }
 
-/// The family that pictures are written in; empty when there is none.
-QString monospacedFamily()
+QString titleOf(const std::vector<Sheet> &sheets)
 {
-    const QStringList present = QFontDatabase::families();
-    for (const auto family : {"DejaVu Sans Mono"_L1, "Liberation Mono"_L1}) {
-        if (present.contains(family) && isUsable(family))
-            return family;
+    QStringList titles;
+    for (const Sheet &sheet : sheets)
+        titles.append(sheet.title);
+    return titles.join("; "_L1);
+}
+
+/// Shades of grey that are places in a table of colours: for each ground a stretch that leads from
+/// it to its text, as what is painted on it is a mixture of both.
+struct Palette
+{
+    Palette()
+    {
+        constexpr int Stretch = 64;
+        constexpr int Last = Stretch - 2; // and one place between stretches, for the edge
+        const auto shade = [](int place) { return QColor(place, place, place); };
+        const Colours colours;
+        table.fill(colours.edge.rgb(), 4 * Stretch);
+        shades.edge = shade(Stretch - 1);
+        int begin = 0;
+        for (const auto member :
+             {&Colours::desk, &Colours::paper, &Colours::changed, &Colours::beyond}) {
+            const auto &[ground, ink] = colours.*member;
+            shades.*member = {shade(begin), shade(begin + Last)};
+            for (int i = 0; i <= Last; ++i) {
+                const auto mixed = [i](int a, int b) { return (a * (Last - i) + b * i) / Last; };
+                table[begin + i] =
+                    qRgb(mixed(ground.red(), ink.red()), mixed(ground.green(), ink.green()),
+                         mixed(ground.blue(), ink.blue()));
+            }
+            begin += Stretch;
+        }
     }
-    for (const QString &family : present) {
-        if (QFontDatabase::isFixedPitch(family) && isUsable(family))
-            return family;
+
+    Colours shades;
+    QList<QRgb> table;
+};
+
+QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
+{
+    constexpr double InchesOfMetre = 39.37;
+    const Picture picture(sheets, options.paper, options.perRow, frameOf(sheets));
+    if (picture.isTooSmall())
+        return u"the characters would be too small to be read: raise --dpi"_s;
+    if (std::max(picture.size.width(), picture.size.height()) > MostPixelsOfSide
+        || qint64(picture.size.width()) * picture.size.height() > MostPixels)
+        return u"the picture would have %1 by %2 pixels, more than %3 at a side or %4 in all: "
+               "lower --dpi, or preview less at a time"_s.arg(picture.size.width())
+                   .arg(picture.size.height())
+                   .arg(MostPixelsOfSide)
+                   .arg(MostPixels);
+    QImage image(picture.size, QImage::Format_Grayscale8);
+    if (image.isNull())
+        return u"there is no memory for the picture"_s;
+    const Palette palette;
+    picture.paint(image, palette.shades);
+    image.reinterpretAsFormat(QImage::Format_Indexed8); // a quarter of what colours would take
+    image.setColorTable(palette.table);
+    image.setDotsPerMeterX(int(options.paper.dpi * InchesOfMetre));
+    image.setDotsPerMeterY(int(options.paper.dpi * InchesOfMetre));
+    return image.save(&file, "PNG") ? QString() : file.errorString();
+}
+
+QString faultOfPage(const QSize &dots)
+{
+    return std::max(dots.width(), dots.height()) > LongestPageMm * VectorDotsOfMm
+               ? u"a side of the picture would be longer than %1 mm"_s.arg(LongestPageMm)
+               : QString();
+}
+
+QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
+{
+    const Picture picture(sheets, {VectorDpi, options.paper.widthMm}, options.perRow,
+                          frameOf(sheets));
+    if (const QString fault = faultOfPage(picture.size); !fault.isEmpty())
+        return fault;
+    QBuffer svg;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&svg);
+    generator.setResolution(VectorDpi);
+    generator.setSize(picture.size);
+    generator.setViewBox(QRect(QPoint(), picture.size));
+    generator.setTitle(titleOf(sheets));
+    picture.paint(generator, {});
+    const QByteArray family = monospacedFamily().toUtf8(); // the generator names no other
+    svg.buffer().replace('"' + family + '"', '"' + family + ", monospace\"");
+    return file.write(svg.data()) == svg.size() ? QString() : file.errorString();
+}
+
+/// Each row of sheets on a page; a sheet that has one for itself is the page.
+QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
+{
+    QPdfWriter writer(&file);
+    writer.setResolution(VectorDpi);
+    writer.setTitle(titleOf(sheets));
+    writer.setPageMargins(QMarginsF());
+    Colours colours;
+    colours.desk.ground = Qt::white;
+    QPainter painter;
+    for (size_t i = 0; i < sheets.size(); i += options.perRow) {
+        const auto row = std::span(sheets).subspan(i, std::min(options.perRow, sheets.size() - i));
+        const Picture picture(row, {VectorDpi, options.paper.widthMm}, options.perRow,
+                              options.perRow == 1 ? SheetPainter::Frame::Bare
+                                                  : SheetPainter::Frame::Title);
+        if (const QString fault = faultOfPage(picture.size); !fault.isEmpty())
+            return fault;
+        writer.setPageSize(QPageSize(QSizeF(picture.size) / VectorDotsOfMm, QPageSize::Millimeter));
+        if (i == 0)
+            painter.begin(&writer);
+        else
+            writer.newPage();
+        picture.paint(painter, colours);
     }
     return {};
 }
 
-/// Writes characters into cells of one width.
-class CellWriter
-{
-public:
-    CellWriter(const QString &family, int cellWidth, QPaintDevice *device)
-        : cellWidth(cellWidth)
-        , font(family)
-        , metrics(sized(device))
-    {
-    }
-
-    void write(QPainter &painter, const Run &run)
-    {
-        painter.setFont(font);
-        painter.setPen(QColor(colourOf(run.tone)));
-        const double above = (2 * cellWidth - metrics.ascent() - metrics.descent()) / 2;
-        QPointF at(run.at.x(), run.at.y() + above + metrics.ascent());
-        for (const char32_t c : run.text) {
-            writeCharacter(painter, at, c);
-            at.rx() += cellWidth;
-        }
-    }
-
-private:
-    /// The font whose characters are as wide as the cell; its metrics on the device.
-    QFontMetricsF sized(QPaintDevice *device)
-    {
-        constexpr int Large = 1'000;
-        font.setStyleStrategy(
-            QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-        font.setHintingPreference(QFont::PreferNoHinting);
-        font.setPixelSize(Large);
-        const double advance = QFontMetricsF(font, device).horizontalAdvance(u'0');
-        font.setPixelSize(std::max(int(Large * cellWidth / std::max(advance, 1.0)), 1));
-        return {font, device};
-    }
-
-    /// A character that is wider than its cell is squeezed, one that is narrower is centred.
-    void writeCharacter(QPainter &painter, QPointF at, char32_t c)
-    {
-        if (c == U' ')
-            return;
-        const bool isMissing = drawable(c) != c && !metrics.inFontUcs4(drawable(c));
-        const QString text = isMissing ? QString(QChar::ReplacementCharacter) : textOf({&c, 1});
-        if (!advances.contains(c))
-            advances.insert(c, metrics.horizontalAdvance(text));
-        const double advance = advances.value(c);
-        if (advance <= cellWidth + 0.5) {
-            painter.drawText(at + QPointF((cellWidth - advance) / 2, 0), text);
-            return;
-        }
-        painter.save();
-        painter.translate(at);
-        painter.scale(cellWidth / advance, 1);
-        painter.drawText(QPointF(), text);
-        painter.restore();
-    }
-
-    double cellWidth;
-    QFont font;
-    QFontMetricsF metrics;
-    QHash<char32_t, double> advances;
-};
-
-void paint(const Picture &picture, const QString &family, QPaintDevice *device)
-{
-    QPainter painter(device);
-    for (const Box &box : picture.boxes)
-        painter.fillRect(box.place, QColor(colourOf(box.tone)));
-    std::map<int, CellWriter> writers;
-    for (const Run &run : picture.runs) {
-        const auto [writer, isNew] =
-            writers.try_emplace(run.cellWidth, family, run.cellWidth, device);
-        writer->second.write(painter, run);
-    }
-}
-
-bool writePng(const Picture &picture, const QString &family, QIODevice &file)
-{
-    constexpr double InchesOfMetre = 39.37;
-    QImage image(picture.size, QImage::Format_RGB32);
-    if (image.isNull())
-        return false;
-    image.setDotsPerMeterX(int(picture.dpi * InchesOfMetre));
-    image.setDotsPerMeterY(int(picture.dpi * InchesOfMetre));
-    paint(picture, family, &image);
-    return image.save(&file, "PNG");
-}
-
-bool writePdf(const Picture &picture, const QString &family, QIODevice &file)
-{
-    constexpr double MillimetresOfInch = 25.4;
-    QPdfWriter writer(&file);
-    writer.setResolution(picture.dpi);
-    writer.setPageSize(
-        QPageSize(QSizeF(picture.size) * MillimetresOfInch / picture.dpi, QPageSize::Millimeter));
-    writer.setPageMargins(QMarginsF());
-    paint(picture, family, &writer);
-    return true;
-}
-
 } // namespace
 
-QString writePicture(const Picture &picture, const QString &fileName, PictureFormat format)
+QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &options)
 {
-    const QString family = format == PictureFormat::Svg ? QString() : monospacedFamily();
-    if (format != PictureFormat::Svg && family.isEmpty())
+    if (monospacedFamily().isEmpty())
         return u"there is no monospaced font (Debian has fonts-dejavu-core)"_s;
-    QSaveFile file(fileName);
+    QSaveFile file(options.fileName);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    bool written = true;
-    switch (format) {
-    case PictureFormat::Png:
-        written = writePng(picture, family, file);
-        break;
-    case PictureFormat::Svg: {
-        const QByteArray svg = svgOf(picture);
-        written = file.write(svg) == svg.size();
-        break;
-    }
-    case PictureFormat::Pdf:
-        written = writePdf(picture, family, file);
-        break;
-    }
-    if (!written)
+    using Write = QString (*)(const std::vector<Sheet> &, const PictureOptions &, QIODevice &);
+    constexpr std::array<Write, 3> writers = {writePng, writeSvg, writePdf};
+    const QString fault = writers.at(size_t(options.format))(sheets, options, file);
+    if (!fault.isEmpty()) {
         file.cancelWriting();
+        return fault;
+    }
     return file.commit() ? QString() : file.errorString();
 }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/preview/picture.h"
+#include "tools/preview/paper.h"
 
-/// Pictures as files. Needs a QGuiApplication, and no display.
 namespace preview {
 
-/// Writes the file, which is replaced when the new one is complete. Answers why it could not be
-/// written, and an empty text when it was.
-QString writePicture(const Picture &picture, const QString &fileName, PictureFormat format);
+/// Draws the sheets into a file, in rows beside each other; each row is a page of a PDF. The file
+/// is replaced when the new one is complete. Answers why it could not be written, and an empty text
+/// when it was. Needs a QGuiApplication, and no display.
+QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &options);
 
 } // namespace preview
