@@ -284,7 +284,7 @@ int main(int argc, char **argv)
     int words = 1; // the others are not the toolkit's
     const QCoreApplication application(words, argv);
     const QString queue = qEnvironmentVariable("PRINTER", QFile::decodeName(argv[0]));
-    ZTConfiguration settings(settingsFile(queue), u"cfg"_s);
+    ZTConfiguration settings(settingsFile(queue));
     SyncSingleton<ZTConfiguration>::instance_pointer = &settings;
     QTranslator translator; // without a translation the texts stay as they are
     loadTranslation(translator, settings);

@@ -211,7 +211,7 @@ QByteArray testPage(const QString &queue, const QString &encoding)
     const QString own = ZTConfiguration::queueFile(queue);
     const QString path = QFile::exists(own) ? own : ZTConfiguration::queueFile();
     const bool isReadable = QFileInfo(path).isReadable();
-    const ZTConfiguration settings(isReadable ? path : u"/dev/null"_s, u"cfg"_s);
+    const ZTConfiguration settings(isReadable ? path : u"/dev/null"_s);
     QByteArray request;
     QXmlStreamWriter writer(&request);
     const auto writeItem = [&](const QString &number, const QString &name) {
