@@ -2,25 +2,53 @@
 #include "render/companyprinterdriver.h"
 
 #include "render/rowlayout.h"
+#include "render/vocabulary.h"
+
+#include <QStringBuilder>
+
+#include <array>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView center = u"center";
-constexpr QStringView replacedWord = u"TOTALE";
-constexpr QStringView replacement = u"SOMMA";
-
-/// Where the word stands next from `at` on, or -1. Most lines do not even hold its first letter,
-/// which the toolkit looks for much faster.
-qsizetype nextReplacedWord(QStringView text, qsizetype at)
+/// A payment: the attribute that holds it and the commands around its value.
+struct PaymentLine
 {
-    const QChar letter = replacedWord.front();
-    for (at = text.indexOf(letter, at); at >= 0; at = text.indexOf(letter, at + 1)) {
-        if (text.sliced(at).startsWith(replacedWord))
-            break;
-    }
-    return at;
+    QLatin1StringView attribute;
+    QLatin1StringView before;
+    QLatin1StringView after;
+};
+
+constexpr std::array<PaymentLine, 5> paymentLines = {{
+    {"discountRate"_L1, "="_L1, "*2M\r\n"_L1},
+    {"cash"_L1, ""_L1, "H1T\r\n"_L1},
+    {"creditCard"_L1, ""_L1, "H3T\r\n"_L1},
+    {"cheque"_L1, ""_L1, "H2T\r\n"_L1},
+    {"ticket"_L1, ""_L1, "H5T\r\n"_L1},
+}};
+
+QString withDecimalComma(QString text)
+{
+    return text.replace(u'.', u',');
+}
+
+/// Whether the text, whose decimal point is a comma, reads as a number other than zero.
+bool isAmount(QString text)
+{
+    bool isNumber = false;
+    const double value = text.replace(u',', u'.').toDouble(&isNumber);
+    return isNumber && std::isfinite(value) && value != 0;
+}
+
+/// An item's command up to where an adjustment may follow.
+QString fiscalItem(const QString &department, const QString &quantity, const QString &description,
+                   const QString &price)
+{
+    // Joined at once: piece by piece it would cost an item a quarter more.
+    return u'"' % description % u'"' % quantity % u'*' % withDecimalComma(price) % u'H' % department
+           % u'R';
 }
 
 } // namespace
@@ -94,22 +122,18 @@ void CompanyPrinterDriver::endSection()
 void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {
     rowlayout::pad(line, indent, u' ');
-    qsizetype from = 0; // the toolkit's own replacing takes minutes where the word is all there is
-    for (qsizetype at = nextReplacedWord(text, from); at >= 0; at = nextReplacedWord(text, from)) {
-        line += QStringView(text).sliced(from, at - from);
-        line += replacement;
-        from = at + replacedWord.size();
-    }
-    line += QStringView(text).sliced(from);
+    if (!QStringView(text).contains(u'O')) // as most lines
+        line += text;
+    else // the toolkit's own replacing takes minutes where the word is all there is
+        line += text.split(u"TOTALE"_s).join(u"SOMMA"_s);
 }
 
 void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
 {
-    constexpr int Slack = 7; // counts the frame, and gives half of itself away to the right
     print(indent, text);
-    line += u"\"@\n";
-    const qsizetype room = qsizetype(getPaperWidth()) - line.size() + Slack;
-    if (justify == center && room > 1)
+    print(0, u"\"@\n"_s);
+    const qsizetype room = qsizetype(getPaperWidth()) - line.size() + CentringSlack;
+    if (justify == "center"_L1 && room > 1)
         line.insert(1, QString(room / 2, u' '));
     write(line);
     line = u'"'; // its memory serves the next line
@@ -118,4 +142,33 @@ void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
 void CompanyPrinterDriver::println(const QString &text)
 {
     println(0, text);
+}
+
+// The command lines of the fiscal printer. They go straight to the print file, each with its own
+// line end, and nothing in them is translated but the decimal point.
+
+void CompanyPrinterDriver::printRowFiscal(const QString &name, const QXmlAttributes &atts)
+{
+    if (name != element::totals)
+        return;
+    for (const PaymentLine &payment : paymentLines) {
+        const QString value = withDecimalComma(valueOf(atts, payment.attribute));
+        if (isAmount(value))
+            write(payment.before % value % payment.after);
+    }
+}
+
+void CompanyPrinterDriver::printRowFiscal(const QString &department, const QString &quantity,
+                                          const QString &description, const QString &price)
+{
+    write(fiscalItem(department, quantity, description, price) % "\r\n"_L1);
+}
+
+void CompanyPrinterDriver::printRowFiscal(const QString &department, const QString &quantity,
+                                          const QString &description, const QString &price,
+                                          const QString &adjustment)
+{
+    const auto command = adjustment.startsWith(u'-') ? "*5M"_L1 : "*1M"_L1;
+    write(fiscalItem(department, quantity, description, price)
+          % withDecimalComma(adjustment % command) % "\r\n"_L1);
 }

@@ -10,6 +10,10 @@
 class CompanyPrinterDriver : public PrinterDriver
 {
 public:
+    /// What a centred line's room is counted as more than the paper's: it makes up for the frame of
+    /// four characters, and the rest of it moves the text to the right.
+    static constexpr int CentringSlack = 7;
+
     /// Opens the print file and truncates it.
     explicit CompanyPrinterDriver(const QString &fileName);
     /// Prints into an open file, as PrinterDriver has it.

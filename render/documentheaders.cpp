@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "render/printerdriver.h"
-
 #include "render/vocabulary.h"
 
 #include <array>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -35,14 +34,34 @@ constexpr std::array<LabelRow, 3> customerRows = {{
     {&S::printFiscalCode, QT_TRANSLATE_NOOP("PrinterDriver", "Fiscal Code:"), "fiscalcode"_L1},
 }};
 
-} // namespace
-
 /// A blank, the label, a blank, the value.
-void PrinterDriver::printLabelLine(const QString &label, const QString &value)
+void printLabelLine(PrinterDriver &device, const QString &label, const QString &value)
 {
-    print(1, label);
-    println(1, value);
+    device.print(1, label);
+    device.println(1, value);
 }
+
+/// The lines of `rows` that are switched on.
+void printLabelRows(PrinterDriver &device, std::span<const LabelRow> rows,
+                    const DocumentSettings &settings, const QXmlAttributes &atts)
+{
+    for (const LabelRow &row : rows) {
+        if (settings.*row.printed)
+            printLabelLine(device, PrinterDriver::tr(row.label), valueOf(atts, row.attribute));
+    }
+}
+
+/// A line for each part between commas, up to the first empty one. A part of blanks is a line too.
+void printAddress(PrinterDriver &device, const QString &address)
+{
+    for (const QStringView part : qTokenize(address, u',')) {
+        if (part.isEmpty())
+            return;
+        device.println(1, part.trimmed().toString());
+    }
+}
+
+} // namespace
 
 void PrinterDriver::printGeometry(const QXmlAttributes &)
 {
@@ -89,23 +108,20 @@ void PrinterDriver::printReceiptHeader(const QXmlAttributes &atts)
 
 void PrinterDriver::printInvoiceHeader(const QXmlAttributes &atts)
 {
-    printLabelLine(tr("Invoice Number:"), valueOf(atts, "serialnumber"_L1));
+    printLabelLine(*this, tr("Invoice Number:"), valueOf(atts, "serialnumber"_L1));
     printSeparatorLine();
 }
 
 void PrinterDriver::printDeliveryHeader(const QXmlAttributes &atts)
 {
-    printLabelLine(tr("Delivery Number:"), valueOf(atts, "serialnumber"_L1));
+    printLabelLine(*this, tr("Delivery Number:"), valueOf(atts, "serialnumber"_L1));
     printSeparatorLine();
 }
 
 void PrinterDriver::printOrderInfo(const QXmlAttributes &atts)
 {
     setCharSize();
-    for (const LabelRow &row : orderRows) {
-        if (settings.*row.printed)
-            printLabelLine(tr(row.label), valueOf(atts, row.attribute));
-    }
+    printLabelRows(*this, orderRows, settings, atts);
     if (settings.printCredit)
         credit = valueOf(atts, "credit"_L1);
     printSeparatorLine();
@@ -118,22 +134,40 @@ void PrinterDriver::printCustomerHeader(const QXmlAttributes &atts)
     println(tr("CUSTOMER"));
     println(1, valueOf(atts, "name"_L1));
     if (settings.printBillingAddress)
-        printAddress(valueOf(atts, "billingaddress"_L1));
+        printAddress(*this, valueOf(atts, "billingaddress"_L1));
     if (settings.printDeliveryAddress)
-        printAddress(valueOf(atts, "deliveryaddress"_L1));
-    for (const LabelRow &row : customerRows) {
-        if (settings.*row.printed)
-            printLabelLine(tr(row.label), valueOf(atts, row.attribute));
-    }
+        printAddress(*this, valueOf(atts, "deliveryaddress"_L1));
+    printLabelRows(*this, customerRows, settings, atts);
     printSeparatorLine();
 }
 
-/// A line for each part between commas, up to the first empty one. A part of blanks is a line too.
-void PrinterDriver::printAddress(const QString &address)
+bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &atts)
 {
-    for (const QStringView part : qTokenize(address, u',')) {
-        if (part.isEmpty())
-            return;
-        println(1, part.trimmed().toString());
+    if (name == element::printers) {
+        printerInfo = valueOf(atts, "name"_L1);
+        charsize = valueOf(atts, "charsize"_L1);
+        ipaddress = valueOf(atts, "ipaddress"_L1);
+        port = valueOf(atts, "port"_L1);
+        initPrinter();
+    } else if (name == element::geometry) {
+        printGeometry(atts);
+    } else if (name == element::headers) {
+        printHeaders(atts);
+        printPrinterInfo();
+    } else if (name == element::logo) {
+        printLogo();
+    } else if (name == element::company) {
+        printCompanyHeader(atts);
+    } else if (name == element::receipt) {
+        printReceiptHeader(atts);
+    } else if (name == element::invoice) {
+        printInvoiceHeader(atts);
+    } else if (name == element::delivery) {
+        printDeliveryHeader(atts);
+    } else if (name == element::orderInfo) {
+        printOrderInfo(atts);
+    } else {
+        return false;
     }
+    return true;
 }

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "render/printerdriver.h"
-
 #include "render/vocabulary.h"
 
 #include <cmath>
@@ -26,37 +24,6 @@ QString variantText(const QXmlAttributes &atts)
 }
 
 } // namespace
-
-bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &atts)
-{
-    if (name == element::printers) {
-        printerInfo = valueOf(atts, "name"_L1);
-        charsize = valueOf(atts, "charsize"_L1);
-        ipaddress = valueOf(atts, "ipaddress"_L1);
-        port = valueOf(atts, "port"_L1);
-        initPrinter();
-    } else if (name == element::geometry) {
-        printGeometry(atts);
-    } else if (name == element::headers) {
-        printHeaders(atts);
-        printPrinterInfo();
-    } else if (name == element::logo) {
-        printLogo();
-    } else if (name == element::company) {
-        printCompanyHeader(atts);
-    } else if (name == element::receipt) {
-        printReceiptHeader(atts);
-    } else if (name == element::invoice) {
-        printInvoiceHeader(atts);
-    } else if (name == element::delivery) {
-        printDeliveryHeader(atts);
-    } else if (name == element::orderInfo) {
-        printOrderInfo(atts);
-    } else {
-        return false;
-    }
-    return true;
-}
 
 void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes &atts)
 {

@@ -89,6 +89,10 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
         return false; // nothing more would be written
     if (qName == element::method)
         return startMethod(valueOf(atts, "name"_L1));
+    if (currentMethod != methodName) {
+        methodName = currentMethod;
+        method = documentMethod(methodName);
+    }
     if (method)
         (this->*method->print)(qName, atts);
     return true;
@@ -101,15 +105,15 @@ bool PrinterDriver::endElement(const QString &, const QString &, const QString &
 
 bool PrinterDriver::startMethod(const QString &name)
 {
-    method = documentMethod(name);
-    if (!method) {
+    const DocumentMethod *const chosen = documentMethod(name);
+    if (!chosen) {
         text::printLine("File Format Not Supported");
         currentMethod = u""_s;
         return false;
     }
-    loadValues(method->settingsType);
-    if (method->duplicate != DuplicateFlag::Unchanged)
-        duplicate = method->duplicate == DuplicateFlag::Set;
+    loadValues(chosen->settingsType);
+    if (chosen->duplicate != DuplicateFlag::Unchanged)
+        duplicate = chosen->duplicate == DuplicateFlag::Set;
     currentMethod = name;
     startSection();
     return true;
@@ -157,8 +161,7 @@ void PrinterDriver::loadValues(const QString &type)
     settings.style = setting("style"_L1);
     for (const SettingKey<bool> &aSwitch : switchSettings())
         settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
-    topMargin.reset();
-    descriptionWidth.reset();
+    topMargin = descriptionWidth = {};
 }
 
 /// The setting of the current document type; empty when the configuration has none.
@@ -175,9 +178,9 @@ int PrinterDriver::numberSetting(QLatin1StringView keyWord) const
 
 /// The setting, of which `known` keeps the value: few documents ask for it, but those may do so for
 /// every item, and a lookup takes longer the larger the configuration is.
-int PrinterDriver::numberOnce(std::optional<int> &known, QLatin1StringView keyWord) const
+int PrinterDriver::numberOnce(KnownNumber &known, QLatin1StringView keyWord) const
 {
-    if (!known)
-        known = numberSetting(keyWord);
-    return *known;
+    if (!known.number || known.docPath != docPath)
+        known = {docPath, numberSetting(keyWord)};
+    return *known.number;
 }

@@ -39,6 +39,8 @@ public:
     /// encoding of the locale).
     static void tellIncomplete(const QByteArray &reason);
 
+    // The reader's events.
+
     bool startDocument() override;
     bool endDocument() override;
     /// False, which stops the reader, for a `method` element with an unknown name; else true.
@@ -47,7 +49,7 @@ public:
     bool endElement(const QString &namespaceURI, const QString &localName,
                     const QString &qName) override;
 
-    // What a device does.
+    // What a device does: companyprinterdriver.cpp, the rule in itemrows.cpp.
 
     /// Characters in a line of the device's paper: the width of documents that set none.
     virtual unsigned int getPaperWidth() = 0;
@@ -72,7 +74,7 @@ public:
     virtual void println(unsigned int indent, const QString &text) = 0;
     virtual void println(const QString &text) = 0;
 
-    // Command lines for a fiscal printer. They do nothing by default.
+    // Command lines for a fiscal printer, in companyprinterdriver.cpp. They do nothing by default.
 
     /// The discount and payment lines of an element `name`.
     virtual void printRowFiscal(const QString &name, const QXmlAttributes &atts);
@@ -80,9 +82,10 @@ public:
     virtual void printRowFiscal(const QString &department, const QString &quantity,
                                 const QString &description, const QString &price);
 
-    // The top of a document: each prints what one element tells, under its switch.
+    // The top of a document, in documentheaders.cpp: each prints what one element tells, under its
+    // switch.
 
-    /// As many empty lines as the setting `topMargin` says, 1,000 at most.
+    /// As many empty lines as the setting `topMargin` says, MaxTopMargin at most.
     virtual void printGeometry(const QXmlAttributes &atts);
     /// The printer's name, centred, and a separator; what follows stays centred.
     virtual void printPrinterInfo();
@@ -98,14 +101,16 @@ public:
     virtual void printOrderInfo(const QXmlAttributes &atts);
     /// Prints the elements above, which all list documents share; false for any other element.
     virtual bool printSections(const QString &name, const QXmlAttributes &atts);
-    /// The column titles, once in a document: not after oneTime() has been asked.
+    /// The column titles, once in a document: not after oneTime() has been asked. In itemrows.cpp.
     virtual void printColumnsHeader(const QString &a1, const QString &a2, const QString &a3,
                                     const QString &a4);
 
     // The document methods: each prints what one element contributes.
 
+    // In ordertickets.cpp.
     virtual void printPartialOrder(const QString &qName, const QXmlAttributes &atts);
     virtual void printFullOrder(const QString &qName, const QXmlAttributes &atts);
+    // In receipts.cpp.
     virtual void printFullOrderReceipt(const QString &qName, const QXmlAttributes &atts);
     virtual void printFullOrderInvoice(const QString &qName, const QXmlAttributes &atts);
     virtual void printFullOrderDelivery(const QString &qName, const QXmlAttributes &atts);
@@ -114,9 +119,14 @@ public:
     virtual void printAbstractOrderReceipt(const QString &qName, const QXmlAttributes &atts);
     virtual void printAbstractOrderInvoice(const QString &qName, const QXmlAttributes &atts);
     virtual void printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &atts);
+    // In reports.cpp.
     virtual void printReport(const QString &qName, const QXmlAttributes &atts);
+    // In statements.cpp.
     virtual void printSold(const QString &qName, const QXmlAttributes &atts);
     virtual void printStatementOfAccount(const QString &qName, const QXmlAttributes &atts);
+
+    // In printerdriver.cpp, but for the row.
+
     /// Whether the document is to be marked as a duplicate: invoices are.
     virtual bool printDuplicate();
 
@@ -157,31 +167,30 @@ private:
     {
         QString number, description, price, amount;
     };
+    /// A setting as it was under a prefix of keys.
+    struct KnownNumber
+    {
+        QString docPath;
+        std::optional<int> number;
+    };
 
-    const ColumnTitles &columnTitles();
+    // In printerdriver.cpp.
     bool startMethod(const QString &name);
     QString setting(QLatin1StringView keyWord) const;
     int numberSetting(QLatin1StringView keyWord) const;
-    int numberOnce(std::optional<int> &known, QLatin1StringView keyWord) const;
-    void printLabelLine(const QString &label, const QString &value);
-    void printTitledRow(const QString &title, const QString &amount);
-    void printAddress(const QString &address);
+    int numberOnce(KnownNumber &known, QLatin1StringView keyWord) const;
+    // In itemrows.cpp.
+    const ColumnTitles &columnTitles();
     void printPricedItem(const QXmlAttributes &atts, const QString &layout);
     void printItemType(const QXmlAttributes &atts);
+    void printTitledRow(const QString &title, const QString &amount);
+    // In receipts.cpp.
     void printTotal(const QXmlAttributes &atts);
     void printInvoiceTotals(const QXmlAttributes &atts);
-    void printReportTitle(const QString &title);
-    void printDottedLabel(const QString &label);
-    void printDottedLine(const QString &label, const QString &value);
-    void printSerialRange(const QXmlAttributes &atts);
-    void printReportDates(const QXmlAttributes &atts);
-    void printPrefiscalsSummary(const QXmlAttributes &atts);
-    void printReceiptsSummary(const QXmlAttributes &atts);
-    void printInvoicesSummary(const QXmlAttributes &atts);
-    void printCancelledSummary(const QXmlAttributes &atts);
 
-    const DocumentMethod *method = nullptr; ///< the chosen one, by whose name currentMethod goes
+    QString methodName;                     ///< currentMethod, when the method was last needed
+    const DocumentMethod *method = nullptr; ///< the one of that name, or null
     std::optional<ColumnTitles> translatedTitles; ///< once they were needed
-    std::optional<int> topMargin;                 ///< empty lines; once it was asked for
-    std::optional<int> descriptionWidth;          ///< characters; likewise
+    KnownNumber topMargin;                        ///< empty lines
+    KnownNumber descriptionWidth;                 ///< characters
 };

@@ -1,44 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "render/printerdriver.h"
-
 #include "render/rowlayout.h"
 #include "render/vocabulary.h"
 
 using namespace Qt::StringLiterals;
-
-/// The titles are handed over with every item and printed with the first: translating the four
-/// each time would cost more than laying out the item.
-const PrinterDriver::ColumnTitles &PrinterDriver::columnTitles()
-{
-    if (!translatedTitles)
-        translatedTitles = {tr("Num"), tr("Description"), tr("Price"), tr("Amount")};
-    return *translatedTitles;
-}
-
-/// One item of a full document, below the column titles when it is the first.
-void PrinterDriver::printPricedItem(const QXmlAttributes &atts, const QString &layout)
-{
-    const ColumnTitles &titles = columnTitles();
-    printColumnsHeader(titles.number, titles.description, titles.price, titles.amount);
-    println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1),
-                           valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
-                           layout));
-}
-
-/// One item type of an abstract document. Its amount stands in the total column, under "Price".
-void PrinterDriver::printItemType(const QXmlAttributes &atts)
-{
-    const ColumnTitles &titles = columnTitles();
-    printColumnsHeader(titles.number, titles.description, {}, titles.price);
-    println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1), {},
-                           valueOf(atts, "price"_L1), u'.', u"qxdpt"_s));
-}
-
-/// A title and the amount that belongs to it, with dots between them.
-void PrinterDriver::printTitledRow(const QString &title, const QString &amount)
-{
-    println(descriptionRow({}, title, {}, amount, u'.', u"qdpt"_s));
-}
 
 /// The total of a receipt, below an empty line.
 void PrinterDriver::printTotal(const QXmlAttributes &atts)

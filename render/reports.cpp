@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "render/printerdriver.h"
-
 #include "render/rowlayout.h"
 #include "render/vocabulary.h"
 
@@ -27,12 +25,6 @@ constexpr std::array<PaymentRow, 5> paymentRows = {{
     {QT_TRANSLATE_NOOP("PrinterDriver", "Other: "), "other"_L1},
 }};
 
-/// The value of the attribute at `position`, from 0 in document order; empty text past the last.
-QString valueAt(const QXmlAttributes &atts, int position)
-{
-    return position < atts.count() ? atts.value(position) : QString();
-}
-
 /// A row of the tax-rate table; `afterRate` stands between its first two columns.
 QString taxRow(const QString &rate, QLatin1StringView afterRate, const QString &taxable,
                const QString &tax, const QString &amount)
@@ -43,127 +35,157 @@ QString taxRow(const QString &rate, QLatin1StringView afterRate, const QString &
            + u' ' + rightJustified(tax, Money, u' ') + u' ' + rightJustified(amount, Money, u' ');
 }
 
+/// One element of a report, and the device that prints it.
+class Report
+{
+    Q_DECLARE_TR_FUNCTIONS(PrinterDriver)
+
+public:
+    Report(PrinterDriver &device, const QXmlAttributes &atts, qint64 paperWidth)
+        : device(device)
+        , atts(atts)
+        , paperWidth(paperWidth)
+    {
+    }
+
+    void printDates() const
+    {
+        printTitle(tr("SUMMARIES"));
+        device.println(u""_s); // still centred, unlike the empty line below the other titles
+        device.setCharSize();
+        device.print(0, tr("BeginDate: "));
+        device.println(value("begindate"_L1));
+        device.print(0, tr("EndDate: "));
+        device.println(value("enddate"_L1));
+    }
+
+    void printPrefiscals() const
+    {
+        printSummary(tr("PREFISCAL SUMMARY"));
+        printDotted(tr("TOTAL"), value("total"_L1));
+    }
+
+    void printReceipts() const
+    {
+        printSummary(tr("RECEIPTS SUMMARY"));
+        printSerials();
+        for (const PaymentRow &row : paymentRows)
+            device.println(tr(row.label) + value(row.attribute));
+        printDotted(tr("TOTAL"), value("total"_L1));
+        device.println(u""_s);
+        device.printSeparatorLine();
+        device.println(taxRow(tr("TAXRATE"), " "_L1, tr("TAXABLE"), tr("TAX"), tr("AMOUNT")));
+    }
+
+    /// The rate is followed by one character more than in the heading, and the row by a blank.
+    void printTaxRate() const
+    {
+        device.println(taxRow(value("taxrate"_L1), "% "_L1, value("taxable"_L1), value("tax"_L1),
+                              value("amount"_L1))
+                       + u' ');
+    }
+
+    void printInvoices() const
+    {
+        device.printSeparatorLine();
+        device.println(u""_s); // a second empty line stands above the title
+        printSummary(tr("INVOICES SUMMARY"));
+        printSerials();
+        printDotted(tr("Taxable"), value("taxable"_L1));
+        printDotted(tr("Tax"), value("tax"_L1));
+        printDotted(tr("TOTAL"), value("total"_L1));
+    }
+
+    /// The cancelled documents are attributes by position: behind "number" and "totals" stand
+    /// serial, total and tax rate of one document after the other, whatever they are called.
+    void printCancelled() const
+    {
+        constexpr int FirstDocument = 2;
+        constexpr int PerDocument = 3;
+        printSummary(tr("CANCELLED DOC SUMMARY"));
+        printDotted(tr("TOTAL"), value("totals"_L1)); // the plural is this element's own
+        device.setBold();
+        device.println(u""_s);
+        printCancelledRow(tr("SERIAL"), tr("TOTAL"), tr("TAXRATE"));
+        for (int i = FirstDocument; i < atts.count(); i += PerDocument)
+            printCancelledRow(valueAt(i), valueAt(i + 1), valueAt(i + 2));
+    }
+
+private:
+    QString value(QLatin1StringView attribute) const { return valueOf(atts, attribute); }
+    /// The value of the attribute at `position`, from 0 in document order; empty past the last.
+    QString valueAt(int position) const
+    {
+        return position < atts.count() ? atts.value(position) : QString();
+    }
+
+    /// A title in its own centred block, below an empty line that is centred with it.
+    void printTitle(const QString &title) const
+    {
+        device.setBold();
+        device.setCenterJustify();
+        device.println(u""_s);
+        device.println(title);
+    }
+
+    /// The title of a summary, and the number of documents that it sums up.
+    void printSummary(const QString &title) const
+    {
+        printTitle(title);
+        device.setCharSize();
+        device.println(u""_s);
+        printDotted(tr("Number"), value("number"_L1));
+    }
+
+    /// The label with dots up to the value, which begins 15 characters before the end of the paper.
+    void printDots(const QString &label) const
+    {
+        constexpr qint64 ValueWidth = 15; // paper that is narrower leaves no room for dots
+        device.print(0, leftJustified(label, paperWidth - ValueWidth, u'.'));
+    }
+    void printDotted(const QString &label, const QString &text) const
+    {
+        printDots(label);
+        device.println(text);
+    }
+
+    void printSerials() const
+    {
+        printDots(tr("Serials"));
+        device.print(0, value("firstserial"_L1));
+        device.print(0, u" - "_s);
+        device.println(value("lastserial"_L1));
+    }
+
+    void printCancelledRow(const QString &serial, const QString &total, const QString &rate) const
+    {
+        device.print(0, leftJustified(serial, 10, u' '));
+        device.print(0, leftJustified(total, 11, u' '));
+        device.println(leftJustified(rate, 10, u' '));
+    }
+
+    PrinterDriver &device;
+    const QXmlAttributes &atts;
+    const qint64 paperWidth; // characters
+};
+
 } // namespace
 
 void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &atts)
 {
     if (printSections(qName, atts))
         return;
+    const Report report(*this, atts, settings.paperWidth);
     if (qName == element::date)
-        printReportDates(atts);
+        report.printDates();
     else if (qName == element::prefiscalsSummary)
-        printPrefiscalsSummary(atts);
+        report.printPrefiscals();
     else if (qName == element::receiptsSummary)
-        printReceiptsSummary(atts);
+        report.printReceipts();
     else if (qName == element::taxRateItem)
-        // The rate is followed by one character more than in the heading, and the row by a blank.
-        println(taxRow(valueOf(atts, "taxrate"_L1), "% "_L1, valueOf(atts, "taxable"_L1),
-                       valueOf(atts, "tax"_L1), valueOf(atts, "amount"_L1))
-                + u' ');
+        report.printTaxRate();
     else if (qName == element::invoicesSummary)
-        printInvoicesSummary(atts);
+        report.printInvoices();
     else if (qName == element::cancelledSummary)
-        printCancelledSummary(atts);
-}
-
-/// A title in its own centred block, below an empty line that is centred with it.
-void PrinterDriver::printReportTitle(const QString &title)
-{
-    setBold();
-    setCenterJustify();
-    println(u""_s);
-    println(title);
-}
-
-/// The label with dots up to the value, which begins 15 characters before the end of the paper.
-void PrinterDriver::printDottedLabel(const QString &label)
-{
-    constexpr qint64 ValueWidth = 15; // paper that is narrower leaves no room for dots
-    print(0, leftJustified(label, settings.paperWidth - ValueWidth, u'.'));
-}
-
-void PrinterDriver::printDottedLine(const QString &label, const QString &value)
-{
-    printDottedLabel(label);
-    println(value);
-}
-
-void PrinterDriver::printSerialRange(const QXmlAttributes &atts)
-{
-    printDottedLabel(tr("Serials"));
-    print(0, valueOf(atts, "firstserial"_L1));
-    print(0, u" - "_s);
-    println(valueOf(atts, "lastserial"_L1));
-}
-
-void PrinterDriver::printReportDates(const QXmlAttributes &atts)
-{
-    printReportTitle(tr("SUMMARIES"));
-    println(u""_s); // still centred, unlike the empty line below the other titles
-    setCharSize();
-    print(0, tr("BeginDate: "));
-    println(valueOf(atts, "begindate"_L1));
-    print(0, tr("EndDate: "));
-    println(valueOf(atts, "enddate"_L1));
-}
-
-void PrinterDriver::printPrefiscalsSummary(const QXmlAttributes &atts)
-{
-    printReportTitle(tr("PREFISCAL SUMMARY"));
-    setCharSize();
-    println(u""_s);
-    printDottedLine(tr("Number"), valueOf(atts, "number"_L1));
-    printDottedLine(tr("TOTAL"), valueOf(atts, "total"_L1));
-}
-
-void PrinterDriver::printReceiptsSummary(const QXmlAttributes &atts)
-{
-    printReportTitle(tr("RECEIPTS SUMMARY"));
-    setCharSize();
-    println(u""_s);
-    printDottedLine(tr("Number"), valueOf(atts, "number"_L1));
-    printSerialRange(atts);
-    for (const PaymentRow &row : paymentRows)
-        println(tr(row.label) + valueOf(atts, row.attribute));
-    printDottedLine(tr("TOTAL"), valueOf(atts, "total"_L1));
-    println(u""_s);
-    printSeparatorLine();
-    println(taxRow(tr("TAXRATE"), " "_L1, tr("TAXABLE"), tr("TAX"), tr("AMOUNT")));
-}
-
-void PrinterDriver::printInvoicesSummary(const QXmlAttributes &atts)
-{
-    printSeparatorLine();
-    println(u""_s); // a second empty line stands above the title
-    printReportTitle(tr("INVOICES SUMMARY"));
-    setCharSize();
-    println(u""_s);
-    printDottedLine(tr("Number"), valueOf(atts, "number"_L1));
-    printSerialRange(atts);
-    printDottedLine(tr("Taxable"), valueOf(atts, "taxable"_L1));
-    printDottedLine(tr("Tax"), valueOf(atts, "tax"_L1));
-    printDottedLine(tr("TOTAL"), valueOf(atts, "total"_L1));
-}
-
-/// The cancelled documents are attributes by position: behind "number" and "totals" stand serial,
-/// total and tax rate of one document after the other, whatever they are called.
-void PrinterDriver::printCancelledSummary(const QXmlAttributes &atts)
-{
-    constexpr int FirstDocument = 2;
-    constexpr int PerDocument = 3;
-    const auto printRow = [this](const QString &serial, const QString &total, const QString &rate) {
-        print(0, leftJustified(serial, 10, u' '));
-        print(0, leftJustified(total, 11, u' '));
-        println(leftJustified(rate, 10, u' '));
-    };
-    printReportTitle(tr("CANCELLED DOC SUMMARY"));
-    setCharSize();
-    println(u""_s);
-    printDottedLine(tr("Number"), valueOf(atts, "number"_L1));
-    printDottedLine(tr("TOTAL"), valueOf(atts, "totals"_L1)); // the plural is this element's own
-    setBold();
-    println(u""_s);
-    printRow(tr("SERIAL"), tr("TOTAL"), tr("TAXRATE"));
-    for (int i = FirstDocument; i < atts.count(); i += PerDocument)
-        printRow(valueAt(atts, i), valueAt(atts, i + 1), valueAt(atts, i + 2));
+        report.printCancelled();
 }

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "render/printerdriver.h"
-
 #include "render/vocabulary.h"
 
 using namespace Qt::StringLiterals;

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "render/requestreader.h"
+
+#include <QStringDecoder>
+#include <QXmlInputSource>
+
+#include <optional>
+
+class QIODevice;
+
+namespace requestreader {
+
+/// Feeds the reader piece by piece, until the request ends or exceeds a limit. Pieces of 16 KiB,
+/// and the toolkit's decoder in place of a codec where the request is in UTF-8, make reading faster
+/// than the reader alone; any other encoding is left to the toolkit's own way. What the limits
+/// count is told by whoever takes the reader's events.
+class RequestSource : public QXmlInputSource
+{
+public:
+    /// `observer` may be null: nobody follows.
+    RequestSource(QIODevice &request, Observer *observer);
+
+    /// One character for the reader, which asks for nothing else. It does so for every one: what
+    /// is rare stands elsewhere, or this would cost twice as much.
+    QChar next() override
+    {
+        if (at == end) [[unlikely]]
+            return firstOfNextPiece();
+        const QChar c = *at++;
+        return isEndMark(c) ? QChar(EndOfDocument) : c;
+    }
+
+    void setInDocumentType(bool isIn) { inDocumentType = isIn; }
+    void entityDeclared() { entitiesDeclared = true; }
+    /// Of an element: its tag ends with the character taken last.
+    void elementBegan()
+    {
+        elementSeen = true;
+        tell();
+    }
+
+    /// Tells the observer of the text that was taken since.
+    void tell()
+    {
+        if (observer && told != at)
+            observer->taken(QStringView(told, at), utf8);
+        told = at;
+    }
+    /// Tells it that the reading ended early: by the source's own limits, for `otherwise`, or at a
+    /// fault, for which `fault` is the reader's word.
+    void tellStop(std::optional<Stop> otherwise, const QString &fault);
+
+private:
+    static constexpr int PieceBytes = 16 * 1'024;
+
+    /// The reader takes two of Unicode's non-characters for its own marks.
+    static bool isEndMark(QChar c) { return c.unicode() >= 0xFFFE; }
+
+    [[gnu::noinline]] QChar firstOfNextPiece();
+    qint64 readPiece();
+    bool exceedsLimits();
+    void decodePiece(QByteArrayView bytes);
+
+    QIODevice &request;
+    Observer *observer;
+    std::optional<Stop> stop;
+    QByteArray piece;
+    QStringDecoder decodeUtf8{QStringDecoder::Utf8};
+    bool utf8 = false; // of the request, known with its first piece
+    bool ended = false;
+    bool inDocumentType = false;
+    bool entitiesDeclared = false;
+    bool elementSeen = false; // in the present piece
+    qint64 bytesRead = 0;
+    qint64 documentTypeBytes = 0; // of the one being read
+    qsizetype attributes = 0;     // of the element being read, but for its first piece
+    qsizetype references = 0;     // counted where they may be to entities of the request's own
+    QString text;                 // of the present piece
+    QString::const_iterator at = text.cbegin();
+    QString::const_iterator end = text.cend();
+    QString::const_iterator told = at; // up to here the observer knows it
+};
+
+} // namespace requestreader
