@@ -42,8 +42,7 @@ using Configuration = std::unique_ptr<ZTConfiguration>;
 
 Configuration configurationOf(const QByteArray &text)
 {
-    return std::make_unique<ZTConfiguration>(fuzz::write(u"conf"_s, text.data(), text.size()),
-                                             u"cfg"_s);
+    return std::make_unique<ZTConfiguration>(fuzz::write(u"conf"_s, text.data(), text.size()));
 }
 
 Configuration bundled(const char *name)
