@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "tools/window/paperpane.h"
+
+#include "app/syncsingleton.h"
+#include "app/translation.h"
+#include "config/configviews.h"
+#include "render/documentmethod.h"
+#include "tools/preview/difference.h"
+#include "tools/preview/document.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace configtool {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto SamplesFolder = ":/samples/"_L1;
+
+/// The group of the settings that a document method prints with; empty for an unknown method.
+QString groupOfMethod(QStringView name)
+{
+    const DocumentMethod *const method = documentMethod(name);
+    for (const DocumentType &type : documentTypes()) {
+        if (method && type.name == method->settingsType)
+            return QString(type.keyPrefix).section(u'.', 1, 1);
+    }
+    return {};
+}
+
+/// The groups whose settings a request is printed with.
+QStringList groupsOfRequest(const QByteArray &request)
+{
+    QStringList groups;
+    QXmlStreamReader reader(request);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element::method)
+            groups.append(groupOfMethod(reader.attributes().value(u"name"_s)));
+    }
+    groups.removeDuplicates();
+    return groups;
+}
+
+/// Other values to try for a setting.
+QStringList otherValues(const Setting &setting, const QString &value)
+{
+    if (setting.kind == SettingKind::Switch)
+        return {value == "true"_L1 ? u"false"_s : u"true"_s};
+    if (setting.kind != SettingKind::Number)
+        return {};
+    const int number = value.toInt();
+    return {QString::number(number + 1), QString::number(number > 1 ? 1 : number + 2)};
+}
+
+} // namespace
+
+UnsavedConfiguration::UnsavedConfiguration()
+    : ZTConfiguration({}, {})
+{
+    SyncSingleton<ZTConfiguration>::instance_pointer = this;
+}
+
+UnsavedConfiguration::~UnsavedConfiguration()
+{
+    SyncSingleton<ZTConfiguration>::instance_pointer = nullptr;
+}
+
+void UnsavedConfiguration::take(const ConfigTree &tree)
+{
+    readFile({}, {}); // an empty one
+    loadListView(tree.fileItem(), document);
+    const QString present = getStrValue(u"zentaro.language.basedir"_s) + u'\n'
+                            + getStrValue(u"zentaro.language.file"_s);
+    if (present == std::exchange(language, present))
+        return;
+    QCoreApplication::removeTranslator(&translator);
+    if (loadTranslation(translator, *this))
+        QCoreApplication::installTranslator(&translator);
+}
+
+PaperPane::PaperPane(ConfigTree &tree)
+    : tree(tree)
+    , documents(new QComboBox)
+    , widths(new QComboBox)
+    , area(new QScrollArea)
+    , view(new SheetView)
+    , remark(new QLabel)
+{
+    constexpr int MarkedFor = 1'500; // milliseconds
+    fading.setSingleShot(true);
+    fading.setInterval(MarkedFor);
+    connect(&fading, &QTimer::timeout, view, &SheetView::fade);
+    addSamples();
+    for (const int width : {80, 58})
+        widths->addItem(tr("%1 mm").arg(width), width);
+    area->setWidget(view);
+    area->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    area->setBackgroundRole(QPalette::Mid);
+    remark->setWordWrap(true);
+    documents->setAccessibleName(tr("Document"));
+    widths->setAccessibleName(tr("Paper"));
+
+    auto *const choices = new QHBoxLayout;
+    choices->addWidget(documents, 1);
+    choices->addWidget(widths);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addLayout(choices);
+    layout->addWidget(area, 1);
+    layout->addWidget(remark);
+
+    connect(documents, &QComboBox::currentIndexChanged, this, &PaperPane::chooseDocument);
+    connect(widths, &QComboBox::currentIndexChanged, this, &PaperPane::choosePaper);
+    view->chosen = [this](qsizetype row) { explain(size_t(row)); };
+    chooseDocument();
+}
+
+/// The samples, in the order of the methods.
+void PaperPane::addSamples()
+{
+    for (const DocumentMethod &method : documentMethods())
+        documents->addItem(method.name, SamplesFolder + method.name + ".xml"_L1);
+}
+
+void PaperPane::chooseDocument()
+{
+    QFile file(documents->currentData().toString());
+    request = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    groups = groupsOfRequest(request);
+    view->show({});
+    if (tree.fileItem())
+        draw();
+}
+
+QString PaperPane::openRequest(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    if (file.size() > preview::MostBytes)
+        return tr("It has more than 64 MiB.");
+    if (!preview::isRequest(file.readAll()))
+        return tr("It is not a print request.");
+    int index = documents->findData(path);
+    if (index < 0) {
+        index = documents->count();
+        documents->addItem(QFileInfo(path).fileName(), path);
+    }
+    documents->setCurrentIndex(index);
+    return {};
+}
+
+void PaperPane::follow(const QString &group)
+{
+    const bool isSample = documents->currentData().toString().startsWith(SamplesFolder);
+    if (!isSample || groups.contains(group))
+        return;
+    for (int i = 0; i < documents->count(); ++i) {
+        if (groupOfMethod(documents->itemText(i)) == group)
+            return documents->setCurrentIndex(i);
+    }
+}
+
+void PaperPane::choosePaper()
+{
+    view->setPaper({view->paperSize().dpi, widths->currentData().toInt()});
+}
+
+void PaperPane::zoomBy(double factor)
+{
+    constexpr int LeastDpi = 40;
+    constexpr int MostDpi = 400;
+    const preview::PaperSize paper = view->paperSize();
+    view->setPaper({std::clamp(int(paper.dpi * factor), LeastDpi, MostDpi), paper.widthMm});
+}
+
+/// The request as the present settings print it; what is wrong with it stands below the paper.
+std::vector<preview::Row> PaperPane::printed()
+{
+    configuration.take(tree);
+    const preview::Document document = preview::render(request, false);
+    remark->setText(document.fault);
+    return preview::rowsOf(document, 0, preview::MostRows);
+}
+
+void PaperPane::draw()
+{
+    preview::Sheet before = view->rows();
+    preview::Sheet after{{}, printed(), {}};
+    if (!before.rows.empty())
+        preview::markChanges(before, after);
+    view->show(std::move(after));
+    fading.start();
+}
+
+bool PaperPane::shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row)
+{
+    const Setting *const setting = tree.settingOf(item);
+    const QString text = item->text(0);
+    const auto [key, value] = libconfig::settingOf(text);
+    for (const QString &other : setting ? otherValues(*setting, value) : QStringList()) {
+        item->setText(0, libconfig::settingText(key, other));
+        const std::vector<preview::Row> others = printed();
+        item->setText(0, text);
+        const auto pairs = preview::comparedRows(rows, others);
+        if (std::ranges::any_of(pairs, [row](const preview::RowPair &pair) {
+                return pair.before == qsizetype(row) && pair.after < 0;
+            }))
+            return true;
+    }
+    return false;
+}
+
+QList<QTreeWidgetItem *> PaperPane::settingsShaping(size_t row)
+{
+    const QSignalBlocker silence(&tree);
+    const std::vector<preview::Row> rows = printed();
+    QList<QTreeWidgetItem *> shaping;
+    for (const QString &name : std::as_const(groups)) {
+        const QTreeWidgetItem *const group = tree.groupOf(name);
+        for (int i = 0; group && i < group->childCount(); ++i) {
+            if (shapes(group->child(i), rows, row))
+                shaping.append(group->child(i));
+        }
+    }
+    configuration.take(tree);
+    return shaping;
+}
+
+/// Shows the settings that shape a row.
+void PaperPane::explain(size_t row)
+{
+    const QList<QTreeWidgetItem *> items = settingsShaping(row);
+    tree.shade(items);
+    QStringList names;
+    for (QTreeWidgetItem *const item : items) {
+        names.append(libconfig::settingOf(item->text(0)).first);
+        tree.scrollToItem(item);
+    }
+    remark->setText(names.isEmpty() ? tr("No setting in the file shapes this line.")
+                                    : tr("This line is shaped by: %1").arg(names.join(u", "_s)));
+}
+
+} // namespace configtool

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/ztconfiguration.h"
+#include "tools/window/configtree.h"
+#include "tools/window/sheetpainter.h"
+
+#include <QTimer>
+#include <QTranslator>
+
+#include <memory>
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QScrollArea;
+
+namespace configtool {
+
+/// A sheet on the screen, of which a row can be chosen: by a click, or by the arrow keys and Enter.
+class SheetView : public QWidget
+{
+public:
+    SheetView();
+
+    /// Shows other rows, those marked that are `changed`.
+    void show(preview::Sheet shown);
+    /// Shows the rows without marks.
+    void fade();
+    void setPaper(const preview::PaperSize &size);
+
+    const preview::Sheet &rows() const { return sheet; }
+    preview::PaperSize paperSize() const { return paper; }
+
+    /// Told of the row that is chosen.
+    std::function<void(qsizetype row)> chosen = [](qsizetype) {};
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void measure();
+    void setCurrent(qsizetype row);
+
+    preview::Sheet sheet;
+    preview::PaperSize paper{96, 80};
+    std::optional<preview::SheetPainter> painter; // of the sheet
+    qsizetype current = -1;
+};
+
+/// The configuration as it stands in a window, unsaved: what the print run asks.
+class UnsavedConfiguration : public ZTConfiguration
+{
+public:
+    UnsavedConfiguration();
+    UnsavedConfiguration(const UnsavedConfiguration &) = delete;
+    UnsavedConfiguration &operator=(const UnsavedConfiguration &) = delete;
+    ~UnsavedConfiguration() override;
+
+    void take(const ConfigTree &tree);
+
+private:
+    QTranslator translator;
+    QString language; // of the translator
+};
+
+/// A document on paper, printed with the settings as they stand in the tree.
+class PaperPane : public QWidget
+{
+    Q_DECLARE_TR_FUNCTIONS(PaperPane)
+
+public:
+    /// The tree is borrowed.
+    explicit PaperPane(ConfigTree &tree);
+
+    /// Draws the document anew, with the rows marked for a moment that have changed.
+    void draw();
+    /// Shows a sample with the settings of the group, where the present one has others.
+    void follow(const QString &group);
+    /// Shows a request of the person's own. Answers why it cannot, or an empty text.
+    QString openRequest(const QString &path);
+    void zoomBy(double factor);
+    /// The settings of which another value prints the row otherwise.
+    QList<QTreeWidgetItem *> settingsShaping(size_t row);
+
+private:
+    void addSamples();
+    void chooseDocument();
+    void choosePaper();
+    void explain(size_t row);
+    std::vector<preview::Row> printed();
+    bool shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row);
+
+    ConfigTree &tree;
+    UnsavedConfiguration configuration;
+    QByteArray request;
+    QStringList groups; // whose settings print the request
+    QComboBox *const documents;
+    QComboBox *const widths;
+    QScrollArea *const area;
+    SheetView *const view;
+    QLabel *const remark;
+    QTimer fading; // of the marks
+};
+
+} // namespace configtool
