@@ -5,6 +5,7 @@
 #include "tools/config/losses.h"
 #include "tools/config/settingcheck.h"
 #include "tools/terminal.h"
+#include "tools/window/paperpane.h"
 #include "tools/window/settingpane.h"
 
 #include <QCloseEvent>
@@ -104,6 +105,7 @@ bool ConfigEditor::open(const Source &file)
     tree->take(std::move(item));
     nameFile(file);
     listFindings();
+    paper->draw();
     tree->setFocus();
     return true;
 }
@@ -131,6 +133,15 @@ void ConfigEditor::chooseTarget()
     const QString path = QFileDialog::getSaveFileName(this, tr("Save As"), source.path);
     if (!path.isEmpty())
         saveTo({path, formatOf(path)});
+}
+
+void ConfigEditor::chooseRequest()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open a Print Request"));
+    if (path.isEmpty())
+        return;
+    if (const QString fault = paper->openRequest(path); !fault.isEmpty())
+        refuse(tr("%1 cannot be shown.").arg(path), fault);
 }
 
 bool ConfigEditor::saveTo(const Source &target)
@@ -196,6 +207,7 @@ void ConfigEditor::treeChanged()
 {
     listed = {};
     pause.start();
+    drawing.start();
     showSetting();
 }
 
@@ -245,6 +257,8 @@ void ConfigEditor::currentChanged()
 {
     ++session;
     showSetting();
+    if (const QTreeWidgetItem *const item = tree->currentItem())
+        paper->follow(libconfig::isGroupItem(*item) ? item->text(0) : item->parent()->text(0));
 }
 
 /// Shows the current item's value and what it is for.

@@ -18,10 +18,12 @@ class QListWidget;
 
 namespace configtool {
 
+class PaperPane;
 class SettingPane;
 
 /// The window in which a configuration is edited: its tree with a search field above it, what the
-/// current setting is for and an editor that fits it, and what is wrong, as one types.
+/// current setting is for and an editor that fits it, what is wrong, and a document as it would be
+/// printed, as one types.
 class ConfigEditor : public QMainWindow
 {
     Q_DECLARE_TR_FUNCTIONS(ConfigEditor)
@@ -54,12 +56,14 @@ private:
     void buildWindow();
     void buildFileMenu();
     void buildEditMenu();
+    void buildPaperMenu();
     QAction *addEntry(QMenu *menu, const QString &text, QStyle::StandardPixmap icon,
                       const QKeySequence &shortcut, const std::function<void()> &run);
 
     bool refuse(const QString &text, const QString &details);
     void chooseFile();
     void chooseTarget();
+    void chooseRequest();
     bool confirmLeaving();
     bool confirmLosses(const QString &format);
     bool confirmReplacing(const Source &target);
@@ -80,6 +84,7 @@ private:
     QLineEdit *const searchLine;
     ConfigTree *const tree;
     SettingPane *const setting;
+    PaperPane *const paper;
     QLabel *const hint; ///< what to do with an empty tree, or a file that cannot be written
     QLabel *const findingsTitle;
     QListWidget *const findings;
@@ -87,6 +92,7 @@ private:
     int session = 0;    ///< counts the settings that have been shown
     TreeOutline listed; ///< what the findings are about; empty when it has changed since
     QTimer pause;       ///< after a change, before the findings are listed
+    QTimer drawing;     ///< draws the paper when all of a change is there
     Ask ask;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/window/configeditor.h"
 
+#include "tools/window/paperpane.h"
 #include "tools/window/settingpane.h"
 
 #include <QAction>
@@ -20,6 +21,7 @@ ConfigEditor::ConfigEditor()
     : searchLine(new QLineEdit)
     , tree(new ConfigTree)
     , setting(new SettingPane)
+    , paper(new PaperPane(*tree))
     , hint(new QLabel)
     , findingsTitle(new QLabel)
     , findings(new QListWidget)
@@ -33,11 +35,15 @@ ConfigEditor::ConfigEditor()
     constexpr int Pause = 150; // milliseconds
     pause.setSingleShot(true);
     pause.setInterval(Pause);
+    drawing.setSingleShot(true);
+    drawing.setInterval(0);
     buildWindow();
     buildFileMenu();
     buildEditMenu();
+    buildPaperMenu();
 
     connect(&pause, &QTimer::timeout, this, &ConfigEditor::listFindings);
+    connect(&drawing, &QTimer::timeout, paper, &PaperPane::draw);
     connect(&tree->changes, &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
     connect(tree, &QTreeWidget::currentItemChanged, this, &ConfigEditor::currentChanged);
@@ -74,11 +80,16 @@ void ConfigEditor::buildWindow()
 
     auto *const center = new QWidget;
     auto *const layout = new QVBoxLayout(center);
+    auto *const columns = new QSplitter;
+    columns->addWidget(halves);
+    columns->addWidget(paper);
+    columns->setStretchFactor(0, 1);
+    columns->setStretchFactor(1, 1);
     layout->addWidget(searchLine);
     layout->addWidget(hint);
-    layout->addWidget(halves, 1);
+    layout->addWidget(columns, 1);
     setCentralWidget(center);
-    resize(1'040, 720);
+    resize(1'040, 760);
 }
 
 void ConfigEditor::buildFileMenu()
@@ -137,6 +148,18 @@ void ConfigEditor::buildEditMenu()
             findings->setCurrentRow((findings->currentRow() + 1) % findings->count());
     });
     findChild<QToolBar *>()->addActions({undo, redo, ofItems[0], ofItems[1], ofItems[5]});
+}
+
+void ConfigEditor::buildPaperMenu()
+{
+    constexpr double Step = 1.25;
+    QMenu *const menu = menuBar()->addMenu(tr("&Paper"));
+    addEntry(menu, tr("Open a &Print Request…"), QStyle::SP_DialogOpenButton,
+             QKeySequence(u"Ctrl+P"_s), [this] { chooseRequest(); });
+    addEntry(menu, tr("Zoom &In"), QStyle::SP_ArrowUp, QKeySequence::ZoomIn,
+             [this] { paper->zoomBy(Step); });
+    addEntry(menu, tr("Zoom &Out"), QStyle::SP_ArrowDown, QKeySequence::ZoomOut,
+             [this] { paper->zoomBy(1 / Step); });
 }
 
 QAction *ConfigEditor::addEntry(QMenu *menu, const QString &text, QStyle::StandardPixmap icon,

@@ -6,6 +6,7 @@
 #include "tools/window/picturefile.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <cstdlib>
 #include <unistd.h>
@@ -29,6 +30,7 @@ int edit(const tools::Call &call, const configtool::Source &source)
     qInstallMessageHandler(endWhenFatal);
     const QApplication application(call.argc, call.argv);
     QGuiApplication::setDesktopFileName(u"zentaro-config-edit"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/zentaro.svg"_s));
     configtool::ConfigEditor editor;
     if (!editor.open(source))
         return tools::Trouble;

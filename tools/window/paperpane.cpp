@@ -4,7 +4,8 @@
 #include "app/syncsingleton.h"
 #include "app/translation.h"
 #include "config/configviews.h"
-#include "render/documentmethod.h"
+#include "render/vocabulary.h"
+#include "text/standardoutput.h"
 #include "tools/preview/difference.h"
 #include "tools/preview/document.h"
 
@@ -129,7 +130,7 @@ PaperPane::PaperPane(ConfigTree &tree)
 /// The samples, in the order of the methods.
 void PaperPane::addSamples()
 {
-    for (const DocumentMethod &method : documentMethods())
+    for (const DocumentMethod &method : documentMethods)
         documents->addItem(method.name, SamplesFolder + method.name + ".xml"_L1);
 }
 
@@ -188,6 +189,7 @@ void PaperPane::zoomBy(double factor)
 /// The request as the present settings print it; what is wrong with it stands below the paper.
 std::vector<preview::Row> PaperPane::printed()
 {
+    const text::LineSink quiet(text::LineSink::drop); // the remark tells
     configuration.take(tree);
     const preview::Document document = preview::render(request, false);
     remark->setText(document.fault);

@@ -45,7 +45,7 @@ private:
     void setCurrent(qsizetype row);
 
     preview::Sheet sheet;
-    preview::PaperSize paper{96, 80};
+    preview::PaperSize paper{128, 80};
     std::optional<preview::SheetPainter> painter; // of the sheet
     qsizetype current = -1;
 };
@@ -57,7 +57,7 @@ public:
     UnsavedConfiguration();
     UnsavedConfiguration(const UnsavedConfiguration &) = delete;
     UnsavedConfiguration &operator=(const UnsavedConfiguration &) = delete;
-    ~UnsavedConfiguration() override;
+    ~UnsavedConfiguration();
 
     void take(const ConfigTree &tree);
 

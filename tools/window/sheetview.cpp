@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollArea>
 
 namespace configtool {
 
@@ -52,6 +53,9 @@ void SheetView::setCurrent(qsizetype row)
 {
     current = row;
     update();
+    const int height = 2 * painter->cellWidth();
+    if (auto *const area = qobject_cast<QScrollArea *>(parentWidget()->parentWidget()))
+        area->ensureVisible(0, int(row) * height, 0, 2 * height);
 }
 
 void SheetView::mousePressEvent(QMouseEvent *event)
