@@ -105,9 +105,12 @@ QString findingsAsJson(const std::vector<FileFindings> &files)
             array.append(QJsonObject{{u"file"_s, file.fileName},
                                      {u"line"_s, finding.at.line},
                                      {u"column"_s, finding.at.column},
+                                     {u"endLine"_s, finding.end.line},
+                                     {u"endColumn"_s, finding.end.column},
                                      {u"severity"_s, severityName(finding.severity)},
                                      {u"code"_s, finding.code},
-                                     {u"message"_s, finding.text}});
+                                     {u"message"_s, finding.text},
+                                     {u"suggestion"_s, finding.suggestion}});
     }
     return QString::fromUtf8(QJsonDocument(array).toJson());
 }

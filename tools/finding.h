@@ -25,6 +25,8 @@ struct Finding
     QString text;
     Place at;
     qsizetype subject = -1; ///< what it is about, as the checker counts its things; -1: the file
+    Place end{};            ///< behind what it is about; line 0 where that is not known
+    QString suggestion{};   ///< what should stand there; empty where nobody knows
 };
 
 /// The most findings of a code that are listed.
@@ -59,7 +61,7 @@ QLatin1StringView severityName(Severity severity);
 /// none.
 QString findingLines(const QString &fileName, const std::vector<Finding> &findings);
 /// A JSON array (which is UTF-8 whatever the locale) of objects with the members file, line,
-/// column, severity, code and message.
+/// column, endLine, endColumn, severity, code, message and suggestion.
 QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings);
 
 /// The findings about one file of several.

@@ -5,12 +5,43 @@
 #include "tools/nearest.h"
 #include "tools/terminal.h"
 
+#include <QTextCodec>
+
 #include <algorithm>
 #include <array>
 
 namespace requestcheck {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first names, and how many others there are.
+QString someOf(const std::vector<QString> &names)
+{
+    constexpr qsizetype Most = 4;
+    const QStringList all(names.begin(), names.end());
+    const qsizetype rest = all.size() - Most;
+    return u'`' + all.first(qMin(Most, all.size())).join("`, `"_L1) + u'`'
+           + (rest > 0 ? " and %1 more"_L1.arg(QString::number(rest)) : QString());
+}
+
+/// Attributes of name spaces are read by others.
+bool isOfNameSpace(QStringView attribute)
+{
+    return attribute.contains(u':');
+}
+
+bool hasPlainAttributes(const QXmlAttributes &atts)
+{
+    for (int i = 0; i < atts.count(); ++i) {
+        if (!isOfNameSpace(atts.qName(i)))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &findings,
                                bool isConfigured)
@@ -27,12 +58,13 @@ CheckingDevice::~CheckingDevice()
     stream.reset(); // before the text that it writes to
 }
 
-void CheckingDevice::tell(Code code, const QString &text, tools::Place at)
+void CheckingDevice::tell(Code code, const QString &text, const Range &at,
+                          const QString &suggestion)
 {
-    findings.add(finding(code, text, at));
+    findings.add(finding(code, text, at, suggestion));
 }
 
-tools::Place CheckingDevice::placeOf(QLatin1StringView attribute) const
+Range CheckingDevice::placeOf(QLatin1StringView attribute) const
 {
     return places.attribute(current.atts.index(attribute));
 }
@@ -40,8 +72,12 @@ tools::Place CheckingDevice::placeOf(QLatin1StringView attribute) const
 bool CheckingDevice::startElement(const QString &namespaceURI, const QString &localName,
                                   const QString &qName, const QXmlAttributes &atts)
 {
-    if (++depth == 1)
-        root = places.tag();
+    unlessGroup.reset(); // it groups this one
+    if (root.begin.line == 0) {
+        root = places.range();
+        checkDeclaration();
+    }
+    open.push_back({qName, places.tag().line});
     current = {qName, atts, nullptr};
     hasPrinted = false;
     if (qName == element::method) {
@@ -59,16 +95,23 @@ bool CheckingDevice::startElement(const QString &namespaceURI, const QString &lo
 bool CheckingDevice::endElement(const QString &namespaceURI, const QString &localName,
                                 const QString &qName)
 {
-    --depth;
+    finish();
+    open.pop_back();
     return CompanyPrinterDriver::endElement(namespaceURI, localName, qName);
+}
+
+void CheckingDevice::finish()
+{
+    if (unlessGroup)
+        findings.add(*std::exchange(unlessGroup, std::nullopt));
 }
 
 bool CheckingDevice::skippedEntity(const QString &name)
 {
-    tools::Place at = places.last(); // its semicolon
-    at.column -= name.size() + 1;
+    const tools::Place last = places.last(); // its semicolon
     tell("unknown-entity",
-         tools::excerpt(u'&' + name + u';') + " is not declared, and prints nothing"_L1, at);
+         tools::excerpt(u'&' + name + u';') + " is not declared, and prints nothing"_L1,
+         {{last.line, last.column - name.size() - 1}, {last.line, last.column + 1}});
     return CompanyPrinterDriver::skippedEntity(name);
 }
 
@@ -76,32 +119,60 @@ bool CheckingDevice::endDocument()
 {
     if (method < 0)
         tell("no-method", u"the request has no `method` element, and prints nothing"_s, root);
+    checkComplete();
     return CompanyPrinterDriver::endDocument();
+}
+
+/// The encoding that the XML declaration names.
+void CheckingDevice::checkDeclaration()
+{
+    const QString &head = places.head();
+    const qsizetype word = head.indexOf("encoding"_L1);
+    const qsizetype end = head.indexOf("?>"_L1);
+    if (!head.startsWith("<?xml"_L1) || word < 0 || word > end)
+        return;
+    const auto isQuote = [](QChar c) { return c == u'"' || c == u'\''; };
+    const auto *const begin = std::find_if(head.begin() + word, head.begin() + end, isQuote) + 1;
+    const qsizetype at = begin - head.begin();
+    const QString name = head.mid(at, head.indexOf(head[at - 1], at) - at);
+    if (name.startsWith("utf"_L1, Qt::CaseInsensitive))
+        return;
+    requestCodec = QTextCodec::codecForName(name.toLatin1());
+    if (requestCodec)
+        return;
+    const qint64 column = at - head.lastIndexOf(u'\n', at);
+    const qint64 line = 1 + QStringView(head).first(at).count(u'\n');
+    tell("unknown-encoding",
+         "nobody knows the encoding "_L1 + tools::excerpt(name)
+             + ": the request is read as UTF-8"_L1,
+         {{line, column}, {line, column + name.size()}});
 }
 
 bool CheckingDevice::startMethod(const QXmlAttributes &atts)
 {
     const QString name = valueOf(atts, "name"_L1);
-    constexpr auto &methods = documentMethods;
     const DocumentMethod *const chosen = documentMethod(name);
     if (!chosen) {
         std::vector<QString> names;
-        for (const DocumentMethod &other : methods)
+        for (const DocumentMethod &other : documentMethods)
             names.push_back(other.name);
         tell("unknown-method",
              (atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
                                         : "unknown method "_L1 + tools::excerpt(name))
-                 + tools::suggestion(name, names) + ": the print run stops here"_L1,
-             placeOf("name"_L1));
+                 + ": the print run stops here"_L1,
+             placeOf("name"_L1), tools::nearest(name, names));
         return false;
     }
     if (method >= 0)
-        tell("second-method", u"a second `method`, which opens another section"_s, places.tag());
-    method = chosen - methods.data();
+        tell("second-method", u"a second `method`, which opens another section"_s, places.range());
+    checkComplete();
+    method = chosen - documentMethods.data();
+    methodTag = places.range();
+    seenRoles.clear();
     knownElements = elementsOf(method);
     if (knownElements.empty())
         tell("prints-nothing", u'`' + name + "` prints nothing, whatever the request holds"_L1,
-             places.tag());
+             methodTag);
     current.row = &methodElement();
     for (int i = 0; i < atts.count(); ++i) {
         if (fateOf(*current.row, atts, i, settings) == Fate::Unread)
@@ -110,49 +181,115 @@ bool CheckingDevice::startMethod(const QXmlAttributes &atts)
     return true;
 }
 
+/// Whether the document that ends has what it is for.
+void CheckingDevice::checkComplete()
+{
+    const auto check = [this](Role role, Code code, QLatin1StringView what) {
+        const QString name = method < 0 ? QString() : elementWith(role, method);
+        if (!name.isEmpty() && !seenRoles.contains(role))
+            tell(code, what + ": no `"_L1 + name + "` is printed"_L1, methodTag);
+    };
+    check(Role::Item, "no-items", "the document has no items"_L1);
+    check(Role::Total, "no-total", "the document has no total"_L1);
+}
+
 void CheckingDevice::checkElement()
 {
-    const bool isRoot = depth == 1;
+    const bool isRoot = open.size() == 1;
     if (method >= 0) {
         current.row = elementRow(current.name, method);
         if (current.row)
             checkAttributes();
         else if (!knownElements.empty())
             checkUnknownElement();
-    } else if (const bool isKnown = isKnownElement(current.name); !isRoot || isKnown) {
-        const std::array method = {element::method.toString()};
-        tell("before-method",
-             tools::excerpt(current.name)
-                 + " stands before the `method` element and prints nothing"_L1
-                 + (isKnown ? QString() : tools::suggestion(current.name, method)),
-             places.tag());
+        return;
     }
+    const std::array methodName = {element::method.toString()};
+    const bool isKnown = isKnownElement(current.name);
+    const QString meant = isKnown ? QString() : tools::nearest(current.name, methodName);
+    if (isRoot && !isKnown)
+        return;
+    const tools::Finding early = finding(
+        "before-method",
+        tools::excerpt(current.name) + " stands before the `method` element and prints nothing"_L1,
+        places.range(), meant);
+    if (isKnown || !meant.isEmpty() || hasPlainAttributes(current.atts))
+        findings.add(early);
+    else
+        unlessGroup = early;
+}
+
+/// What a name that the document does not read stands for: the nearest that it reads, or what has
+/// the same role in it. Empty where nothing is near.
+QString CheckingDevice::meantElement() const
+{
+    std::vector<QString> names = knownElements;
+    for (const ElementRow &row : elementRows()) {
+        if (row.role != Role::Other && !elementWith(row.role, method).isEmpty())
+            names.push_back(row.element.toString());
+    }
+    const bool isElsewhere = isKnownElement(current.name);
+    const QString near = tools::nearest(current.name, names);
+    if (elementRow(near, method))
+        return isElsewhere && near != current.name ? QString() : near;
+    const auto rows = elementRows();
+    const auto row = std::ranges::find_if(rows, [&near](const ElementRow &other) {
+        return other.element == near && other.role != Role::Other;
+    });
+    return row == rows.end() ? QString() : elementWith(row->role, method);
 }
 
 void CheckingDevice::checkUnknownElement()
 {
-    Code code = "unknown-element";
-    tell(code,
-         findings.isFull(code.name)
-             ? QString()
-             : tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`'
-                   + tools::suggestion(current.name, knownElements),
-         places.tag());
+    const Code code = "unknown-element";
+    if (findings.isFull(code.name)) {
+        tell(code, {}, {});
+        return;
+    }
+    const QString meant = meantElement();
+    const std::vector<QString> readers = documentsWith(current.name);
+    QString text = tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`';
+    if (!readers.empty())
+        text += ": it is read in "_L1 + someOf(readers);
+    else if (meant.isEmpty())
+        text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
+    const tools::Finding unknown = finding(code, text, places.range(), meant);
+    if (readers.empty() && meant.isEmpty() && !hasPlainAttributes(current.atts))
+        unlessGroup = unknown;
+    else
+        findings.add(unknown);
+}
+
+/// The printer's name, which `headers` prints.
+void CheckingDevice::checkPrinter()
+{
+    if (current.name == element::printers)
+        printer = placeOf("name"_L1);
+    else if (current.name == element::headers && printer.begin.line == 0)
+        tell("no-printer",
+             u"`headers` prints the printer's name, which no `printers` before it gives"_s,
+             places.range());
 }
 
 void CheckingDevice::checkAttributes()
 {
     const ElementRow &row = *current.row;
+    checkPrinter();
     if (row.rest == Rest::Ignored) {
-        if (current.atts.count() > 0)
+        if (hasPlainAttributes(current.atts))
             tell("prints-nothing",
                  u'`' + current.name + "` prints nothing in `"_L1 + currentMethod
                      + "`, its payments included"_L1,
-                 places.tag());
+                 places.range());
         return;
     }
+    if (row.isHidden(current.atts))
+        tell("hidden-item", u"an item whose name begins with `=` is not printed"_s,
+             placeOf("name"_L1));
+    else
+        seenRoles.insert(row.role);
     if (isOff(row.onlyIf))
-        tellSwitchedOff(row.onlyIf, current.name, places.tag());
+        tellSwitchedOff(row.onlyIf, current.name, places.range());
     for (int i = 0; i < current.atts.count(); ++i)
         checkAttribute(i);
     checkMissing();
@@ -185,21 +322,27 @@ void CheckingDevice::checkAttribute(int position)
 void CheckingDevice::tellUnread(int position)
 {
     const QString name = current.atts.qName(position);
-    const tools::Place at = places.attribute(position);
+    const Range at = places.attribute(position);
     if (current.row->find(name)) {
         tell("duplicate-attribute",
              "a second `"_L1 + name + "` in `"_L1 + current.name + "` is not read"_L1, at);
         return;
     }
-    std::vector<QString> names;
-    if (!findings.isFull(Code("unknown-attribute").name)) {
-        for (const AttributeUse &use : current.row->attributes)
-            names.push_back(use.name);
+    if (isOfNameSpace(name))
+        return;
+    const Code code = "unknown-attribute";
+    if (findings.isFull(code.name)) {
+        tell(code, {}, {});
+        return;
     }
-    tell("unknown-attribute",
-         u'`' + current.name + "` does not read "_L1 + tools::excerpt(name)
-             + tools::suggestion(name, names),
-         at);
+    std::vector<QString> names;
+    for (const AttributeUse &use : current.row->attributes)
+        names.push_back(use.name);
+    const QString meant = tools::nearest(name, names);
+    QString text = u'`' + current.name + "` does not read "_L1 + tools::excerpt(name);
+    if (meant.isEmpty())
+        text += names.empty() ? ", nor any other"_L1 : QString(", but "_L1 + someOf(names));
+    tell(code, text, at, meant);
 }
 
 bool CheckingDevice::isOff(bool DocumentSettings::*aSwitch) const
@@ -209,7 +352,7 @@ bool CheckingDevice::isOff(bool DocumentSettings::*aSwitch) const
 
 /// Once for a switch.
 void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
-                                     tools::Place at)
+                                     const Range &at)
 {
     const auto switches = switchSettings();
     const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
@@ -231,7 +374,7 @@ void CheckingDevice::checkMissing()
         const auto instead = use.column == Column::Sign ? "`-`"_L1 : "empty"_L1;
         tell("missing-attribute",
              u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints "_L1 + instead,
-             places.tag());
+             places.range());
     }
 }
 

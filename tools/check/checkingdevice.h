@@ -6,7 +6,10 @@
 #include "tools/check/requestcheck.h"
 #include "tools/check/tagplaces.h"
 
+#include <optional>
 #include <set>
+
+class QTextCodec;
 
 namespace requestcheck {
 
@@ -15,10 +18,24 @@ namespace requestcheck {
 class CheckingDevice : public CompanyPrinterDriver
 {
 public:
+    /// An element whose end was not read.
+    struct OpenElement
+    {
+        QString name;
+        qint64 line;
+    };
+
     /// `places` follows the same reading. Without a configuration, what switches leave away is not
     /// told: they are all off.
     CheckingDevice(const TagPlaces &places, tools::FindingStore &findings, bool isConfigured);
     ~CheckingDevice() override;
+
+    /// The innermost one; null outside the root.
+    const OpenElement *openElement() const { return open.empty() ? nullptr : &open.back(); }
+    /// Tells what is left where the reading ends early.
+    void finish();
+    /// The root's tag; line 0 before it.
+    tools::Place rootTag() const { return root.begin; }
 
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
                       const QXmlAttributes &atts) override;
@@ -30,6 +47,7 @@ public:
     void println(unsigned int indent, const QString &text) override;
     using CompanyPrinterDriver::println;
     void printSeparatorLine() override;
+    void printPrinterInfo() override;
     void printRowFiscal(const QString &department, const QString &quantity,
                         const QString &description, const QString &price) override;
     using CompanyPrinterDriver::printRowFiscal;
@@ -43,27 +61,35 @@ private:
         const ElementRow *row = nullptr; ///< null: the method does not react to it
     };
 
-    void tell(Code code, const QString &text, tools::Place at);
-    tools::Place placeOf(QLatin1StringView attribute) const;
+    void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {});
+    Range placeOf(QLatin1StringView attribute) const;
     bool isOff(bool DocumentSettings::*aSwitch) const; ///< not for null, which is no switch
 
+    void checkDeclaration();
     bool startMethod(const QXmlAttributes &atts);
     void checkElement();
     void checkUnknownElement();
+    QString meantElement() const;
+    void checkComplete();
+    void checkPrinter();
     // The attributes against the table.
     void checkAttributes();
     void checkAttribute(int position);
     void tellUnread(int position);
-    void tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what, tools::Place at);
+    void tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what, const Range &at);
     void checkMissing();
     void checkTriples();
     // The value of a printed attribute.
     void checkValue(int position);
-    void checkCharacters(const QString &value, const QString &name, tools::Place at);
-    void checkEncoding(const QString &value, const QString &name, tools::Place at);
-    void checkAddress(const QString &value, const QString &name, tools::Place at);
+    void checkCharacters(const QString &value, const QString &name, const Range &at);
+    void checkEncoding(const QString &value, const QString &name, const Range &at);
+    void checkColumns(const QString &value, const QString &name, const Range &at);
+    void checkAddress(const QString &value, const QString &name, const Range &at);
+    void checkSign(const QString &value, const Range &at);
+    void checkType(const QString &value, const Range &at);
     // The paper.
     void checkLine(const QString &text, qsizetype pad);
+    int longestIn(const QString &text) const;
     void tellTooLong(const QString &text, qsizetype excess);
     void checkDescription();
     void tellCut(QLatin1StringView attribute, const QString &lost);
@@ -72,13 +98,19 @@ private:
     const TagPlaces &places;
     tools::FindingStore &findings;
     const bool isConfigured;
-    QString paper;           // what was written since it was last looked at
-    QString lastLine;        // printed for the element, without its frame
-    bool hasPrinted = false; // the element
+    QTextCodec *requestCodec = nullptr; // of eight bits, which the request names; null: another
+    QString paper;                      // what was written since it was last looked at
+    QString lastLine;                   // printed for the element, without its frame
+    bool hasPrinted = false;            // the element
     bool isRule = false;
-    int depth = 0;
-    tools::Place root;
-    qsizetype method = -1;              // the chosen one's place in documentMethods
+    bool isPrinterName = false;
+    std::vector<OpenElement> open;
+    std::optional<tools::Finding> unlessGroup; // about the innermost, unless it groups others
+    Range root;
+    Range printer;                      // where its name stands; line 0 before it
+    Range methodTag;                    // of the chosen one
+    qsizetype method = -1;              // its place in documentMethods
+    std::set<Role> seenRoles;           // in its document
     std::vector<QString> knownElements; // of the method
     std::set<QString> toldSwitches;     // by their keys
     Element current;

@@ -311,6 +311,23 @@ bool isKnownElement(QStringView element)
     return std::ranges::find(rows, element, &ElementRow::element) != rows.end();
 }
 
+QString elementWith(Role role, qsizetype method)
+{
+    const auto *const found = std::ranges::find_if(
+        rows, [&](const ElementRow &row) { return reads(row, method) && row.role == role; });
+    return found == rows.end() ? QString() : found->element.toString();
+}
+
+std::vector<QString> documentsWith(QStringView element)
+{
+    std::vector<QString> names;
+    for (size_t i = 0; i < documentMethods.size(); ++i) {
+        if (elementRow(element, qsizetype(i)))
+            names.push_back(documentMethods[i].name);
+    }
+    return names;
+}
+
 QLatin1StringView summaryOf(qsizetype method)
 {
     return summaries.at(size_t(method));

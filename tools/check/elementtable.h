@@ -84,6 +84,10 @@ const ElementRow *elementRow(QStringView element, qsizetype method);
 const ElementRow &methodElement();
 /// The elements that a method reacts to, those of the top of a document first.
 std::vector<QString> elementsOf(qsizetype method);
+/// The first element that has the role in a document; empty without one.
+QString elementWith(Role role, qsizetype method);
+/// The names of the documents that read the element.
+std::vector<QString> documentsWith(QStringView element);
 /// What a document is, in half a sentence.
 QLatin1StringView summaryOf(qsizetype method);
 /// Whether any method reacts to the element.

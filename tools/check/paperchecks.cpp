@@ -3,11 +3,13 @@
 
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
+#include "tools/preview/cells.h"
 #include "tools/terminal.h"
 
 #include <QTextCodec>
 
 #include <algorithm>
+#include <cmath>
 
 namespace requestcheck {
 
@@ -71,17 +73,11 @@ bool isAscii(QStringView text)
     return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
 }
 
-/// The first character of the text that the codec writes as `?`; empty without one.
-QString firstUnknown(QStringView text, QTextCodec *codec)
+/// The first of the characters that `is`; 0 where none is.
+char32_t firstOf(const preview::Cells &characters, auto &&is)
 {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size();
-        const QStringView character = text.sliced(i, isPair ? 2 : 1);
-        i += isPair ? 1 : 0;
-        if (!isAscii(character) && text::encoded(character, codec) == "?")
-            return character.toString();
-    }
-    return {};
+    const auto found = std::ranges::find_if(characters, is);
+    return found == characters.end() ? 0 : *found;
 }
 
 } // namespace
@@ -92,15 +88,20 @@ void CheckingDevice::checkValue(int position)
 {
     const QString value = current.atts.value(position);
     const QString name = tools::excerpt(current.atts.qName(position));
-    const tools::Place at = places.attribute(position);
+    const Range at = places.attribute(position);
     checkCharacters(value, name, at);
-    checkEncoding(value, name, at);
+    if (!isAscii(value))
+        checkEncoding(value, name, at);
     const AttributeUse *const use = current.row->find(current.atts.qName(position));
     if (use && use->name.endsWith("address"_L1))
         checkAddress(value, name, at);
+    if (use && use->column == Column::Sign)
+        checkSign(value, at);
+    if (use && current.row->element == element::statement && use->column == Column::Description)
+        checkType(value, at);
 }
 
-void CheckingDevice::checkCharacters(const QString &value, const QString &name, tools::Place at)
+void CheckingDevice::checkCharacters(const QString &value, const QString &name, const Range &at)
 {
     if (std::ranges::any_of(value, isLineEnd)) {
         tell("line-feed",
@@ -117,27 +118,57 @@ void CheckingDevice::checkCharacters(const QString &value, const QString &name, 
         tell("end-mark", "`\"@` in "_L1 + name + " ends the printed line early"_L1, at);
 }
 
-void CheckingDevice::checkEncoding(const QString &value, const QString &name, tools::Place at)
+/// Whether the characters are those that were meant.
+void CheckingDevice::checkEncoding(const QString &value, const QString &name, const Range &at)
 {
-    if (isAscii(value))
-        return;
     if (value.contains(QChar::ReplacementCharacter)) {
         tell("undecodable", name + " has bytes that are not in the encoding of the request"_L1, at);
         return;
     }
-    QTextCodec *const codec = text::localeCodec();
-    if (!codec) // UTF-8, which has them all
+    const preview::Cells characters = preview::cellsOf(value);
+    const auto isNone = [](char32_t c) { return QChar::isNonCharacter(c); };
+    if (!value.isValidUtf16() || firstOf(characters, isNone)) {
+        tell("no-character", "a reference in "_L1 + name + " is to no character"_L1, at);
         return;
-    const QString unknown = firstUnknown(value, codec);
-    if (!unknown.isEmpty())
+    }
+    if (requestCodec) {
+        const QByteArray bytes = requestCodec->fromUnicode(value);
+        if (QUtf8StringView(bytes).isValidUtf8()) {
+            tell("mistaken-encoding",
+                 name + " is "_L1 + tools::excerpt(value)
+                     + " in the encoding that the request names, and text in UTF-8"_L1,
+                 at, QString::fromUtf8(bytes));
+            return;
+        }
+    }
+    checkColumns(value, name, at);
+}
+
+/// Whether every character is printed, and in one column.
+void CheckingDevice::checkColumns(const QString &value, const QString &name, const Range &at)
+{
+    QTextCodec *const codec = text::localeCodec(); // null for UTF-8, which has them all
+    const auto isUnknown = [codec](char32_t c) {
+        return codec && c >= 0x80 && text::encoded(QString::fromUcs4(&c, 1), codec) == "?";
+    };
+    const auto shifts = [&](char32_t c) {
+        return c >= 0xA0 && !preview::fillsOneColumn(c) && !isUnknown(c);
+    };
+    const preview::Cells characters = preview::cellsOf(value);
+    if (const char32_t c = firstOf(characters, isUnknown))
         tell("not-in-encoding",
-             tools::excerpt(unknown) + " in "_L1 + name + " prints as `?`: it is not in "_L1
+             preview::numberOf(c) + " in "_L1 + name + " prints as `?`: it is not in "_L1
                  + QString::fromLatin1(codec->name()),
+             at);
+    if (const char32_t c = firstOf(characters, shifts))
+        tell("character-width",
+             preview::numberOf(c) + " in "_L1 + name
+                 + " does not fill one column from left to right: what follows it shifts"_L1,
              at);
 }
 
 /// An empty part between commas ends an address.
-void CheckingDevice::checkAddress(const QString &value, const QString &name, tools::Place at)
+void CheckingDevice::checkAddress(const QString &value, const QString &name, const Range &at)
 {
     const qsizetype end = value.startsWith(u',') ? 0 : value.indexOf(",,"_L1);
     const QString lost = end < 0 ? QString() : value.sliced(end);
@@ -148,6 +179,30 @@ void CheckingDevice::checkAddress(const QString &value, const QString &name, too
              at);
 }
 
+/// The sign of a variant.
+void CheckingDevice::checkSign(const QString &value, const Range &at)
+{
+    bool isNumber = false;
+    if (std::isfinite(value.toDouble(&isNumber)) && isNumber)
+        return;
+    const QString meant = QString(value).replace(u',', u'.');
+    meant.toDouble(&isNumber);
+    tell("variant-quantity",
+         tools::excerpt(value) + " is no number: the variant prints as taken away"_L1, at,
+         isNumber ? meant : QString());
+}
+
+/// The type of a movement, which is looked up in the catalogue as it is spelled.
+void CheckingDevice::checkType(const QString &value, const Range &at)
+{
+    const QString meant = value.left(1).toUpper() + value.mid(1);
+    const auto isTranslated = [](const QString &word) {
+        return tr(word.toUtf8().constData()) != word;
+    };
+    if (meant != value && !isTranslated(value) && isTranslated(meant))
+        tell("untranslated-type", tools::excerpt(value) + " is not translated"_L1, at, meant);
+}
+
 // What goes wrong on the paper: the device's own lines, looked at as they were written.
 
 void CheckingDevice::printSeparatorLine()
@@ -155,6 +210,13 @@ void CheckingDevice::printSeparatorLine()
     isRule = true; // on narrow paper a centred rule is shifted, which no request can help
     CompanyPrinterDriver::printSeparatorLine();
     isRule = false;
+}
+
+void CheckingDevice::printPrinterInfo()
+{
+    isPrinterName = true;
+    CompanyPrinterDriver::printPrinterInfo();
+    isPrinterName = false;
 }
 
 void CheckingDevice::println(unsigned int indent, const QString &text)
@@ -182,7 +244,7 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
     }
     const auto tellNotCentred = [&](const QString &trouble) {
         tell("not-centred", tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
-             places.tag());
+             isPrinterName ? printer : places.attribute(longestIn(text)));
     };
     const bool isCentred = justify == "center"_L1;
     const bool hasRoom = width - size >= 2;
@@ -194,39 +256,54 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
         tellNotCentred(u"it begins at the edge of the paper"_s);
 }
 
+/// The position of the longest attribute that stands in the line; -1 where none does.
+int CheckingDevice::longestIn(const QString &text) const
+{
+    int longest = -1;
+    qsizetype size = 0;
+    for (int i = 0; i < current.atts.count(); ++i) {
+        const QString value = current.atts.value(i);
+        if (value.size() > size && text.contains(asPrinted(value))) {
+            longest = i;
+            size = value.size();
+        }
+    }
+    return longest;
+}
+
 /// Tells the attributes that are wider than their columns, else the longest in the line.
 void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
 {
-    Code code = "line-too-long";
-    int longest = -1;
+    const Code code = "line-too-long";
+    if (findings.isFull(code.name)) {
+        tell(code, {}, {});
+        return;
+    }
     bool isTold = false;
-    const auto sizeAt = [this](int i) { return current.atts.value(i).size(); };
-    for (int i = 0; i < current.atts.count() && !findings.isFull(code.name); ++i) {
-        const AttributeUse *const use =
-            current.row ? current.row->find(current.atts.qName(i)) : nullptr;
+    for (int i = 0; current.row && i < current.atts.count(); ++i) {
+        const QString value = current.atts.value(i);
+        const AttributeUse *const use = current.row->find(current.atts.qName(i));
         const int width = use ? widthOf(use->column, settings) : -1;
-        if (sizeAt(i) == 0 || !text.contains(asPrinted(current.atts.value(i))))
+        if (width < 0 || value.size() <= width || !text.contains(asPrinted(value)))
             continue;
-        if (width >= 0 && sizeAt(i) > width) {
-            tell(code,
-                 u'`' + use->name + "` has "_L1 + inCharacters(sizeAt(i)) + " in a column of "_L1
-                     + QString::number(width) + ": the line is "_L1 + QString::number(excess)
-                     + " longer than the paper"_L1,
-                 places.attribute(i));
-            isTold = true;
-        }
-        if (longest < 0 || sizeAt(i) > sizeAt(longest))
-            longest = i;
+        tell(code,
+             u'`' + use->name + "` has "_L1 + inCharacters(value.size()) + " in a column of "_L1
+                 + QString::number(width) + ": the line is "_L1 + QString::number(excess)
+                 + " longer than the paper"_L1,
+             places.attribute(i));
+        isTold = true;
     }
     if (isTold)
         return;
-    const QString what = longest < 0
-                             ? tools::excerpt(text)
-                             : "the line of "_L1 + tools::excerpt(current.atts.qName(longest));
+    const int longest = isPrinterName ? -1 : longestIn(text);
+    const QString what = isPrinterName ? u"the printer's name"_s
+                         : longest >= 0
+                             ? "the line of "_L1 + tools::excerpt(current.atts.qName(longest))
+                             : tools::excerpt(text);
     tell(code,
          what + " has "_L1 + inCharacters(visibleSize(text)) + ", "_L1 + QString::number(excess)
              + " more than the paper"_L1,
-         places.attribute(longest));
+         isPrinterName ? printer : places.attribute(longest));
 }
 
 /// Whether the description of an item stands whole in the line that it was printed in last.

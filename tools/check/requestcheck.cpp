@@ -43,18 +43,60 @@ QString exceededLimit(requestreader::Stop why)
     return {};
 }
 
-void tellStop(const TagPlaces &places, tools::FindingStore &findings)
+/// What is wrong where the reader met a fault, and what to do: what it took last says more than its
+/// own word, which is used for what is rare.
+QString faultIn(const TagPlaces &places, const CheckingDevice &device)
 {
-    const auto tell = [&](Code code, const QString &text) {
-        findings.add(finding(code, text + ": the print run stops here"_L1, places.last()));
-    };
+    using enum TagPlaces::In;
+    const auto *const open = device.openElement();
+    const QString inside =
+        open ? u"`%1`, open since line %2,"_s.arg(open->name).arg(open->line) : QString();
+    const TagPlaces::In in = places.wasIn();
+    const bool isInValue = in == SingleQuotes || in == DoubleQuotes;
+    const QStringView two = places.lastTwo();
+    if (places.fault == "unexpected end of file"_L1) {
+        if (places.isIn() == SingleQuotes || places.isIn() == DoubleQuotes)
+            return u"the request ends in a value, whose quote is missing"_s;
+        return open ? "the request ends, and "_L1 + inside + " is not closed"_L1
+                    : u"the request ends without an element"_s;
+    }
+    if (places.fault == "tag mismatch"_L1)
+        return inside + " is not closed before this end tag"_L1;
+    if (two.contains(u'&'))
+        return u"a bare `&` is written `&amp;`"_s;
+    if (places.fault == "error occurred while parsing reference"_L1)
+        return u"a reference ends with `;`, and a bare `&` is written `&amp;`"_s;
+    if (two.contains(u'<') && (isInValue || (open && two.back().isSpace())))
+        return u"a bare `<` is written `&lt;`"_s;
+    if (in == Name || in == Value)
+        return u"an attribute is a name, `=` and a value in quotes"_s;
+    if (open && in == TagStart)
+        return u"a name begins with a letter"_s;
+    if (places.fault == "invalid name for processing instruction"_L1)
+        return u"the XML declaration has to stand at the very beginning"_s;
+    if (places.fault == "error occurred while parsing comment"_L1)
+        return u"a comment holds no `--`"_s;
+    if (open)
+        return places.fault;
+    return device.rootTag().line > 0
+               ? u"something stands behind the end of the root element"_s
+               : u"no element begins here: the request is another file, or not in the encoding "
+                 "that it names"_s;
+}
+
+void tellStop(const TagPlaces &places, const CheckingDevice &device, tools::FindingStore &findings)
+{
     const QString limit = exceededLimit(*places.stop);
-    if (!limit.isEmpty())
-        tell("limit", limit);
-    else if (places.isEmpty())
-        findings.add(finding("xml", u"the request is empty"_s));
-    else if (*places.stop == requestreader::Stop::Fault)
-        tell("xml", places.fault);
+    if (places.isEmpty())
+        return findings.add(finding("xml", u"the request is empty"_s));
+    if (limit.isEmpty() && *places.stop != requestreader::Stop::Fault)
+        return;
+    tools::Place at = places.last();
+    at.column -= places.lastTwo().startsWith(u'&') ? 1 : 0; // which the character behind it tells
+    findings.add(finding(limit.isEmpty() ? Code("xml") : Code("limit"),
+                         (limit.isEmpty() ? faultIn(places, device) : limit)
+                             + ": the print run stops here"_L1,
+                         {at, {at.line, at.column + 1}}));
 }
 
 /// What `--werror` makes of the findings.
@@ -131,14 +173,26 @@ int checkFiles(const tools::Call &call, const QStringList &files, const tools::C
 
 } // namespace
 
+tools::Finding finding(Code code, const QString &text, const Range &at, const QString &suggestion)
+{
+    return {code.severity,
+            code.name,
+            suggestion.isEmpty() ? text : text + " (did you mean `"_L1 + suggestion + "`?)"_L1,
+            at.begin,
+            -1,
+            at.end,
+            suggestion};
+}
+
 std::vector<tools::Finding> check(QIODevice &request, bool isConfigured)
 {
     TagPlaces places;
     tools::FindingStore findings;
     CheckingDevice device(places, findings, isConfigured);
     requestreader::read(request, device, &places);
+    device.finish();
     if (places.stop)
-        tellStop(places, findings);
+        tellStop(places, device, findings);
     return findings.take();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/tagplaces.h"
 
+#include <utility>
+
 namespace requestcheck {
 
 using namespace Qt::StringLiterals;
@@ -26,7 +28,12 @@ bool isBlank(QChar c)
 
 void TagPlaces::taken(QStringView text, bool utf8)
 {
+    constexpr qsizetype HeadSize = 256; // characters
+    if (beginning.size() < HeadSize)
+        beginning += text.first(qMin(text.size(), HeadSize - beginning.size()));
     for (const QChar c : text) {
+        before = in;
+        two[0] = std::exchange(two[1], c);
         step(c);
         lastPlace = here;
         if (c == u'\n')
@@ -81,8 +88,11 @@ void TagPlaces::step(QChar c)
         break;
     case In::SingleQuotes:
     case In::DoubleQuotes:
-        if (c == (in == In::SingleQuotes ? u'\'' : u'"'))
+        if (c == (in == In::SingleQuotes ? u'\'' : u'"')) {
             in = In::Blanks;
+            if (!attributes.empty() && attributes.back().end.line == 0)
+                attributes.back().end = {here.line, here.column + 1};
+        }
         break;
     }
 }
@@ -91,7 +101,7 @@ void TagPlaces::startName(QChar c)
 {
     in = In::Name;
     name = c;
-    attributes.push_back(here);
+    attributes.push_back({here, {}});
 }
 
 /// Behind the name, where the value may be some blanks away. The reader takes declarations of name
@@ -103,10 +113,10 @@ void TagPlaces::endName()
         attributes.pop_back();
 }
 
-tools::Place TagPlaces::attribute(int position) const
+Range TagPlaces::attribute(int position) const
 {
     return position >= 0 && size_t(position) < attributes.size() ? attributes[size_t(position)]
-                                                                 : tagPlace;
+                                                                 : range();
 }
 
 } // namespace requestcheck

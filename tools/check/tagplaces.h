@@ -11,6 +11,13 @@
 
 namespace requestcheck {
 
+/// From a character to the place behind another.
+struct Range
+{
+    tools::Place begin;
+    tools::Place end;
+};
+
 /// Where the tags of a request stand, and their attributes: follows the reading and keeps the
 /// places of one tag. Columns count bytes in a request in UTF-8, characters in any other.
 class TagPlaces : public requestreader::Observer
@@ -21,11 +28,22 @@ public:
 
     /// The `<` of the tag that was read last; the `&` where it came from an entity.
     tools::Place tag() const { return tagPlace; }
-    /// The name of its attribute at `position`, declarations of name spaces not counted; the tag
-    /// for an attribute that does not stand in it.
-    tools::Place attribute(int position) const;
+    /// The same, and the place behind the tag.
+    Range range() const { return {tagPlace, here}; }
+    /// The name of its attribute at `position`, declarations of name spaces not counted, and the
+    /// place behind its value; the tag for an attribute that does not stand in it.
+    Range attribute(int position) const;
     /// The character that was taken last.
     tools::Place last() const { return lastPlace; }
+
+    /// What the text taken so far ends in, and what it ended in before its last character.
+    enum class In { Text, TagStart, Tag, Blanks, Name, Value, SingleQuotes, DoubleQuotes };
+    In isIn() const { return in; }
+    In wasIn() const { return before; }
+    /// The last two characters that were taken.
+    QStringView lastTwo() const { return QStringView(two, 2); }
+    /// The beginning of the request, where its XML declaration stands.
+    const QString &head() const { return beginning; }
 
     bool isEmpty() const { return lastPlace.line == 0; }
     /// Why the reading ended early, if it did, and the reader's word for the fault.
@@ -33,17 +51,18 @@ public:
     QString fault;
 
 private:
-    enum class In { Text, TagStart, Tag, Blanks, Name, Value, SingleQuotes, DoubleQuotes };
-
     void step(QChar c);
     void startName(QChar c);
     void endName();
 
     In in = In::Text;
+    In before = In::Text;
+    QChar two[2];
+    QString beginning;
     tools::Place here{1, 1};
     tools::Place lastPlace;
     tools::Place tagPlace;
-    std::vector<tools::Place> attributes;
+    std::vector<Range> attributes;
     QString name; // of the attribute that is being read
 };
 
