@@ -34,7 +34,7 @@ QLatin1StringView latin1(std::string_view text)
 
 QByteArray limitedContent(QIODevice &file)
 {
-    constexpr qint64 PieceBytes = qint64(64) * 1'024;
+    constexpr qint64 PieceBytes = 16'384; // as the toolkit's files hold: it is not held twice
     QByteArray content;
     for (QByteArray piece = file.read(PieceBytes);
          !piece.isEmpty() && content.size() <= CfgScanner::MaxBytes; piece = file.read(PieceBytes))

@@ -20,7 +20,7 @@ Config::~Config() = default;
 void Config::loadFile()
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         tellUnreadable(fileName);
     const CfgContent content(file.isOpen() ? limitedContent(file) : QByteArray());
     stream.place(content.isClosed() ? QFile::encodeName(fileName) : QByteArray(), content.size());

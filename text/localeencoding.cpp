@@ -3,11 +3,23 @@
 
 #include <QTextCodec>
 
+#include <cstring>
+
 #include <langinfo.h>
 #include <locale.h>
 
 namespace text {
 namespace {
+
+/// Whether the environment asks for a locale of UTF-8, by its name: no file need be read to tell.
+bool asksForUtf8()
+{
+    for (const char *const variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        if (const QByteArray name = qgetenv(variable).toUpper(); !name.isEmpty())
+            return name.endsWith("UTF-8") || name.endsWith("UTF8");
+    }
+    return false;
+}
 
 /// The codeset name of the locale that the environment asks for; empty when it is not installed.
 /// A locale object of its own: the process's locale is the toolkit's, which makes it UTF-8.
@@ -24,6 +36,8 @@ QByteArray environmentCodeset()
 QTextCodec *codecOfEnvironment()
 {
     constexpr int Utf8Mib = 106;
+    if (asksForUtf8())
+        return nullptr;
     const QByteArray codeset = environmentCodeset();
     const bool plainAscii = codeset == "ANSI_X3.4-1968"; // the "C" locale
     if (codeset.isEmpty() || plainAscii || codeset.compare("UTF-8", Qt::CaseInsensitive) == 0)
@@ -38,6 +52,15 @@ QTextCodec *localeCodec()
 {
     static QTextCodec *const codec = codecOfEnvironment();
     return codec;
+}
+
+QString systemMessage(int error)
+{
+    const locale_t locale = newlocale(LC_CTYPE_MASK | LC_MESSAGES_MASK, "", nullptr);
+    const QByteArray message(locale ? strerror_l(error, locale) : strerror(error));
+    if (locale)
+        freelocale(locale);
+    return localeCodec() ? localeCodec()->toUnicode(message) : QString::fromUtf8(message);
 }
 
 QByteArray toLocale(QStringView text)

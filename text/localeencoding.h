@@ -15,6 +15,10 @@ namespace text {
 /// The codec belongs to the toolkit.
 QTextCodec *localeCodec();
 
+/// What the system calls an error, a value of `errno`, in the user's language, whatever locale the
+/// process is in.
+QString systemMessage(int error);
+
 /// `text` in the encoding of the user's locale. A character that the encoding lacks becomes one
 /// `?`, also where the character is a surrogate pair.
 QByteArray toLocale(QStringView text);

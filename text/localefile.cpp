@@ -27,16 +27,25 @@ bool LocaleFile::writeWhole(QByteArrayView bytes)
 {
     room -= bytes.size();
     if (room < 0) {
-        setErrorString(qt_error_string(EFBIG));
+        setErrorString(systemMessage(EFBIG));
         return false;
     }
     while (!bytes.isEmpty()) {
         const qint64 taken = QFile::writeData(bytes.data(), bytes.size());
-        if (taken <= 0)
+        if (taken <= 0) {
+            setErrorString(systemMessage(errno));
             return false;
+        }
         bytes = bytes.sliced(taken);
     }
     return true;
+}
+
+void LocaleFile::close()
+{
+    QFile::close();
+    if (error() != NoError) // a server's disk may tell so late
+        setErrorString(systemMessage(errno));
 }
 
 } // namespace text

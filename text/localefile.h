@@ -21,6 +21,7 @@ public:
     explicit LocaleFile(const QString &name = {}, QTextCodec *codec = localeCodec());
     /// From now on, what leads the bytes written beyond `bytes` fails as it does on a full disk.
     void limitTo(qint64 bytes) { room = bytes; }
+    void close() override;
 
 protected:
     qint64 writeData(const char *data, qint64 length) override;
