@@ -36,13 +36,10 @@ public:
         source.setInDocumentType(false);
         return true;
     }
-    /// False, which is a fault, for an entity that is long or holds others.
-    bool internalEntityDecl(const QString &, const QString &value) override
+    /// False, which is a fault, where too much of the entities is used.
+    bool internalEntityDecl(const QString &name, const QString &value) override
     {
-        source.entityDeclared();
-        const bool holdsOthers =
-            value.contains(u'%') || value.count(u'&') != value.count(QStringView(u"&#"));
-        return go(value.size() <= MaxEntitySize && !holdsOthers, Stop::Entity);
+        return go(source.entityDeclared(name, value), Stop::Expansion);
     }
     bool fatalError(const QXmlParseException &exception) override
     {

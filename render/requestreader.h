@@ -26,22 +26,20 @@ constexpr int MaxAttributes = 1'000'000;
 /// square of their number.
 constexpr int MaxDocumentTypeBytes = 16 * 1'024;
 
-/// An entity that is longer than these characters, or holds other entities, is a fault too, and so
-/// are more references, counted by pieces, in a request that declares entities: expanded, a small
-/// request would take gigabytes and minutes.
-constexpr int MaxEntitySize = 1'024;
-constexpr int MaxEntityReferences = 1'000;
+/// References to entities that expand to more characters, all together, are a fault too: a small
+/// request would take gigabytes and minutes. They are counted ahead of the reading, by pieces, with
+/// all that the reader goes through for them; what is declared and never used counts nothing.
+constexpr qint64 MaxExpansion = 10'000'000;
 
 /// Why a reading ended before its request did.
 enum class Stop {
-    Fault,            ///< the XML is not well-formed
-    Refused,          ///< the handler answered an event with false
-    Depth,            ///< MaxDepth is exceeded
-    Size,             ///< MaxRequestBytes is exceeded
-    Attributes,       ///< MaxAttributes is exceeded
-    DocumentType,     ///< MaxDocumentTypeBytes is exceeded
-    Entity,           ///< an entity exceeds MaxEntitySize or holds others
-    EntityReferences, ///< MaxEntityReferences is exceeded
+    Fault,        ///< the XML is not well-formed
+    Refused,      ///< the handler answered an event with false
+    Depth,        ///< MaxDepth is exceeded
+    Size,         ///< MaxRequestBytes is exceeded
+    Attributes,   ///< MaxAttributes is exceeded
+    DocumentType, ///< MaxDocumentTypeBytes is exceeded
+    Expansion,    ///< MaxExpansion is exceeded
 };
 
 /// Follows a reading through the text of the request, of which nothing is kept.

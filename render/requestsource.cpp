@@ -3,6 +3,8 @@
 
 #include <QIODevice>
 
+#include <algorithm>
+
 namespace requestreader {
 namespace {
 
@@ -23,6 +25,45 @@ bool isUtf8(QByteArrayView piece)
 }
 
 } // namespace
+
+void Entities::declare(const QString &name, const QString &value)
+{
+    if (!values.contains(name))
+        values.insert(name, value);
+    known.clear();
+}
+
+qint64 Entities::expansionOf(QStringView text)
+{
+    const auto isSign = [](QChar c) { return c == u'&' || c == u'%'; };
+    const auto endsName = [&](QChar c) { return c == u';' || isSign(c); };
+    qint64 expansion = 0;
+    auto at = std::find_if(text.begin(), text.end(), isSign);
+    while (at != text.end() && expansion <= MaxExpansion) {
+        const auto end = std::find_if(at + 1, text.end(), endsName);
+        const QString name = QStringView(*at == u'%' ? at : at + 1, end).toString();
+        if (end == text.end()) { // what follows may end the name: any that begins so
+            for (const QString &whole : values.keys())
+                expansion += whole.startsWith(name) ? expansionOfEntity(whole) : 0;
+        } else if (*end == u';') {
+            expansion += expansionOfEntity(name);
+        }
+        at = std::find_if(end, text.end(), isSign);
+    }
+    return expansion;
+}
+
+qint64 Entities::expansionOfEntity(const QString &name)
+{
+    const auto value = values.constFind(name);
+    if (value == values.cend())
+        return 0;
+    if (!known.contains(name)) {
+        known.insert(name, MaxExpansion + 1); // for one that holds itself
+        known.insert(name, value->size() + expansionOf(*value));
+    }
+    return known.value(name);
+}
 
 RequestSource::RequestSource(QIODevice &request, Observer *observer)
     : request(request)
@@ -53,6 +94,12 @@ QChar RequestSource::firstOfNextPiece()
             return QChar(EndOfDocument);
         decodePiece(QByteArrayView(piece).first(size));
         bytesRead += size;
+        expansion += entities.isEmpty() ? 0 : entities.expansionOf(text);
+        if (expansion > MaxExpansion) {
+            stop = Stop::Expansion;
+            ended = true;
+            text.clear();
+        }
         told = at = text.cbegin();
         end = text.cend();
     } while (text.isEmpty());
@@ -76,16 +123,12 @@ qint64 RequestSource::readPiece()
 bool RequestSource::exceedsLimits()
 {
     documentTypeBytes = inDocumentType ? documentTypeBytes + PieceBytes : 0;
-    if (entitiesDeclared)
-        references += text.count(u'&');
     attributes = elementSeen ? 0 : attributes + text.count(u'='); // few pieces see none
     elementSeen = false;
     if (bytesRead > MaxRequestBytes)
         stop = Stop::Size;
     else if (documentTypeBytes > MaxDocumentTypeBytes)
         stop = Stop::DocumentType;
-    else if (references > MaxEntityReferences)
-        stop = Stop::EntityReferences;
     else if (attributes > MaxAttributes)
         stop = Stop::Attributes;
     return stop.has_value();

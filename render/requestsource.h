@@ -3,6 +3,7 @@
 
 #include "render/requestreader.h"
 
+#include <QHash>
 #include <QStringDecoder>
 #include <QXmlInputSource>
 
@@ -11,6 +12,24 @@
 class QIODevice;
 
 namespace requestreader {
+
+/// The entities that a document type declares.
+class Entities
+{
+public:
+    /// The name of a parameter entity begins with `%`. Of two declarations the first counts.
+    void declare(const QString &name, const QString &value);
+    bool isEmpty() const { return values.isEmpty(); }
+    /// The characters that the reader goes through for the references in `text`, and for those in
+    /// what they stand for; somewhere above MaxExpansion where it goes through more.
+    qint64 expansionOf(QStringView text);
+
+private:
+    qint64 expansionOfEntity(const QString &name);
+
+    QHash<QString, QString> values;
+    QHash<QString, qint64> known; // expansions, since something was declared last
+};
 
 /// Feeds the reader piece by piece, until the request ends or exceeds a limit. Pieces of 16 KiB,
 /// and the toolkit's decoder in place of a codec where the request is in UTF-8, make reading faster
@@ -33,7 +52,13 @@ public:
     }
 
     void setInDocumentType(bool isIn) { inDocumentType = isIn; }
-    void entityDeclared() { entitiesDeclared = true; }
+    /// False if what follows in the piece uses too much of the entities declared so far.
+    bool entityDeclared(const QString &name, const QString &value)
+    {
+        entities.declare(name, value);
+        expansion = entities.expansionOf(QStringView(at, end));
+        return expansion <= MaxExpansion;
+    }
     /// Of an element: its tag ends with the character taken last.
     void elementBegan()
     {
@@ -71,13 +96,13 @@ private:
     bool utf8 = false; // of the request, known with its first piece
     bool ended = false;
     bool inDocumentType = false;
-    bool entitiesDeclared = false;
     bool elementSeen = false; // in the present piece
     qint64 bytesRead = 0;
     qint64 documentTypeBytes = 0; // of the one being read
     qsizetype attributes = 0;     // of the element being read, but for its first piece
-    qsizetype references = 0;     // counted where they may be to entities of the request's own
-    QString text;                 // of the present piece
+    Entities entities;
+    qint64 expansion = 0; // of what stands behind the last declaration of one
+    QString text;         // of the present piece
     QString::const_iterator at = text.cbegin();
     QString::const_iterator end = text.cend();
     QString::const_iterator told = at; // up to here the observer knows it

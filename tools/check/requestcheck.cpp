@@ -30,12 +30,9 @@ QString exceededLimit(requestreader::Stop why)
     case DocumentType:
         return u"the document type is longer than %1 bytes"_s.arg(
             requestreader::MaxDocumentTypeBytes);
-    case Entity:
-        return u"an entity is longer than %1 characters or holds other entities"_s.arg(
-            requestreader::MaxEntitySize);
-    case EntityReferences:
-        return u"a request that declares entities has more than %1 references"_s.arg(
-            requestreader::MaxEntityReferences);
+    case Expansion:
+        return u"the references to entities expand to more than %1 characters"_s.arg(
+            requestreader::MaxExpansion);
     case Fault:
     case Refused: // which the device has told
         break;
