@@ -29,7 +29,7 @@ void Config::loadFile()
 
 void Config::tellUnreadable(const QString &name)
 {
-    text::printLine("Error in the method FileReader::open( " + QFile::encodeName(name)
+    text::printLine("Error in the method FileReader::open( " + text::bytesOfName(name)
                     + " ): File Not Found");
 }
 

@@ -3,6 +3,10 @@
 
 #include <QFile>
 
+#include <array>
+#include <climits>
+#include <optional>
+
 #include <fcntl.h>
 #include <pwd.h>
 #include <unistd.h>
@@ -13,56 +17,63 @@ namespace text {
 namespace {
 
 constexpr mode_t NewFileMode = 0666;
-
-bool isWithinReach(const QByteArray &bytes)
-{
-    return QFile::encodeName(QFile::decodeName(bytes)) == bytes;
-}
-
-QString nameWithinReach(const QByteArray &bytes)
-{
-    const QString name = QFile::decodeName(bytes);
-    return name.startsWith(u':') ? "./"_L1 + name : name;
-}
-
-/// A descriptor of the place alone, or -1: the file is opened once, by whoever asked for its name.
-/// A pipe opened twice would wait for a second writer.
-int placeOf(const QByteArray &bytes)
-{
-    return open(bytes.constData(), O_PATH | O_CLOEXEC);
-}
+constexpr QLatin1StringView DescriptorFolder = "/dev/fd/"_L1;
 
 QString nameOfDescriptor(int descriptor)
 {
-    return "/dev/fd/"_L1 + QString::number(descriptor);
+    return DescriptorFolder + QString::number(descriptor);
+}
+
+/// The name that opens the file, or none for one whose bytes the toolkit cannot say and that is not
+/// there. The descriptor is of the place alone: the file is opened once, by whoever asked for its
+/// name. A pipe opened twice would wait for a second writer.
+std::optional<QString> nameWithinReach(const QByteArray &bytes)
+{
+    const QString name = QFile::decodeName(bytes);
+    if (QFile::encodeName(name) == bytes)
+        return name.startsWith(u':') ? "./"_L1 + name : name;
+    const int descriptor = open(bytes.constData(), O_PATH | O_CLOEXEC);
+    return descriptor < 0 ? std::nullopt : std::optional(nameOfDescriptor(descriptor));
 }
 
 } // namespace
 
 QString nameOfFile(const QByteArray &bytes)
 {
-    if (isWithinReach(bytes))
-        return nameWithinReach(bytes);
-    const int descriptor = placeOf(bytes);
-    return descriptor < 0 ? QFile::decodeName(bytes) : nameOfDescriptor(descriptor);
+    return nameWithinReach(bytes).value_or(QFile::decodeName(bytes));
 }
 
 QString nameOfNewFile(const QByteArray &bytes)
 {
-    if (isWithinReach(bytes))
-        return nameWithinReach(bytes);
-    int descriptor = placeOf(bytes);
-    if (descriptor < 0)
-        descriptor = open(bytes.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, NewFileMode);
+    if (const auto name = nameWithinReach(bytes))
+        return *name;
+    const int descriptor = open(bytes.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, NewFileMode);
     return descriptor < 0 ? QString() : nameOfDescriptor(descriptor);
 }
 
 QString nameInFolder(const QByteArray &bytes)
 {
-    const qsizetype slash = bytes.lastIndexOf('/');
-    if (slash < 0)
-        return nameOfFile(bytes);
-    return nameOfFile(bytes.first(slash)) + QFile::decodeName(bytes.sliced(slash));
+    // What stands below the nearest folder that is there is not, and may be called anything.
+    for (qsizetype slash = bytes.lastIndexOf('/'); slash > 0;
+         slash = bytes.lastIndexOf('/', slash - 1)) {
+        if (const auto folder = nameWithinReach(bytes.first(slash)))
+            return *folder + QFile::decodeName(bytes.sliced(slash));
+    }
+    return nameOfFile(bytes);
+}
+
+QByteArray bytesOfName(const QString &name)
+{
+    const qsizetype slash = name.indexOf(u'/', DescriptorFolder.size());
+    const QString descriptor = slash < 0 ? name : name.first(slash);
+    std::array<char, PATH_MAX> target;
+    const ssize_t size =
+        descriptor.startsWith(DescriptorFolder)
+            ? readlink(QFile::encodeName(descriptor).constData(), target.data(), target.size())
+            : -1;
+    return size < 0 ? QFile::encodeName(name)
+                    : QByteArray(target.data(), size)
+                          + QFile::encodeName(name.sliced(descriptor.size()));
 }
 
 QByteArray homeFolder()

@@ -19,6 +19,9 @@ QString nameOfNewFile(const QByteArray &bytes);
 /// A name whose last part the toolkit will add to or shorten: only the folder may be any bytes.
 QString nameInFolder(const QByteArray &bytes);
 
+/// The bytes of a name that one of these answered, for a message: those of the file itself.
+QByteArray bytesOfName(const QString &name);
+
 /// The bytes that a setting has in the configuration file: each is one ISO 8859-1 character.
 inline QByteArray bytesOf(const QString &setting)
 {
