@@ -24,7 +24,6 @@ struct Folder
     QString requests, configuration, references, suffix;
 };
 const Folder folders[] = {
-    {u"samples"_s, u"samples/zentaro-40.conf"_s, u"tests/golden/paper40"_s, u"prn"_s},
     {u"samples"_s, u"samples/zentaro-40.conf"_s, u"tests/golden/paper40"_s, u"calls"_s},
     {u"samples"_s, u"samples/zentaro-32.conf"_s, u"tests/golden/paper32"_s, u"prn"_s},
     {u"tests/golden/odd"_s, u"tests/golden/odd/zentaro.conf"_s, u"tests/golden/odd"_s, u"prn"_s},
@@ -98,26 +97,26 @@ TEST(Golden, HasNoReferenceWithoutARequest)
     }
 }
 
-/// The samples' page shows what each request prints; as text, without the fiscal carriage returns.
-TEST(Golden, ShowsEveryMethodInTheSamplesPage)
+/// The samples' page shows the elements of every document and what its sample prints on 40 columns:
+/// as text, without the fiscal carriage returns, which the print files of 32 columns hold.
+TEST(Golden, IsTheSamplesPage)
 {
-    const QString pageName = root.filePath(u"samples/README.md"_s);
-    QByteArray page = support::readFile(pageName);
+    const support::Home home(support::readFile(root.filePath(u"samples/zentaro-40.conf"_s)));
+    const support::Outcome outcome = support::run(QStringLiteral(ZENTARO_REQUEST_PAGES),
+                                                  {u"page"_s, root.filePath(u"samples"_s)}, home);
+    QByteArray page = outcome.output;
     for (const DocumentMethod &method : documentMethods) {
-        const QByteArray name(method.name.data(), method.name.size());
-        const QString sample = root.filePath(u"samples/"_s + method.name + u".xml"_s);
-        EXPECT_TRUE(support::readFile(sample).contains("<method name=\"" + name + "\"/>"));
-
-        const QString reference = u"tests/golden/paper40/"_s + method.name + u".prn"_s;
-        const QByteArray printed =
-            support::readFile(root.filePath(reference)).replace("\r", QByteArray());
-        const qsizetype section = page.indexOf("\n## " + name + "\n");
+        const QByteArray request =
+            support::readFile(root.filePath(u"samples/"_s + method.name + u".xml"_s));
+        EXPECT_TRUE(request.contains("<method name=\"" + QByteArray(method.name.data()) + "\"/>"));
+        const qsizetype section = page.indexOf("\n## " + QByteArray(method.name.data()) + "\n");
         const qsizetype begin = page.indexOf("```\n", section) + 4;
         const qsizetype end = page.indexOf("```", begin);
-        ASSERT_TRUE(section >= 0 && section < begin) << name.data();
-        page.replace(begin, end - begin, printed);
+        ASSERT_TRUE(section >= 0 && section < begin) << method.name.data();
+        page.replace(begin, end - begin,
+                     support::printed(request, home).replace("\r", QByteArray()));
     }
-    support::expectReference(pageName, page);
+    support::expectReference(root.filePath(u"samples/README.md"_s), page);
 }
 
 } // namespace

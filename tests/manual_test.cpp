@@ -103,18 +103,15 @@ TEST(Completion, KnowsKeysAndValues)
               QStringList(u"58"_s));
 }
 
-TEST(Manual, ListsEveryMethodAndEveryKeyAsTheFuzzDictionaryDoes)
+TEST(Manual, ListsEveryKeyAsTheFuzzDictionaryDoes)
 {
     const QString words =
         QString::fromUtf8(support::readFile(support::sourceDir() + u"/fuzz/zentaro.dict"_s));
     const auto expectInDictionary = [&words](const QString &word) {
         EXPECT_TRUE(words.contains(u'"' + word + u"\"\n"_s)) << word.toStdString();
     };
-    const QString print = manualPage(u"zentaro-print.1"_s);
-    for (const DocumentMethod &method : documentMethods) {
-        EXPECT_TRUE(print.contains(u".It Cm "_s + method.name + u" Ta "_s)) << method.name.data();
+    for (const DocumentMethod &method : documentMethods)
         expectInDictionary(method.name);
-    }
     const QString keys = manualPage(u"zentaro.conf.5"_s);
     for (const QString &group : tools::knownGroups()) {
         const QString prefix = u".It Cm zentaro."_s + group;

@@ -109,7 +109,7 @@ TEST(Preview, TellsWhatIsWrong)
 {
     const Home home(configuration(u"40"_s));
     const QString request = sourceDir() + u"/tests/golden/preview/sold.xml"_s;
-    const QString printFile = sourceDir() + u"/tests/golden/paper40/printSold.prn"_s;
+    const QString printFile = sourceDir() + u"/tests/golden/paper32/printSold.prn"_s;
     support::writeFile(home.path(u"broken.xml"_s),
                        "<p>\n<method name=\"printSold\"/>\n<receipe\n quantity=2/>");
     support::writeFile(home.path(u"broken.conf"_s), "zentaro: {");

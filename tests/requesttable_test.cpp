@@ -3,8 +3,6 @@
 #include "tests/recordingdevice.h"
 #include "tools/check/elementtable.h"
 
-#include <QRegularExpression>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,7 +13,7 @@ using requestcheck::Column;
 using requestcheck::ElementRow;
 using Names = std::set<QString>;
 
-// What the check knows about elements and attributes, held against the paper and against the page.
+// What the check knows about elements and attributes, held against the paper.
 
 namespace {
 
@@ -168,76 +166,6 @@ TEST(RequestTable, KnowsTheColumns)
         }
     }
     EXPECT_GT(columns, 30);
-}
-
-/// The words between backquotes.
-QStringList quoted(const QString &cell)
-{
-    static const QRegularExpression word(u"`([^`]+)`"_s);
-    QStringList words;
-    for (const auto &match : word.globalMatch(cell))
-        words.append(match.captured(1));
-    return words;
-}
-
-/// A row of the page: an element, its attributes and its settings.
-void expectDocumented(const QStringList &cells, const ElementRow *row)
-{
-    ASSERT_TRUE(row) << cells[1].toStdString();
-    const auto keyWord = [](bool DocumentSettings::*aSwitch) {
-        const auto keys = switchSettings();
-        const auto found = std::ranges::find(keys, aSwitch, &SettingKey<bool>::member);
-        return found == keys.end() ? QString() : QString(found->keyWord);
-    };
-    QStringList attributes;
-    Names switches{keyWord(row->onlyIf)};
-    for (const requestcheck::AttributeUse &use : row->attributes) {
-        attributes.append(use.name);
-        switches.insert(keyWord(use.onlyIf));
-    }
-    switches.erase(QString());
-    EXPECT_EQ(quoted(cells[2]), attributes) << cells[1].toStdString();
-    EXPECT_EQ(cells[2].contains(u"all, in order"), row->rest == requestcheck::Rest::InOrder);
-    EXPECT_EQ(cells[2].contains(u"then three"), row->rest == requestcheck::Rest::Triples);
-    Names documented;
-    for (const QString &word : quoted(cells[3])) {
-        if (std::ranges::find(switchSettings(), word, &SettingKey<bool>::keyWord)
-            != switchSettings().end())
-            documented.insert(word);
-    }
-    EXPECT_EQ(documented, switches) << cells[1].toStdString();
-}
-
-TEST(RequestTable, IsTheSamplesPage)
-{
-    const QString page =
-        QString::fromUtf8(support::readFile(support::sourceDir() + u"/samples/README.md"_s));
-    const auto rowsOf = [&page](const QString &title) {
-        QList<QStringList> rows;
-        const QString section =
-            page.section("\n## "_L1 + title + u'\n', 1).section(u"\n## "_s, 0, 0);
-        for (const QString &line : section.split(u'\n')) {
-            if (line.startsWith(u"| `"))
-                rows.append(line.split(u'|'));
-        }
-        return std::pair(section, rows);
-    };
-    const auto shared = rowsOf(u"Elements of every list document"_s).second;
-    ASSERT_EQ(shared.size(), 10); // the customer is the last, which not all of them read
-    const auto &methods = documentMethods;
-    for (const DocumentMethod &method : methods) {
-        auto [section, rows] = rowsOf(method.name);
-        if (section.contains(u"the elements of every list document"))
-            rows += shared.first(section.contains(u"`customer` and these") ? 10 : 9);
-        Names elements;
-        for (const QStringList &cells : rows) {
-            elements.insert(quoted(cells[1]).first());
-            expectDocumented(cells, requestcheck::elementRow(quoted(cells[1]).first(),
-                                                             &method - methods.data()));
-        }
-        const auto known = requestcheck::elementsOf(&method - methods.data());
-        EXPECT_EQ(elements, Names(known.begin(), known.end())) << method.name.data();
-    }
 }
 
 } // namespace

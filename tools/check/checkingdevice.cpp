@@ -354,11 +354,9 @@ bool CheckingDevice::isOff(bool DocumentSettings::*aSwitch) const
 void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
                                      const Range &at)
 {
-    const auto switches = switchSettings();
-    const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
-    if (!isConfigured || found == switches.end())
+    if (!isConfigured)
         return;
-    const QString key = docPath + found->keyWord;
+    const QString key = docPath + keyWordOf(aSwitch);
     if (toldSwitches.insert(key).second)
         tell("switch-off", u'`' + key + "` is off: `"_L1 + what + "` is not printed"_L1, at);
 }

@@ -148,13 +148,9 @@ constexpr A cancelled[] = {count, {"totals"_L1, "their amount"_L1}};
 constexpr A soldItem[] = {{"quantity"_L1, "how many"_L1, Quantity},
                           {"description"_L1, "what it is"_L1, Description},
                           {"amount"_L1, "the price of all of them"_L1, Total}};
-constexpr A statement[] = {
-    {"date"_L1, "when it was"_L1, Date},
-    {"type"_L1,
-     "what it was, in English; printed in the language of the labels are Payment, Receipt, "
-     "Invoice, Credit note, Opening balance and Balance"_L1,
-     Description},
-    {"amount"_L1, "the amount"_L1, DateAmount}};
+constexpr A statement[] = {{"date"_L1, "when it was"_L1, Date},
+                           {"type"_L1, "what it was, in English"_L1, Description},
+                           {"amount"_L1, "the amount"_L1, DateAmount}};
 
 constexpr auto change =
     "a change to the item before it: `-` for a quantity of -1 or 0, `+` for 1, else the quantity "
@@ -232,7 +228,10 @@ constexpr auto rows = std::to_array<ElementRow>({
      cancelled, Role::Other, nullptr, Rest::Triples},
     {element::receipe, Sold, "the item"_L1, soldItem},
     {element::statementList, Statement, "the column titles"_L1, none},
-    {element::statement, Statement, "a movement"_L1, statement},
+    {element::statement, Statement,
+     "a movement. `type` is an English word, printed in the language of the labels: Payment, "
+     "Receipt, Invoice, Credit note, Opening balance, Balance"_L1,
+     statement},
 });
 
 bool reads(const ElementRow &row, qsizetype method)
@@ -336,6 +335,22 @@ QLatin1StringView summaryOf(qsizetype method)
 std::span<const ElementRow> elementRows()
 {
     return rows;
+}
+
+QString keyWordOf(bool S::*aSwitch)
+{
+    const auto switches = switchSettings();
+    const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
+    return found == switches.end() ? QString() : QString(found->keyWord);
+}
+
+QStringList settingsOf(const ElementRow &row)
+{
+    QStringList words{keyWordOf(row.onlyIf), row.setting};
+    for (const AttributeUse &use : row.attributes)
+        words.append(keyWordOf(use.onlyIf));
+    words.removeAll(QString());
+    return words;
 }
 
 Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,

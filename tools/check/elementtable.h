@@ -3,7 +3,7 @@
 
 #include "render/documentsettings.h"
 
-#include <QStringView>
+#include <QStringList>
 
 #include <span>
 #include <vector>
@@ -94,6 +94,12 @@ QLatin1StringView summaryOf(qsizetype method);
 bool isKnownElement(QStringView element);
 /// All rows.
 std::span<const ElementRow> elementRows();
+
+/// The key word of a switch; empty for null.
+QString keyWordOf(bool DocumentSettings::*aSwitch);
+/// The key words of the settings that switch or shape a row: beside the widths of columns, which
+/// shape them all.
+QStringList settingsOf(const ElementRow &row);
 
 /// What becomes of an attribute.
 enum class Fate { Printed, SwitchedOff, Kept, Unread };
