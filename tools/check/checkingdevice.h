@@ -46,7 +46,6 @@ public:
 
     void println(unsigned int indent, const QString &text) override;
     using CompanyPrinterDriver::println;
-    void printSeparatorLine() override;
     void printPrinterInfo() override;
     void printRowFiscal(const QString &department, const QString &quantity,
                         const QString &description, const QString &price) override;
@@ -102,7 +101,6 @@ private:
     QString paper;                      // what was written since it was last looked at
     QString lastLine;                   // printed for the element, without its frame
     bool hasPrinted = false;            // the element
-    bool isRule = false;
     bool isPrinterName = false;
     std::vector<OpenElement> open;
     std::optional<tools::Finding> unlessGroup; // about the innermost, unless it groups others

@@ -3,7 +3,8 @@
 
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
-#include "tools/preview/cells.h"
+#include "tools/paperrules.h"
+#include "tools/preview/printfile.h"
 #include "tools/terminal.h"
 
 #include <QTextCodec>
@@ -50,12 +51,6 @@ qsizetype printedPart(QStringView text, qsizetype most, const QString &line)
 QString inCharacters(qsizetype count)
 {
     return QString::number(count) + (count == 1 ? " character"_L1 : " characters"_L1);
-}
-
-bool isNumber(QStringView text, int mostPoints)
-{
-    const auto digits = std::ranges::count_if(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return digits > 0 && text.count(u'.') <= mostPoints && digits + text.count(u'.') == text.size();
 }
 
 bool isLineEnd(QChar c)
@@ -205,13 +200,6 @@ void CheckingDevice::checkType(const QString &value, const Range &at)
 
 // What goes wrong on the paper: the device's own lines, looked at as they were written.
 
-void CheckingDevice::printSeparatorLine()
-{
-    isRule = true; // on narrow paper a centred rule is shifted, which no request can help
-    CompanyPrinterDriver::printSeparatorLine();
-    isRule = false;
-}
-
 void CheckingDevice::printPrinterInfo()
 {
     isPrinterName = true;
@@ -228,7 +216,7 @@ void CheckingDevice::println(unsigned int indent, const QString &text)
     const qsizetype pad = paper.size() - size - Frame;
     lastLine = paper.sliced(1 + pad, size);
     hasPrinted = true;
-    if (!isRule && !hasControl(lastLine))
+    if (!hasControl(lastLine) && !tools::isRule(lastLine, settings.paperWidth))
         checkLine(lastLine, pad);
 }
 
@@ -238,8 +226,8 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
     const qsizetype size = visibleSize(text);
     if (size == 0)
         return;
-    if (size > width) {
-        tellTooLong(text, size - width);
+    if (const qsizetype excess = tools::beyondEdge(text, width); excess > 0) {
+        tellTooLong(text, excess);
         return;
     }
     const auto tellNotCentred = [&](const QString &trouble) {
@@ -341,7 +329,7 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
              placeOf("name"_L1));
     checkFiscalNumber("number"_L1, quantity);
     checkFiscalNumber("price"_L1, price);
-    if (!isNumber(department, 0))
+    if (!tools::isFiscalNumber(department))
         tell("fiscal-department",
              department.isEmpty()
                  ? u"the item has no `department`"_s
@@ -351,7 +339,7 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
 
 void CheckingDevice::checkFiscalNumber(QLatin1StringView attribute, const QString &value)
 {
-    if (!isNumber(value, 1))
+    if (!tools::isFiscalNumber(value, u'.'))
         tell("fiscal-number",
              value.isEmpty() ? "the item has no `"_L1 + attribute + u'`'
                              : u'`' + attribute + "` is "_L1 + tools::excerpt(value)
