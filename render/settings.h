@@ -11,7 +11,8 @@
 /// What the value of a setting has to be.
 enum class SettingKind {
     Text,
-    Path,
+    Folder,   ///< its name: the bytes that the system has for it
+    FileName, ///< likewise, or a part of it
     Number,   ///< a decimal integer, 0 or more
     Switch,   ///< "true", or anything else for off
     LogLevel, ///< the least level that a log keeps
@@ -47,16 +48,17 @@ consteval auto Setting::all()
         return Setting{"", word, Switch, "false", effect, nullptr, member};
     };
     return std::to_array<Setting>({
-        {"language", "basedir", Path, "",
+        {"language", "basedir", Folder, "",
          QT_TR_NOOP("The folder of the translations of the printed labels.")},
-        {"language", "file", Text, "",
+        {"language", "file", FileName, "",
          QT_TR_NOOP("Which translation: / for that of the system's language, or a name that is put "
                     "right behind the folder's.")},
         {"logger", "level", LogLevel, "DEBUG",
          QT_TR_NOOP("Lines below this level are not logged: DEBUG, INFO, WARNING, ERROR or FATAL, "
                     "in any letter case. Any other text means the default.")},
-        {"logger", "basedir", Path, "", QT_TR_NOOP("The folder of the log file; it has to exist.")},
-        {"logger", "filename", Text, "", QT_TR_NOOP("The name of the log file in its folder.")},
+        {"logger", "basedir", Folder, "",
+         QT_TR_NOOP("The folder of the log file; it has to exist.")},
+        {"logger", "filename", FileName, "", QT_TR_NOOP("The name of the log file in its folder.")},
         {"logger", "type", LogType, "",
          QT_TR_NOOP("APPEND goes on in the log file, OVERWRITE empties it first, in any letter "
                     "case. With any other text nothing is logged.")},
@@ -65,7 +67,7 @@ consteval auto Setting::all()
         {"db", "password", Text, "",
          QT_TR_NOOP("The user's password, which whoever may read this file can read.")},
         {"db", "hostname", Text, "", QT_TR_NOOP("The database's server.")},
-        {"bin", "path", Path, "", QT_TR_NOOP("The folder of the suite's programs.")},
+        {"bin", "path", Folder, "", QT_TR_NOOP("The folder of the suite's programs.")},
 
         {"", "quantityFieldWidth", Number, "0", QT_TR_NOOP("Characters of the quantity column."),
          &D::quantityFieldWidth},

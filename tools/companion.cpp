@@ -45,9 +45,14 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
         {u"The companion of zentaro-print."_s, commands, {}, u"zentaro " ZENTARO_VERSION ""_s});
 }
 
+QString programFolder()
+{
+    return QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path();
+}
+
 int startDesktop(const Call &call)
 {
-    const QString place = QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path();
+    const QString place = programFolder();
     // Beside this program in a build; where it is installed, as far from it as the build says.
     for (const QString &folder : {place, place + u"/" ZENTARO_LIBEXEC_FROM_BIN ""_s}) {
         execv(QFile::encodeName(folder + "/zentaro-window"_L1).constData(), call.argv);

@@ -32,6 +32,9 @@ struct Desktop
 /// that loads no desktop library.
 int runCompanion(int argc, char **argv, const Desktop *desktop);
 
+/// The folder of this process's program.
+QString programFolder();
+
 /// Runs the second program, with all words of this one, in the place of this process. Answers only
 /// where it cannot be started: Trouble, which is told.
 int startDesktop(const Call &call);

@@ -144,7 +144,7 @@ tools::FileFindings withoutConfiguration()
     return {ZTConfiguration::userFile(),
             {finding("no-configuration",
                      u"there is no such file: everything that a switch decides about is left "
-                     u"away, and columns have no width"_s)}};
+                     u"away, and columns have no width; `zentaro config init` writes one"_s)}};
 }
 
 /// Checks every file; one that cannot be read is told and does not keep the others from it.

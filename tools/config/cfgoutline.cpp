@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/cfgoutline.h"
+#include "tools/config/outline.h"
 
 #include "config/cfgscanner.h"
 #include "tools/terminal.h"
@@ -115,8 +115,16 @@ void Reader::beginGroup()
     const bool misread = !checkName(u"group"_s);
     const auto index = qsizetype(outline.entries.size());
     entry(open.back()).hasMember = true;
-    outline.entries.push_back(
-        {Entry::Kind::Group, open.back(), name, {}, placeAt(nameBegin()), {}, false, misread});
+    outline.entries.push_back({Entry::Kind::Group,
+                               open.back(),
+                               name,
+                               {},
+                               placeAt(nameBegin()),
+                               {},
+                               false,
+                               misread,
+                               {nameBegin(), scanner.end()},
+                               {scanner.end(), scanner.end()}});
     open.push_back(index);
 
     const std::string_view skipped =
@@ -145,10 +153,18 @@ void Reader::addSetting()
     const qint64 valueBegin = scanner.mark() + 1;
     const size_t blanks =
         std::min(scanner.rawValue().find_first_not_of(WhiteSpace), scanner.rawValue().size());
+    const qint64 begin = valueBegin + qint64(blanks);
     entry(open.back()).hasMember = true;
-    outline.entries.push_back({Entry::Kind::Setting, open.back(), key, scanner.value(),
-                               placeAt(nameBegin()), placeAt(valueBegin + qint64(blanks)), false,
-                               misread});
+    outline.entries.push_back({Entry::Kind::Setting,
+                               open.back(),
+                               key,
+                               scanner.value(),
+                               placeAt(nameBegin()),
+                               placeAt(begin),
+                               false,
+                               misread,
+                               {nameBegin(), scanner.end()},
+                               {begin, begin + qint64(trimmed(scanner.rawValue()).size())}});
     checkValue(key);
 }
 
@@ -180,6 +196,8 @@ bool Reader::endGroup()
     else if (!scanner.complete())
         tell(Severity::Warning, "missing-semicolon"_L1,
              "no `;` follows the `}` of the group "_L1 + name, scanner.mark());
+    entry(open.back()).body.end = scanner.mark();
+    entry(open.back()).text.end = scanner.end();
     open.pop_back();
     return true;
 }

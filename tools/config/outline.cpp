@@ -1,12 +1,105 @@
 // SPDX-License-Identifier: MIT
 #include "tools/config/outline.h"
 
-#include "tools/config/cfgoutline.h"
-#include "tools/config/xmloutline.h"
+#include "config/config.h"
+#include "tools/terminal.h"
+
+#include <QXmlStreamReader>
 
 namespace configtool {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Where the reader goes on. It knows the end of a text by the `<` that follows, which is read
+/// then.
+Place placeOf(const QXmlStreamReader &reader)
+{
+    return {reader.lineNumber(), reader.columnNumber() + (reader.isCharacters() ? 0 : 1)};
+}
+
+/// Adds the element that the reader stands at, and its attributes; answers the entry of its group.
+qsizetype addElement(Outline &outline, const QXmlStreamReader &reader, qsizetype parent, Place at)
+{
+    const auto group = qsizetype(outline.entries.size());
+    outline.entries[size_t(parent)].hasMember = true;
+    outline.entries.push_back({Entry::Kind::Group,
+                               parent,
+                               reader.qualifiedName().toString(),
+                               {},
+                               at,
+                               {},
+                               !reader.attributes().isEmpty(),
+                               false});
+    for (const QXmlStreamAttribute &attribute : reader.attributes())
+        outline.entries.push_back({Entry::Kind::Setting, group,
+                                   attribute.qualifiedName().toString(),
+                                   attribute.value().toString(), at, at, false, false});
+    return group;
+}
+
+/// The outline of a file without a root element.
+Outline emptyOutline()
+{
+    Outline outline;
+    outline.keepsEmptyGroups = true;
+    outline.entries.push_back({Entry::Kind::Group, -1, {}, {}, {}, {}, false, false});
+    return outline;
+}
+
+void noteLoss(Outline &outline, const QXmlStreamReader &reader, qsizetype group, Place at)
+{
+    const QStringView text =
+        reader.isProcessingInstruction() ? reader.processingInstructionTarget() : reader.text();
+    outline.losses.push_back(
+        {Severity::Warning, "lost-text"_L1,
+         "text that is no setting: "_L1 + tools::excerpt(text.trimmed().toString()), at, group});
+}
+
+/// Reads the XML form: a group per element, a setting per attribute.
+Outline readXmlOutline(const QByteArray &content)
+{
+    constexpr int MaxDepth = libconfig::Config::MaxXmlDepth;
+    Outline outline = emptyOutline();
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    qsizetype open = 0;
+    int depth = 0;
+    while (!reader.atEnd()) {
+        const Place at = placeOf(reader); // a token begins where the one before it ended
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            open = addElement(outline, reader, open, at);
+            if (++depth > MaxDepth)
+                reader.raiseError(u"groups nest more than %1 deep"_s.arg(MaxDepth));
+            break;
+        case QXmlStreamReader::EndElement:
+            open = outline.entries[size_t(open)].parent;
+            --depth;
+            break;
+        case QXmlStreamReader::Characters:
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::ProcessingInstruction:
+            if (!reader.isWhitespace())
+                noteLoss(outline, reader, open, at);
+            break;
+        default:
+            break;
+        }
+    }
+    if (reader.hasError() && !content.isEmpty()) {
+        outline = emptyOutline();
+        const auto cause =
+            reader.error() == QXmlStreamReader::CustomError ? ""_L1 : "not well-formed, "_L1;
+        outline.faults.push_back({Severity::Error, "xml"_L1,
+                                  cause + "nothing of the file is read: "_L1 + reader.errorString(),
+                                  placeOf(reader)});
+    }
+    return outline;
+}
+
+} // namespace
 
 qsizetype Outline::topGroup() const
 {

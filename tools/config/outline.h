@@ -16,6 +16,13 @@ using tools::Finding;
 using tools::Place;
 using tools::Severity;
 
+/// Bytes of a file, from one offset to another.
+struct Extent
+{
+    qint64 begin = 0;
+    qint64 end = 0;
+};
+
 struct Entry
 {
     enum class Kind { Group, Setting };
@@ -28,6 +35,8 @@ struct Entry
     Place valueAt;          ///< of a setting's value
     bool hasMember = false; ///< of a group: a setting, or a group even if empty
     bool misread = false;   ///< the name swallowed other text, which has been told
+    Extent text = {};       ///< in the "cfg" form: from the name to behind the `;`
+    Extent body = {};       ///< likewise: a value without blanks around it, or between the braces
 };
 
 struct Outline
@@ -46,5 +55,8 @@ struct Outline
 /// Reads a file's content in the format "cfg" or "xml". What is not well-formed XML has no entries
 /// but the file.
 Outline readOutline(const QByteArray &content, const QString &format);
+/// Reads the "cfg" form as the store does, and notes where the text is lost or goes elsewhere than
+/// it seems to.
+Outline readCfgOutline(const QByteArray &content);
 
 } // namespace configtool

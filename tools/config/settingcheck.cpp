@@ -2,14 +2,13 @@
 #include "tools/config/settingcheck.h"
 
 #include "app/translation.h"
-#include "tools/config/valuecheck.h"
+#include "text/filename.h"
 #include "tools/knownkeys.h"
 #include "tools/nearest.h"
 #include "tools/terminal.h"
 
 #include <QDir>
 #include <QHash>
-#include <QLocale>
 #include <QTranslator>
 
 #include <utility>
@@ -20,6 +19,13 @@ using namespace Qt::StringLiterals;
 using tools::excerpt;
 
 namespace {
+
+/// Whether a folder holds language files that the system's language could choose from.
+bool hasTranslations(const QString &folder)
+{
+    const QDir dir(text::nameOfFile(text::bytesOf(folder)));
+    return !dir.entryList({u"zentaro_*"_s}, QDir::Files).isEmpty();
+}
 
 class Checker
 {
@@ -35,16 +41,17 @@ private:
     using Name = std::pair<qsizetype, QString>; // in a group
 
     void checkGroup(qsizetype index);
-    void checkSetting(qsizetype index);
     void checkTopGroup(qsizetype index);
-    void checkKnownSetting(qsizetype index);
-    bool checkDuplicate(qsizetype index);
+    void checkSetting(qsizetype index);
+    void checkReadSetting(qsizetype index);
+    void checkValue(qsizetype index, const Setting &setting);
+    void checkWord(qsizetype index, const QStringList &words, const QString &otherwise);
     void checkColumns();
     void checkLanguage();
 
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
-    int number(const QString &group, const QString &word) const;
-    static QString wayOut(const QString &group, const QString &key);
+    QString shown(qsizetype index) const { return excerpt(outline.pathOf(index)); }
+    int number(const QString &group, QLatin1StringView word) const;
     void tell(Severity severity, QLatin1StringView code, const QString &text, qsizetype subject);
     void tellValue(Severity severity, QLatin1StringView code, const QString &text,
                    qsizetype subject);
@@ -52,10 +59,10 @@ private:
     const Outline &outline;
     const qsizetype top; // where lookups begin
     std::vector<Finding> findings;
-    QHash<Name, qsizetype> groups;       // of the top group and below, the first of each name
-    QHash<Name, qsizetype> settings;     // the first of each name in a group
-    int unknownKeys = 0;                 // a way out is looked for only of those that are listed
+    QHash<QString, qsizetype> groups;    // of the top group, the first of each name
+    QHash<Name, qsizetype> settings;     // the last of each name in a group
     QHash<QString, qsizetype> effective; // by "group.word": the entry that a lookup finds
+    int unknownKeys = 0;                 // a way out is looked for only of those that are listed
 };
 
 std::vector<Finding> Checker::check()
@@ -63,7 +70,12 @@ std::vector<Finding> Checker::check()
     if (top < 0)
         tell(Severity::Warning, "no-settings"_L1,
              u"the file has no group: every setting is empty"_s, 0);
-    for (qsizetype i = 1; i < qsizetype(outline.entries.size()); ++i) {
+    const auto count = qsizetype(outline.entries.size());
+    for (qsizetype i = 1; i < count; ++i) {
+        if (entry(i).kind == Entry::Kind::Setting)
+            settings.insert({entry(i).parent, entry(i).name}, i);
+    }
+    for (qsizetype i = 1; i < count; ++i) {
         if (entry(i).kind == Entry::Kind::Group)
             checkGroup(i);
         else
@@ -84,22 +96,22 @@ void Checker::checkGroup(qsizetype index)
         checkTopGroup(index);
     else if (group.misread)
         return;
-    else if (group.parent == top && !groups.contains({top, group.name})) {
-        groups.insert({top, group.name}, index);
+    else if (group.parent == top && !groups.contains(group.name)) {
+        groups.insert(group.name, index);
         if (!tools::isKnownGroup(group.name))
             tell(Severity::Warning, "unknown-group"_L1,
-                 "nothing reads the group "_L1 + excerpt(outline.pathOf(index))
+                 "nothing reads the group "_L1 + shown(index)
                      + tools::suggestion(group.name, tools::knownGroups()),
                  index);
     } else if (group.parent == top) {
         tell(
             Severity::Warning, "duplicate-group"_L1,
-            "the group "_L1 + excerpt(outline.pathOf(index))
+            "the group "_L1 + shown(index)
                 + " stands here again: of a key in both, the first value that is not empty counts"_L1,
             index);
     } else if (entry(group.parent).parent == top && tools::isKnownGroup(entry(group.parent).name)) {
-        tell(Severity::Warning, "unknown-group"_L1,
-             "nothing reads the group "_L1 + excerpt(outline.pathOf(index)), index);
+        tell(Severity::Warning, "unknown-group"_L1, "nothing reads the group "_L1 + shown(index),
+             index);
     }
 }
 
@@ -121,49 +133,36 @@ void Checker::checkTopGroup(qsizetype index)
 void Checker::checkSetting(qsizetype index)
 {
     const Entry &setting = entry(index);
-    if (setting.misread && setting.parent == 0)
-        return;
-    if (setting.parent == 0) {
-        tell(Severity::Warning, "unreachable-key"_L1,
-             "no lookup finds the key "_L1 + excerpt(setting.name) + " outside any group"_L1,
-             index);
-        return;
-    }
-    if (checkDuplicate(index) || setting.misread)
-        return;
     const Entry &group = entry(setting.parent);
-    if (setting.name.contains(u'.'))
+    const qsizetype last = settings.value({setting.parent, setting.name});
+    if (setting.parent == 0) {
+        if (!setting.misread)
+            tell(Severity::Warning, "unreachable-key"_L1,
+                 "no lookup finds the key "_L1 + excerpt(setting.name) + " outside any group"_L1,
+                 index);
+    } else if (last != index) {
+        tell(Severity::Warning, "duplicate-key"_L1,
+             "the key "_L1 + excerpt(setting.name)
+                 + " is overridden: it stands in this group again"_L1
+                 + (entry(last).at.line > 0 ? u" (line %1)"_s.arg(entry(last).at.line) : QString()),
+             index);
+    } else if (setting.misread) {
+        return;
+    } else if (setting.name.contains(u'.')) {
         tell(Severity::Warning, "unreachable-key"_L1,
              "no lookup finds the key "_L1 + excerpt(setting.name)
                  + ": a `.` stands between the names of groups"_L1,
              index);
-    else if (setting.parent == top && !group.misread)
-        tell(Severity::Warning, "unknown-key"_L1,
-             "nothing reads the key "_L1 + excerpt(outline.pathOf(index)), index);
-    else if (group.parent == top && tools::isKnownGroup(group.name))
-        checkKnownSetting(index);
-}
-
-/// Whether the group has the key before; tells it then.
-bool Checker::checkDuplicate(qsizetype index)
-{
-    const Entry &setting = entry(index);
-    const Name name(setting.parent, setting.name);
-    if (!settings.contains(name)) {
-        settings.insert(name, index);
-        return false;
+    } else if (setting.parent == top && !group.misread) {
+        tell(Severity::Warning, "unknown-key"_L1, "nothing reads the key "_L1 + shown(index),
+             index);
+    } else if (group.parent == top && tools::isKnownGroup(group.name)) {
+        checkReadSetting(index);
     }
-    const qint64 line = entry(settings.value(name)).at.line;
-    tell(Severity::Warning, "duplicate-key"_L1,
-         "the key "_L1 + excerpt(setting.name) + " stands in this group before"_L1
-             + (line > 0 ? " (line "_L1 + QString::number(line) + u')' : QString())
-             + ": only the last value counts"_L1,
-         index);
-    return true;
 }
 
 /// What a person may have meant by an unknown key of a group.
-QString Checker::wayOut(const QString &group, const QString &key)
+QString wayOut(const QString &group, const QString &key)
 {
     const QStringList others = tools::groupsWith(key);
     return others.isEmpty() ? tools::suggestion(key, tools::knownWords(group))
@@ -171,53 +170,104 @@ QString Checker::wayOut(const QString &group, const QString &key)
 }
 
 /// A setting of a group that is read.
-void Checker::checkKnownSetting(qsizetype index)
+void Checker::checkReadSetting(qsizetype index)
 {
     const Entry &setting = entry(index);
     const QString &group = entry(setting.parent).name;
     const Setting *const known = tools::findSetting(group, setting.name);
+    qsizetype &found = effective[group + u'.' + setting.name];
     if (!known) {
         tell(Severity::Warning, "unknown-key"_L1,
-             "nothing reads the key "_L1 + excerpt(outline.pathOf(index))
+             "nothing reads the key "_L1 + shown(index)
                  + (++unknownKeys <= tools::MostOfACode ? wayOut(group, setting.name) : QString()),
              index);
-        return;
-    }
-    const bool ranOver = setting.value.contains(u'\n'); // which has been told
-    if (const std::optional<ValueFault> fault =
-            valueFault(outline.pathOf(index), *known, setting.value);
-        fault && !ranOver)
-        tellValue(Severity::Error, fault->code, fault->text, index);
-    qsizetype &found = effective[group + u'.' + setting.name];
-    if (found == 0 || entry(found).value.isEmpty())
-        found = index;
-    else
+    } else if (found > 0 && !entry(found).value.isEmpty()) {
         tell(Severity::Warning, "unreachable-key"_L1,
-             "no lookup finds this "_L1 + excerpt(outline.pathOf(index))
-                 + ": an earlier group of the name has it"_L1,
+             "no lookup finds this "_L1 + shown(index) + ": an earlier group of the name has it"_L1,
              index);
+    } else {
+        found = index;
+        if (!setting.value.contains(u'\n')) // that it ran over its line has been told
+            checkValue(index, *known);
+    }
+}
+
+void Checker::checkValue(qsizetype index, const Setting &setting)
+{
+    const QString &value = entry(index).value;
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    switch (setting.kind) {
+    case SettingKind::Number:
+        if (!isNumber)
+            tellValue(Severity::Error, "not-a-number"_L1,
+                      shown(index) + " wants a whole number, not "_L1 + excerpt(value)
+                          + ": 0 is read"_L1,
+                      index);
+        else if (number < 0 || number > setting.most)
+            tellValue(
+                Severity::Error, "out-of-range"_L1,
+                shown(index)
+                    + u" is %1, which is not between 0 and %2"_s.arg(number).arg(setting.most),
+                index);
+        break;
+    case SettingKind::Switch:
+        if (value != "true"_L1 && value != "false"_L1)
+            tellValue(Severity::Error, "not-a-switch"_L1,
+                      shown(index) + " is "_L1 + excerpt(value)
+                          + R"(, neither "true" nor "false": it is off)"_L1,
+                      index);
+        break;
+    case SettingKind::LogLevel:
+        checkWord(index, {u"DEBUG"_s, u"INFO"_s, u"WARNING"_s, u"ERROR"_s, u"FATAL"_s},
+                  u"every line is logged"_s);
+        break;
+    case SettingKind::LogType:
+        checkWord(index, {u"APPEND"_s, u"OVERWRITE"_s}, u"nothing is logged"_s);
+        break;
+    default:
+        break;
+    }
+}
+
+/// A value that must be one of some words, in any letter case.
+void Checker::checkWord(qsizetype index, const QStringList &words, const QString &otherwise)
+{
+    const QString &value = entry(index).value;
+    if (!words.contains(value, Qt::CaseInsensitive))
+        tellValue(Severity::Error, "unknown-word"_L1,
+                  shown(index) + " is "_L1 + excerpt(value) + ": "_L1 + otherwise
+                      + tools::suggestion(value, words),
+                  index);
 }
 
 /// The number that a document reads; 0 for one that is not there or is none.
-int Checker::number(const QString &group, const QString &word) const
+int Checker::number(const QString &group, QLatin1StringView word) const
 {
-    const qsizetype found = effective.value(group + u'.' + word);
-    return found > 0 ? entry(found).value.toInt() : 0;
+    return entry(effective.value(group + u'.' + word)).value.toInt(); // the file has no value
 }
 
 void Checker::checkColumns()
 {
+    constexpr qint64 Separators = 3; // " x "
     for (const QString &group : tools::knownGroups()) {
-        const qsizetype first = groups.value({top, group}, -1);
+        const qsizetype first = groups.value(group, -1);
         if (first < 0 || !tools::isDocumentGroup(group))
             continue;
-        const ColumnWidths widths{
-            number(group, u"quantityFieldWidth"_s), number(group, u"priceFieldWidth"_s),
-            number(group, u"totalPriceFieldWidth"_s), number(group, u"paperWidth"_s)};
-        const qsizetype paper = effective.value(group + u'.' + "paperWidth"_L1);
-        if (const QString fault = columnFault(widths); !fault.isEmpty())
-            tell(Severity::Error, "columns"_L1, excerpt(outline.pathOf(first)) + ": "_L1 + fault,
-                 paper > 0 ? paper : first);
+        const int set = number(group, "paperWidth"_L1);
+        const qint64 paper = set == 0 ? DevicePaperWidth : set;
+        const qint64 columns = qint64(number(group, "quantityFieldWidth"_L1))
+                               + number(group, "priceFieldWidth"_L1)
+                               + number(group, "totalPriceFieldWidth"_L1) + Separators;
+        if (columns < paper)
+            continue;
+        const qsizetype width = effective.value(group + ".paperWidth"_L1);
+        tell(Severity::Error, "columns"_L1,
+             shown(first)
+                 + u": quantity, price and total take %1 characters with what stands between them, "
+                   "the paper has %2: nothing is left for the description"_s.arg(columns)
+                       .arg(paper),
+             width > 0 ? width : first);
     }
 }
 
@@ -225,9 +275,9 @@ void Checker::checkLanguage()
 {
     const qsizetype file = effective.value(u"language.file"_s);
     const qsizetype folder = effective.value(u"language.basedir"_s);
-    const QString base = folder > 0 ? entry(folder).value : QString();
-    const QString name = file > 0 ? entry(file).value : QString();
-    const qsizetype subject = file > 0 && !name.isEmpty() ? file : folder;
+    const QString &base = entry(folder).value;
+    const QString &name = entry(file).value;
+    const qsizetype subject = name.isEmpty() ? folder : file;
     if (name == "/"_L1 && !hasTranslations(base))
         tellValue(Severity::Warning, "language-file"_L1,
                   "there is no language file "_L1 + excerpt(base + "/zentaro_*.qm"_L1), subject);
@@ -257,6 +307,36 @@ void Checker::tellValue(Severity severity, QLatin1StringView code, const QString
 std::vector<Finding> checkSettings(const Outline &outline)
 {
     return Checker(outline).check();
+}
+
+std::vector<Finding> findingsIn(const Outline &outline)
+{
+    std::vector<Finding> findings = outline.faults;
+    for (Finding &finding : checkSettings(outline))
+        findings.push_back(std::move(finding));
+    return findings;
+}
+
+QString unreadKey(const QString &key)
+{
+    const QStringList names = key.split(u'.');
+    if (names.size() == 3 && names[0] == tools::ProductGroup
+        && tools::findSetting(names[1], names[2]))
+        return {};
+    QStringList keys;
+    QStringList words; // taken for what a name without any point may mean
+    for (const QString &group : tools::knownGroups()) {
+        for (const QString &word : tools::knownWords(group)) {
+            keys.append(tools::ProductGroup + u'.' + group + u'.' + word);
+            words.append(word);
+        }
+    }
+    // A key without the product's name, or without any group, is taken for what it is the end of.
+    const auto longer = std::ranges::find_if(
+        keys, [&](const QString &known) { return known.endsWith(u'.' + key); });
+    return "nothing reads the key "_L1 + excerpt(key)
+           + (longer == keys.end() ? tools::suggestion(key, names.size() > 1 ? keys : words)
+                                   : " (did you mean `"_L1 + *longer + "`?)"_L1);
 }
 
 } // namespace configtool

@@ -2,9 +2,11 @@
 #include "tools/config/source.h"
 
 #include "app/ztconfiguration.h"
+#include "config/newfile.h"
 
 #include <QFile>
-#include <QFileInfo>
+
+#include <filesystem>
 
 namespace configtool {
 
@@ -16,6 +18,7 @@ QList<QCommandLineOption> sourceOptions()
         {{u"f"_s, u"file"_s},
          u"Works on FILE instead of ~/.zentaro/conf/zentaro.conf."_s,
          u"FILE"_s},
+        {u"queue"_s, u"Works on the settings of the print queue QUEUE."_s, u"QUEUE"_s},
         {u"format"_s,
          u"The format of the file, cfg or xml; xml for a name that ends in .xml, otherwise cfg, "
          u"unless given."_s,
@@ -30,14 +33,24 @@ void addSourceOptions(tools::CommandLine &line)
 
 std::optional<Source> sourceOf(const tools::CommandLine &line)
 {
-    const QString path =
-        line.isSet(u"file"_s) ? line.value(u"file"_s) : ZTConfiguration::userFile();
+    const QString queue = line.value(u"queue"_s);
+    QString path = ZTConfiguration::userFile();
+    QString mistake;
+    if (line.isSet(u"file"_s))
+        path = line.value(u"file"_s);
+    else if (line.isSet(u"queue"_s))
+        path = ZTConfiguration::queueFile(queue);
     const QString format = line.isSet(u"format"_s) ? line.value(u"format"_s) : formatOf(path);
-    if (format != "cfg"_L1 && format != "xml"_L1) {
-        line.wrongUsage("unknown format `"_L1 + format + "`, it is cfg or xml"_L1);
-        return std::nullopt;
-    }
-    return Source{path, format};
+    if (line.isSet(u"queue"_s) && !ZTConfiguration::isQueueName(queue))
+        mistake = u'`' + queue + "` is no name of a print queue"_L1;
+    else if (line.isSet(u"queue"_s) && line.isSet(u"file"_s))
+        mistake = u"--file and --queue name one file each"_s;
+    else if (format != "cfg"_L1 && format != "xml"_L1)
+        mistake = "unknown format `"_L1 + format + "`, it is cfg or xml"_L1;
+    else
+        return Source{path, format};
+    line.wrongUsage(mistake);
+    return std::nullopt;
 }
 
 QString formatOf(const QString &path)
@@ -45,15 +58,11 @@ QString formatOf(const QString &path)
     return path.endsWith(".xml"_L1, Qt::CaseInsensitive) ? u"xml"_s : u"cfg"_s;
 }
 
-bool isReadable(const tools::Call &call, const Source &source)
+bool isMissing(const QString &path)
 {
-    const QFileInfo info(source.path);
-    const bool isStream = info.exists() && !info.isFile() && !info.isDir();
-    QFile file(source.path);
-    if (isStream || file.open(QIODevice::ReadOnly))
-        return true;
-    tools::tellTrouble(call, source.path, file.errorString());
-    return false;
+    std::error_code error;
+    return std::filesystem::status(QFile::encodeName(path).constData(), error).type()
+           == std::filesystem::file_type::not_found;
 }
 
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
@@ -66,13 +75,24 @@ std::optional<QByteArray> contentOf(const tools::Call &call, const Source &sourc
              !read.isEmpty() && content.size() <= MaxContentBytes; read = file.read(Portion))
             content += read;
     }
-    if (file.error() != QFile::NoError)
+    if (isMissing(source.path))
+        tools::tellTrouble(call, source.path,
+                           file.errorString() + "; `zentaro config init` writes one"_L1);
+    else if (file.error() != QFile::NoError)
         tools::tellTrouble(call, source.path, file.errorString());
     else if (content.size() > MaxContentBytes)
         tools::tellTrouble(call, source.path, u"more than 64 MiB, which nothing reads"_s);
     else
         return content;
     return std::nullopt;
+}
+
+int writeContent(const tools::Call &call, const QString &path, const QByteArray &content)
+{
+    libconfig::NewFile file(path);
+    if (file.open() && file.write(content))
+        return tools::Fine;
+    return tools::tellTrouble(call, path, file.errorString());
 }
 
 } // namespace configtool

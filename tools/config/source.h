@@ -20,23 +20,25 @@ struct Source
     QString format; ///< "cfg" or "xml"
 };
 
-/// `--file` and `--format`.
+/// `--file`, `--queue` and `--format`.
 QList<QCommandLineOption> sourceOptions();
 /// Adds them to a command's options.
 void addSourceOptions(tools::CommandLine &line);
 
-/// What these options say: the user's own file unless they name another, in the format that its
-/// name ends in unless they name one. Nothing for an unknown format, which is told.
+/// What these options say: the user's own file unless they name another or a print queue, in the
+/// format that its name ends in unless they name one. Nothing for an unknown format or what is no
+/// name of a queue, which is told.
 std::optional<Source> sourceOf(const tools::CommandLine &line);
 
 /// "xml" for a name that ends in `.xml`, otherwise "cfg".
 QString formatOf(const QString &path);
+/// Whether there is no such file; false where that cannot be seen.
+bool isMissing(const QString &path);
 
-/// Whether the file can be read; false when it cannot, which is told. A pipe stays untouched: it
-/// gives its content once.
-bool isReadable(const tools::Call &call, const Source &source);
 /// The content of the file; nothing when it cannot be read or has more bytes than the store reads,
-/// which is told.
+/// which is told, and for one that is missing what writes it.
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source);
+/// Writes a file, all at once; answers an exit status. What went wrong has been told.
+int writeContent(const tools::Call &call, const QString &path, const QByteArray &content);
 
 } // namespace configtool

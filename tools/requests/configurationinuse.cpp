@@ -5,30 +5,14 @@
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "text/standardoutput.h"
-#include "tools/config/outline.h"
+#include "tools/config/settingcheck.h"
 #include "tools/config/source.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace tools {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Tells that the store leaves away a part of the file, about which it says nothing. A pipe, which
-/// gives its content once, is left alone.
-void tellFaults(const Call &call, const configtool::Source &source)
-{
-    if (!QFileInfo(source.path).isFile())
-        return;
-    const std::optional<QByteArray> content = configtool::contentOf(call, source);
-    if (content && hasError(configtool::readOutline(*content, source.format).faults))
-        tellTrouble(call, source.path, u"it has faults, which `zentaro config check` tells"_s);
-}
-
-} // namespace
 
 void addConfigurationOption(CommandLine &line)
 {
@@ -47,18 +31,18 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
 {
     const bool isOwn = fileName.isEmpty();
     const QString path = isOwn ? ZTConfiguration::userFile() : fileName;
-    missing = isOwn && !QFile::exists(path);
-    if (QFile file(path); !missing && !file.open(QIODevice::ReadOnly)) {
-        tellTrouble(call, path, file.errorString());
+    const configtool::Source source{path, isOwn ? u"cfg"_s : configtool::formatOf(path)};
+    missing = isOwn && configtool::isMissing(path);
+    const auto content = missing ? QByteArray() : configtool::contentOf(call, source);
+    if (!content)
         return false;
-    }
     // The first use reads the user's own file, whose absence is told by whoever minds it.
     const text::LineSink quiet(text::LineSink::drop);
     ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();
     if (!isOwn)
-        configuration->readFile(path, configtool::formatOf(path));
-    if (!missing)
-        tellFaults(call, {path, isOwn ? u"cfg"_s : configtool::formatOf(path)});
+        configuration->readContent(*content, path, source.format);
+    if (hasError(configtool::findingsIn(configtool::readOutline(*content, source.format))))
+        tellTrouble(call, path, u"it has faults, which `zentaro config check` tells"_s);
     QCoreApplication::removeTranslator(&translator);
     if (loadTranslation(translator, *configuration))
         QCoreApplication::installTranslator(&translator);

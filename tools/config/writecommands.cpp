@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "tools/config/subcommands.h"
+
+#include "config/config.h"
+#include "tools/config/losses.h"
+#include "tools/config/settingcheck.h"
+#include "tools/config/settingedit.h"
+#include "tools/config/source.h"
+#include "tools/knownkeys.h"
+#include "tools/terminal.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace configtool {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Tells on standard error why a file stays as it is, unless it is told to be changed.
+int refuse(const tools::Call &call, const QString &reason, int exitStatus = tools::Findings)
+{
+    tools::printError(call.command + ": "_L1 + reason + u'\n');
+    return exitStatus;
+}
+
+/// Whether the file may be written, after a word with the person where there is a reason not to.
+bool isAllowed(const tools::Call &call, const QString &reason)
+{
+    if (tools::canAsk())
+        return tools::confirmed(call.command + ": "_L1 + reason + "; write it all the same?"_L1);
+    refuse(call, reason + "; --force writes it all the same"_L1);
+    return false;
+}
+
+/// The errors of a configuration that another does not have.
+std::vector<Finding> newErrors(const QByteArray &content, const QByteArray &before)
+{
+    const std::vector<Finding> old = findingsIn(readCfgOutline(before));
+    std::vector<Finding> found = findingsIn(readCfgOutline(content));
+    std::erase_if(found, [&old](const Finding &finding) {
+        return finding.severity != Severity::Error
+               || std::ranges::find(old, finding.text, &Finding::text) != old.end();
+    });
+    return found;
+}
+
+/// A change of one key in the content of a file.
+using Change = EditedContent (*)(const QByteArray &content, const QString &key,
+                                 const QString &value);
+
+/// What `set` and `unset` share: changes keys, each of which `step` words name, the key first.
+int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype step, Change change)
+{
+    addSourceOptions(line);
+    line.addOption({u"all"_s, u"Takes KEY for a key word, as paperWidth, in the groups of all "
+                              "documents that have it."_s});
+    line.addOption({u"force"_s, u"Also what `config check` would tell as an error, and keys that "
+                                "nothing reads."_s});
+    if (const auto done = line.read(int(step), -1))
+        return *done;
+    const QStringList words = line.arguments();
+    if (words.size() % step != 0)
+        return line.wrongUsage("the value of `"_L1 + words.last() + "` is missing"_L1);
+    const std::optional<Source> source = sourceOf(line);
+    if (source && source->format != "cfg"_L1)
+        return line.wrongUsage(u"only a file in the format cfg is changed in place"_s);
+    const std::optional<QByteArray> content = source ? contentOf(call, *source) : std::nullopt;
+    if (!content)
+        return tools::Trouble;
+
+    QByteArray changed = *content;
+    for (qsizetype i = 0; i < words.size(); i += step) {
+        QStringList keys{words[i]};
+        if (line.isSet(u"all"_s)) {
+            keys = tools::groupsWith(words[i]).filter(u"doc"_s);
+            for (QString &key : keys)
+                key = tools::ProductGroup + u'.' + key + u'.' + words[i];
+        }
+        const QString unread = keys.isEmpty() ? unreadKey(words[i]) : unreadKey(keys.first());
+        if (!unread.isEmpty() && (keys.isEmpty() || !line.isSet(u"force"_s)))
+            return refuse(call, unread);
+        for (const QString &key : keys) {
+            auto [edited, fault] = change(changed, key, words.value(i + step - 1));
+            if (!fault.isEmpty())
+                return refuse(call, tools::inOneLine(key) + ": "_L1 + fault, tools::Trouble);
+            changed = std::move(edited);
+        }
+    }
+    if (const auto errors = newErrors(changed, *content);
+        !errors.empty() && !line.isSet(u"force"_s)) {
+        tools::printError(tools::findingLines(source->path, errors));
+        return refuse(call, u"nothing was changed; --force writes it all the same"_s);
+    }
+    return changed == *content ? tools::Fine : writeContent(call, source->path, changed);
+}
+
+} // namespace
+
+int setValues(const tools::Call &call)
+{
+    tools::CommandLine line(call,
+                            u"Gives keys such as zentaro.doc.paperWidth a value, and leaves "
+                            u"every other byte of the file as it is.\nSays nothing when it is "
+                            u"done; changes nothing where one value is refused."_s);
+    line.addArgument(u"KEY"_s, u"A dotted key."_s, u"KEY VALUE..."_s);
+    line.addArgument(u"VALUE"_s, u"Its value."_s, u"..."_s);
+    return changeValues(call, line, 2, withSetting);
+}
+
+int unsetValues(const tools::Call &call)
+{
+    tools::CommandLine line(call,
+                            u"Takes the settings of keys such as zentaro.doc.paperWidth away, "
+                            u"so that they have their defaults."_s);
+    line.addArgument(u"KEY"_s, u"A dotted key."_s, u"KEY..."_s);
+    return changeValues(call, line, 1,
+                        [](const QByteArray &content, const QString &key, const QString &) {
+                            return withoutSetting(content, key);
+                        });
+}
+
+int convert(const tools::Call &call)
+{
+    tools::CommandLine line(call,
+                            u"Writes the configuration to the file OUT, or to standard output "
+                            u"for `-`.\nTells what would be lost, and then writes only when "
+                            u"asked to again, as over a file that exists."_s);
+    addSourceOptions(line);
+    line.addOption({u"to"_s, u"The format to write, cfg or xml."_s, u"FORMAT"_s});
+    line.addOption({u"force"_s, u"Writes without asking."_s});
+    line.addArgument(u"OUT"_s, u"The file to write."_s);
+    if (const auto done = line.read(1, 1))
+        return *done;
+    const QString format = line.value(u"to"_s);
+    if (format != "cfg"_L1 && format != "xml"_L1)
+        return line.wrongUsage(u"--to cfg or --to xml is needed"_s);
+    const std::optional<Source> source = sourceOf(line);
+    const std::optional<QByteArray> content = source ? contentOf(call, *source) : std::nullopt;
+    if (!content)
+        return tools::Trouble;
+    const Outline outline = readOutline(*content, source->format);
+    libconfig::Config store;
+    store.readContent(*content, source->path, source->format);
+    const std::optional<QByteArray> written = store.writtenAs(format);
+    if (!written)
+        return refuse(call, u"more than 64 MiB would be written, which nothing reads"_s,
+                      tools::Trouble);
+
+    const QString target = line.arguments().first();
+    const bool toOutput = target == "-"_L1 || target == "/dev/stdout"_L1;
+    std::vector<Finding> lost = outline.losses;
+    std::ranges::move(lossesInFormat(outline, format), std::back_inserter(lost));
+    tools::printError(tools::findingLines(source->path, tools::abridged(lost)));
+    QString reason;
+    if (!lost.empty())
+        reason = u"the file written lacks what is listed above"_s;
+    else if (!toOutput && QFileInfo::exists(target))
+        reason = tools::inOneLine(target) + " exists"_L1;
+    if (!reason.isEmpty() && !line.isSet(u"force"_s) && !isAllowed(call, reason))
+        return tools::Findings;
+    return toOutput ? tools::printBytes(*written) : writeContent(call, target, *written);
+}
+
+} // namespace configtool
