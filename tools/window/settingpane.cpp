@@ -116,7 +116,8 @@ QWidget *SettingPane::newEditor(const QString &value)
     case SettingKind::LogType:
         return newChoice(value, {u"APPEND"_s, u"OVERWRITE"_s});
     case SettingKind::Text:
-    case SettingKind::Path:
+    case SettingKind::Folder:
+    case SettingKind::FileName:
         break;
     }
     return newLine(value);
@@ -144,7 +145,7 @@ QWidget *SettingPane::newLine(const QString &value)
 {
     auto *const line = new QLineEdit(value);
     connect(line, &QLineEdit::textEdited, this, &SettingPane::tell);
-    if (!setting || setting->kind != SettingKind::Path)
+    if (!setting || setting->kind != SettingKind::Folder)
         return line;
     QAction *const choose =
         line->addAction(style()->standardIcon(QStyle::SP_DirOpenIcon), QLineEdit::TrailingPosition);
