@@ -145,8 +145,7 @@ TEST(Manual, NamesEveryCodeOfTheConfigurationsFindings)
     const QString manual = manualPage(u"zentaro-config.1"_s);
     static const QRegularExpression code(u"\"([a-z]+(?:-[a-z]+)+)\"_L1"_s);
     int codes = 0;
-    for (const char *const file :
-         {"cfgoutline", "losses", "settingcheck", "valuecheck", "xmloutline"}) {
+    for (const char *const file : {"cfgoutline", "losses", "outline", "settingcheck"}) {
         const QString source = QString::fromUtf8(support::readFile(
             support::sourceDir() + u"/tools/config/"_s + QLatin1StringView(file) + u".cpp"_s));
         for (const auto &match : code.globalMatch(source)) {

@@ -155,7 +155,8 @@ private:
             return false;
         if (configuration.isMissing())
             tools::tellTrouble(call, nameOfFirst(),
-                               u"no such file: every setting has its default"_s);
+                               u"no such file: every setting has its default; `zentaro config "
+                               "init` writes one"_s);
         return true;
     }
 
