@@ -39,8 +39,16 @@ const QString noTree = u"Tree \n"_s;
 
 TEST(Config, AnswersDottedKeys)
 {
-    const Loaded config(
-        support::readFile(support::sourceDir() + u"/tests/golden/config/worked-example.cfg"_s));
+    const Loaded config(R"(zentaro : {
+    logger : {
+        level = "WARNING";
+        filename = print.log;
+    };
+    language : {
+        basedir = " /usr/share/pos/lang ";
+    };
+};
+)");
     const struct
     {
         QString key, value;

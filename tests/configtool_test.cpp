@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace configtool;
@@ -19,6 +20,7 @@ using namespace configtool;
 namespace {
 
 const QString root = support::sourceDir() + u'/';
+const QDir configurations(root + u"tests/golden/config"_s);
 
 /// The file of the form `from` written in the form `to`, whether it reads back otherwise, and what
 /// is named as lost then.
@@ -43,10 +45,11 @@ QString writtenAs(const QString &to, const QByteArray &content, const QString &f
 
 /// What becomes of a configuration: its settings, with what looking them up answers, its tree, the
 /// files that are written from it, and what checking it finds.
-QString outcomeOf(const QString &path)
+QByteArray outcomeOf(const QByteArray &content, const QString &form)
 {
-    const QByteArray content = support::readFile(path);
-    const QString form = path.section(u'.', -1);
+    const support::Folder folder;
+    const QString path = folder.path(u"conf"_s);
+    support::writeFile(path, content);
     const libconfig::Config config(path, form);
     QString told = u"== settings\n"_s;
     config.forEachSetting([&](const QString &key, const QString &value) {
@@ -58,21 +61,67 @@ QString outcomeOf(const QString &path)
     const Outline outline = readOutline(content, form);
     std::vector<Finding> findings = checkSettings(outline);
     findings.insert(findings.end(), outline.faults.begin(), outline.faults.end());
-    return told + "== found\n"_L1 + tools::findingLines(u"file"_s, tools::abridged(findings));
+    told += "== found\n"_L1 + tools::findingLines(u"file"_s, tools::abridged(findings));
+    return told.toUtf8();
 }
 
-TEST(ConfigGolden, IsAsItsReferences)
+/// A line of a case's file: `\xHH` is a byte, `\\` a backslash, and a `\` at the end takes the line
+/// end away.
+QByteArray unescaped(const QByteArray &line)
 {
-    const QDir folder(root + u"tests/golden/config"_s);
-    const QStringList names = folder.entryList({u"*.cfg"_s, u"*.xml"_s});
-    EXPECT_GE(names.size(), 60);
-    for (const QString &name : names) {
-        SCOPED_TRACE(name.toStdString());
-        const QString path = folder.filePath(name);
-        support::expectReference(path.chopped(3) + u"txt"_s, outcomeOf(path).toUtf8());
+    QByteArray bytes;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        if (line[i] != '\\') {
+            bytes += line[i];
+        } else if (line.sliced(i).startsWith("\\x")) {
+            bytes += QByteArray::fromHex(line.sliced(i + 2, 2));
+            i += 3;
+        } else if (++i < line.size()) {
+            bytes += line[i];
+        } else {
+            return bytes;
+        }
     }
-    EXPECT_EQ(folder.entryList({u"*.txt"_s}).size(), names.size());
+    return bytes + '\n';
 }
+
+class ConfigGolden : public testing::TestWithParam<QString>
+{
+};
+
+/// A file holds cases: under a heading (`### NAME.FORM`) the lines of a configuration (`| `), and
+/// then what becomes of it.
+TEST_P(ConfigGolden, IsAsItsReference)
+{
+    const QString path = configurations.filePath(GetParam());
+    QByteArray told;
+    QByteArray content;
+    QByteArray form; // of the case whose lines are read
+    const auto finish = [&] {
+        if (!form.isEmpty())
+            told += outcomeOf(std::exchange(content, {}), QString::fromLatin1(form));
+        form.clear();
+    };
+    for (const QByteArray &line : (support::readFile(path) + '\n').split('\n')) {
+        if (!form.isEmpty() && line.startsWith("| ")) {
+            content += unescaped(line.sliced(2));
+            told += line + '\n';
+            continue;
+        }
+        finish();
+        if (line.startsWith("### ")) {
+            form = line.last(3);
+            told += line + '\n';
+        }
+    }
+    support::expectReference(path, told);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Golden, ConfigGolden, testing::ValuesIn(configurations.entryList({u"*.txt"_s})),
+    [](const auto &test) {
+        return QString(test.param).chopped(4).replace(u'-', u'_').toStdString();
+    });
 
 TEST(ConfigLosses, AreNamedWhateverTheFile)
 {

@@ -54,7 +54,7 @@ void expectReference(const QString &reference, const QByteArray &found)
     const Folder folder;
     writeFile(folder.path(u"found"_s), found);
     QProcess diff;
-    diff.start(u"diff"_s, {u"-au"_s, reference, folder.path(u"found"_s)});
+    diff.start(u"diff"_s, {u"-au"_s, u"-F^#"_s, reference, folder.path(u"found"_s)});
     diff.waitForFinished();
     ADD_FAILURE() << diff.readAll().toStdString();
 }
