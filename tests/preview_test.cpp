@@ -39,6 +39,7 @@ const struct
     {"columns", {u"--columns"_s, u"24"_s, u"@/tests/golden/preview/sold.xml"_s}, 0},
     {"printfile", {u"@/tests/golden/odd/nested-and-text.prn"_s}, 0},
     {"odd", {u"@/tests/golden/preview/odd.prn"_s}, 0},
+    {"edges", {u"@/tests/golden/preview/edges.prn"_s}, 0},
     {"commands", {u"--columns"_s, u"23"_s, u"@/tests/golden/preview/commands.prn"_s}, 0},
     {"several",
      {u"@/samples/printAbstractOrder.xml"_s, u"@/tests/golden/paper32/printPartialOrder.prn"_s},
@@ -115,6 +116,9 @@ TEST(Preview, TellsWhatIsWrong)
     support::writeFile(home.path(u"broken.conf"_s), "zentaro: {");
     support::writeFile(home.path(u"unknown.xml"_s), "<p>\n<method name=\"printNothing\"/></p>");
     support::writeFile(home.path(u"empty"_s), "");
+    support::writeFile(home.path(u"blank.xml"_s), "\n<print a=1/>");
+    support::writeFile(home.path(u"large"_s), "");
+    ASSERT_TRUE(QFile::resize(home.path(u"large"_s), preview::MostBytes + 1));
     const struct
     {
         QStringList words;
@@ -137,6 +141,8 @@ TEST(Preview, TellsWhatIsWrong)
         {{home.path(u"broken.xml"_s)}, 1, "line 4: the print run stops reading here"},
         {{home.path(u"unknown.xml"_s)}, 1, "File Format Not Supported"},
         {{home.path(u"empty"_s)}, 0, "nothing is printed"},
+        {{home.path(u"blank.xml"_s)}, 1, "line 2: the print run stops reading here"},
+        {{home.path(u"large"_s)}, 2, "it has more than 67108864 bytes"},
         {{sourceDir() + u"/samples"_s, u"--against"_s, home.configurationPath()}, 0, ""},
     };
     for (const auto &row : rows) {
@@ -188,6 +194,26 @@ QByteArray bytesOf(const std::vector<preview::PrintLine> &lines)
         EXPECT_EQ(line.next, bytes.size());
     }
     return bytes;
+}
+
+TEST(PaperRules, CountsWhatRunsOverTheEdge)
+{
+    const struct
+    {
+        QStringView text;
+        int beyond;
+    } rows[] = {
+        {u"", 0},           {u"12345678  ", 0}, {u"1234567890", 2}, {u" 123456789 ", 2},
+        {u"  ========", 0}, // a rule that is centred
+        {u"=========", 1},  {u" =======x", 1},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(tools::beyondEdge(row.text, 8), row.beyond) << row.text.toString().toStdString();
+    for (const QStringView number : {u"1", u"1.5", u".5"})
+        EXPECT_TRUE(tools::isFiscalNumber(number, u'.')) << number.toString().toStdString();
+    for (const QStringView number : {u"", u".", u"1.5.", u"-1", u"1,5", u"a"})
+        EXPECT_FALSE(tools::isFiscalNumber(number, u'.')) << number.toString().toStdString();
+    EXPECT_FALSE(tools::isFiscalNumber(QStringView(u"1.5")));
 }
 
 TEST(PrintFile, LosesNothing)

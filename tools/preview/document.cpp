@@ -11,7 +11,6 @@
 #include <QBuffer>
 
 #include <sys/mman.h>
-#include <unistd.h>
 
 namespace preview {
 
@@ -81,16 +80,6 @@ QString faultOf(TracingDevice &device, const TagPlaces &places)
                        : QString();
 }
 
-/// A file without a name that can be read again by its descriptor.
-std::unique_ptr<text::LocaleFile> memoryFile()
-{
-    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
-    auto file = std::make_unique<text::LocaleFile>();
-    file->limitTo(MostBytes);
-    file->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle);
-    return file;
-}
-
 } // namespace
 
 std::optional<Input> readInput(const tools::Call &call, const QString &name)
@@ -130,10 +119,12 @@ Document render(const QByteArray &request, bool traceElements)
 {
     Document document;
     document.codec = text::localeCodec();
-    std::unique_ptr<text::LocaleFile> printFile = memoryFile();
+    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
+    auto printFile = std::make_unique<text::LocaleFile>();
+    printFile->limitTo(MostBytes);
     QFile written;
-    if (!printFile->isOpen()
-        || !written.open(dup(printFile->handle()), QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
+    if (!written.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)
+        || !printFile->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         document.fault = u"there is no memory for the print file"_s;
         return document;
     }

@@ -85,9 +85,9 @@ public:
     {
         while (next < document.printFile.size() && wanted) {
             offset = next;
-            const PrintLine line = lineAt(document.printFile, offset, document.codec);
+            PrintLine line = lineAt(document.printFile, offset, document.codec);
             next = line.next;
-            draw(line);
+            draw(std::move(line));
         }
         tearOff();
     }
@@ -95,12 +95,12 @@ public:
 private:
     enum class Section { None, Listing, Fiscal };
 
-    void draw(const PrintLine &line);
-    void drawEmpty(const PrintLine &line);
+    void draw(PrintLine line);
+    void drawEmpty(PrintLine line);
     void open(Section kind, const PrintLine &line);
     void close(Section kind, const PrintLine &line);
     void tearOff();
-    void print(const PrintLine &line);
+    void print(PrintLine line);
     void printFiscal(const PrintLine &line);
     void beginOutside();
     Row row(Row::Kind kind);
@@ -117,11 +117,11 @@ private:
     bool wanted = true;
 };
 
-void Paper::draw(const PrintLine &line)
+void Paper::draw(PrintLine line)
 {
     switch (line.kind) {
     case LineKind::Empty:
-        return drawEmpty(line);
+        return drawEmpty(std::move(line));
     case LineKind::SectionStart:
         return open(Section::Listing, line);
     case LineKind::SectionEnd:
@@ -132,12 +132,12 @@ void Paper::draw(const PrintLine &line)
         return printFiscal(line);
     case LineKind::Printed:
     case LineKind::Unframed:
-        return print(line);
+        return print(std::move(line));
     }
 }
 
 /// An empty line opens a section: with the `j` after it, or alone where fiscal lines follow.
-void Paper::drawEmpty(const PrintLine &line)
+void Paper::drawEmpty(PrintLine line)
 {
     const LineKind following = next < document.printFile.size()
                                    ? lineAt(document.printFile, next, document.codec).kind
@@ -147,7 +147,7 @@ void Paper::drawEmpty(const PrintLine &line)
     if (following == LineKind::Fiscal || following == LineKind::FiscalEnd)
         open(Section::Fiscal, line);
     else
-        print(line);
+        print(std::move(line));
 }
 
 void Paper::open(Section kind, const PrintLine &line)
@@ -187,16 +187,16 @@ void Paper::tearOff()
     add(std::move(bottom));
 }
 
-void Paper::print(const PrintLine &line)
+void Paper::print(PrintLine line)
 {
     beginOutside();
     Row printed = row(Row::Kind::Line);
-    printed.text = line.text;
-    while (!printed.beyond().empty() && printed.text.back() == U' ')
-        printed.text.pop_back();
     printed.note =
         joined(faultOf(line), line.kind == LineKind::Empty ? QString() : faultOfEnd(line));
     printed.mark = printed.note.isEmpty() ? QString() : u"!"_s;
+    printed.text = std::move(line.text);
+    while (!printed.beyond().empty() && printed.text.back() == U' ')
+        printed.text.pop_back();
     add(std::move(printed));
 }
 

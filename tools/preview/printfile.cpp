@@ -35,13 +35,6 @@ int terminalColumns(char32_t c)
     return columns;
 }
 
-bool isSeen(char32_t c)
-{
-    const QChar::Category category = QChar::category(c);
-    return category != QChar::Other_Format && category != QChar::Separator_Line
-           && category != QChar::Separator_Paragraph && drawable(c) == c;
-}
-
 /// `"name"quantity*priceHdepartmentR`, and after it an adjustment, as `-1,50*5M` or `2*1M`.
 struct FiscalItem
 {
@@ -222,7 +215,7 @@ QString escaped(CellsView cells)
 {
     QString text;
     for (const char32_t c : cells)
-        text += isSeen(c) ? textOf({&c, 1}) : numberOf(c);
+        text += fillsOneColumn(c) ? textOf({&c, 1}) : numberOf(c);
     return text;
 }
 

@@ -77,7 +77,7 @@ struct FiscalReceipt
 /// sums are the printer's to make. Nothing for any other line.
 FiscalReceipt fiscalReceipt(CellsView command, int width);
 
-/// The cells in one line, as a terminal takes it: numbers for what is not to be seen.
+/// The cells as a terminal takes them: numbers for what does not fill one column.
 QString escaped(CellsView cells);
 
 } // namespace preview

@@ -154,7 +154,8 @@ QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options
     image.setColorTable(palette.table);
     image.setDotsPerMeterX(int(options.paper.dpi * InchesOfMetre));
     image.setDotsPerMeterY(int(options.paper.dpi * InchesOfMetre));
-    return image.save(&file, "PNG") ? QString() : file.errorString();
+    constexpr int Quality = 50; // saves half the time, for a file a sixth larger
+    return image.save(&file, "PNG", Quality) ? QString() : file.errorString();
 }
 
 QString faultOfPage(const QSize &dots)

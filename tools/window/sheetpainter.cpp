@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/window/sheetpainter.h"
 
-#include <QFontDatabase>
 #include <QRawFont>
 
 #include <algorithm>
@@ -39,13 +38,6 @@ CellsView shownBeyond(const Row &row)
     return row.beyond().substr(0, size_t(row.width));
 }
 
-/// Without any font the toolkit still lists some, all of whose characters are boxes: those have no
-/// tables.
-bool isUsable(const QString &family)
-{
-    return !QRawFont::fromFont(QFont(family)).fontTable("cmap").isEmpty();
-}
-
 /// The font whose characters are as wide as the cell, and spaced to fill it.
 QFont fontOf(int cell)
 {
@@ -81,18 +73,14 @@ bool isTorn(const Row &row)
 
 QString monospacedFamily()
 {
-    static const QString family = [] {
-        const QStringList present = QFontDatabase::families();
-        for (const auto wanted : {"DejaVu Sans Mono"_L1, "Liberation Mono"_L1}) {
-            if (present.contains(wanted) && isUsable(wanted))
-                return QString(wanted);
-        }
-        const auto found = std::ranges::find_if(present, [](const QString &family) {
-            return QFontDatabase::isFixedPitch(family) && isUsable(family);
-        });
-        return found == present.end() ? QString() : *found;
+    static const QString name = [] {
+        QFont font;
+        font.setFamilies({u"DejaVu Sans Mono"_s, u"Liberation Mono"_s, u"monospace"_s});
+        const QRawFont found = QRawFont::fromFont(font);
+        // Without any font the toolkit still finds one of boxes, which has no tables.
+        return found.fontTable("cmap").isEmpty() ? QString() : found.familyName();
     }();
-    return family;
+    return name;
 }
 
 SheetPainter::SheetPainter(const Sheet &sheet, const PaperSize &paper, Frame frame)
