@@ -39,19 +39,24 @@ constexpr quint16 Types = AbstractReceipt | AbstractInvoice;
 
 // In the order of documentMethods.
 constexpr auto summaries = std::to_array<QLatin1StringView>({
-    "The ticket that carries an order to where it is prepared: quantities and names"_L1,
-    "The pre-bill: items with prices"_L1,
-    "The receipt, one line per item"_L1,
-    "The invoice, one line per item"_L1,
-    "The delivery note: its items are printed as on a ticket"_L1,
-    "The fiscal receipt: a command line per item for the fiscal printer"_L1,
-    "An order in summary: it prints nothing"_L1,
-    "The receipt, one line per type of item"_L1,
-    "The invoice, one line per type of item"_L1,
-    "The fiscal receipt, one command line per type of item"_L1,
-    "The summary of a period"_L1,
-    "The items sold in a period"_L1,
-    "A customer's statement of account"_L1,
+    QLatin1StringView(QT_TRANSLATE_NOOP(
+        "Document",
+        "The ticket that carries an order to where it is prepared: quantities and names")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The pre-bill: items with prices")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The receipt, one line per item")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The invoice, one line per item")),
+    QLatin1StringView(
+        QT_TRANSLATE_NOOP("Document", "The delivery note: its items are printed as on a ticket")),
+    QLatin1StringView(QT_TRANSLATE_NOOP(
+        "Document", "The fiscal receipt: a command line per item for the fiscal printer")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "An order in summary: it prints nothing")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The receipt, one line per type of item")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The invoice, one line per type of item")),
+    QLatin1StringView(
+        QT_TRANSLATE_NOOP("Document", "The fiscal receipt, one command line per type of item")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The summary of a period")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The items sold in a period")),
+    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "A customer's statement of account")),
 });
 static_assert(summaries.size() == documentMethods.size());
 

@@ -23,8 +23,6 @@ struct TreeOutline
 /// being typed for it, too, and becomes its old one again where that is not entered.
 class ConfigTree : public QTreeWidget
 {
-    Q_DECLARE_TR_FUNCTIONS(ConfigTree)
-
 public:
     ConfigTree();
 
@@ -46,9 +44,9 @@ public:
     void removeSelected();
     /// Gives a setting another value. Changes of one `session` other than 0 are undone as one.
     void setValue(QTreeWidgetItem *item, const QString &value, int session = 0);
-    /// Gives the setting's value to every document of the file that has the setting, and the
-    /// setting where it is missing.
-    void setEverywhere(QTreeWidgetItem *item);
+    /// Gives the current setting's value to every document of the file, and the setting to those
+    /// that miss it.
+    void setEverywhere();
     /// Turns the current setting from true to false or the other way.
     void toggleSwitch();
 

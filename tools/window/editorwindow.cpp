@@ -55,7 +55,7 @@ ConfigEditor::ConfigEditor()
             [this](QListWidgetItem *row) { showFinding(findings->row(row)); });
     tree->changed = [this] { treeChanged(); };
     setting->edited = [this](const QString &value) { edit(value); };
-    setting->spread = [this] { tree->setEverywhere(tree->currentItem()); };
+    setting->spread = [this] { tree->setEverywhere(); };
 }
 
 void ConfigEditor::buildWindow()
@@ -135,6 +135,8 @@ void ConfigEditor::buildEditMenu()
                  QKeySequence(u"F3"_s), [this] { setting->focusEditor(); }),
         addEntry(edit, tr("Switch &On or Off"), QStyle::SP_DialogApplyButton,
                  QKeySequence(u"Ctrl+T"_s), [this] { tree->toggleSwitch(); }),
+        addEntry(edit, tr("Set &Everywhere"), QStyle::SP_DialogYesToAllButton,
+                 QKeySequence(u"Ctrl+E"_s), [this] { tree->setEverywhere(); }),
         addEntry(edit, tr("Re&move"), QStyle::SP_TrashIcon, QKeySequence::Delete,
                  [this] { tree->removeSelected(); })};
     tree->addActions(ofItems);
@@ -147,7 +149,7 @@ void ConfigEditor::buildEditMenu()
         if (findings->count() > 0)
             findings->setCurrentRow((findings->currentRow() + 1) % findings->count());
     });
-    findChild<QToolBar *>()->addActions({undo, redo, ofItems[0], ofItems[1], ofItems[5]});
+    findChild<QToolBar *>()->addActions({undo, redo, ofItems[0], ofItems[1], ofItems.last()});
 }
 
 void ConfigEditor::buildPaperMenu()

@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include <cstdlib>
 #include <unistd.h>
@@ -31,6 +33,13 @@ int edit(const tools::Call &call, const configtool::Source &source)
     const QApplication application(call.argc, call.argv);
     QGuiApplication::setDesktopFileName(u"zentaro-config-edit"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/zentaro.svg"_s));
+    QTranslator texts;
+    QTranslator buttons; // the toolkit's own, where they are installed
+    if (texts.load(QLocale::system(), u"window"_s, u"_"_s, u":/i18n"_s))
+        QCoreApplication::installTranslator(&texts);
+    if (buttons.load(QLocale::system(), u"qtbase"_s, u"_"_s,
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&buttons);
     configtool::ConfigEditor editor;
     if (!editor.open(source))
         return tools::Trouble;

@@ -6,6 +6,7 @@
 #include "config/configviews.h"
 #include "render/vocabulary.h"
 #include "text/standardoutput.h"
+#include "tools/check/elementtable.h"
 #include "tools/preview/difference.h"
 #include "tools/preview/document.h"
 
@@ -130,8 +131,14 @@ PaperPane::PaperPane(ConfigTree &tree)
 /// The samples, in the order of the methods.
 void PaperPane::addSamples()
 {
-    for (const DocumentMethod &method : documentMethods)
-        documents->addItem(method.name, SamplesFolder + method.name + ".xml"_L1);
+    for (size_t i = 0; i < documentMethods.size(); ++i) {
+        const QLatin1StringView method = documentMethods[i].name;
+        const char *const summary = requestcheck::summaryOf(qsizetype(i)).data();
+        documents->addItem(QCoreApplication::translate("Document", summary),
+                           SamplesFolder + method + ".xml"_L1);
+        documents->setItemData(int(i), QString(method), Qt::ToolTipRole);
+    }
+    documents->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
 void PaperPane::chooseDocument()
@@ -168,7 +175,7 @@ void PaperPane::follow(const QString &group)
     if (!isSample || groups.contains(group))
         return;
     for (int i = 0; i < documents->count(); ++i) {
-        if (groupOfMethod(documents->itemText(i)) == group)
+        if (groupOfMethod(documents->itemData(i, Qt::ToolTipRole).toString()) == group)
             return documents->setCurrentIndex(i);
     }
 }

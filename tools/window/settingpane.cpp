@@ -36,7 +36,7 @@ SettingPane::SettingPane()
     : layout(new QVBoxLayout(this))
     , title(new QLabel)
     , effect(new QLabel)
-    , everywhere(new QPushButton(tr("Set &Everywhere")))
+    , everywhere(new QPushButton(tr("Set Everywhere")))
 {
     effect->setWordWrap(true);
     title->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -18,8 +18,7 @@ class TextChange : public QUndoCommand
 {
 public:
     TextChange(ConfigTree &tree, QTreeWidgetItem *item, const QString &text, int session)
-        : QUndoCommand(ConfigTree::tr("change"))
-        , tree(tree)
+        : tree(tree)
         , item(item)
         , other(text)
         , session(session)
@@ -54,10 +53,9 @@ class PresenceChange : public QUndoCommand
 public:
     /// Adds `item`, or removes it where it stands in the tree. One that `isAdded` has joined it
     /// already.
-    PresenceChange(const QString &text, ConfigTree &tree, QTreeWidgetItem *item,
-                   QTreeWidgetItem *parent, int index, bool isAdded = false)
-        : QUndoCommand(text)
-        , tree(tree)
+    PresenceChange(ConfigTree &tree, QTreeWidgetItem *item, QTreeWidgetItem *parent, int index,
+                   bool isAdded = false)
+        : tree(tree)
         , item(item)
         , outside(item->parent() ? nullptr : item)
         , parent(parent)
@@ -140,8 +138,7 @@ void ConfigTree::commitData(QWidget *)
     const QString text = item->text(0);
     if (std::exchange(isNew, false)) {
         QTreeWidgetItem *const parent = item->parent();
-        changes.push(
-            new PresenceChange(tr("add"), *this, item, parent, parent->indexOfChild(item), true));
+        changes.push(new PresenceChange(*this, item, parent, parent->indexOfChild(item), true));
     } else if (text != before) {
         item->setText(0, before);
         changes.push(new TextChange(*this, item, text, 0));
@@ -172,11 +169,11 @@ void ConfigTree::removeSelected()
     if (chosen.isEmpty())
         return;
     clearSelection(); // the view would part it again for every item that goes
-    changes.beginMacro(tr("remove"));
+    changes.beginMacro({});
     std::ranges::reverse(chosen); // so that none moves those behind it
     for (QTreeWidgetItem *const item : std::as_const(chosen))
-        changes.push(new PresenceChange({}, *this, item, item->parent(),
-                                        item->parent()->indexOfChild(item)));
+        changes.push(
+            new PresenceChange(*this, item, item->parent(), item->parent()->indexOfChild(item)));
     changes.endMacro();
 }
 
@@ -187,11 +184,15 @@ void ConfigTree::setValue(QTreeWidgetItem *item, const QString &value, int sessi
         changes.push(new TextChange(*this, item, libconfig::settingText(key, value), session));
 }
 
-void ConfigTree::setEverywhere(QTreeWidgetItem *item)
+void ConfigTree::setEverywhere()
 {
+    QTreeWidgetItem *const item = currentItem();
+    const Setting *const setting = settingOf(item);
+    if (!setting || *setting->group != '\0')
+        return;
     const auto [key, value] = libconfig::settingOf(item->text(0));
     const QTreeWidgetItem *const product = item->parent()->parent();
-    changes.beginMacro(tr("change everywhere"));
+    changes.beginMacro({});
     for (int i = 0; i < product->childCount(); ++i) {
         QTreeWidgetItem *const group = product->child(i);
         if (!libconfig::isGroupItem(*group) || !tools::isDocumentGroup(group->text(0))
@@ -201,7 +202,7 @@ void ConfigTree::setEverywhere(QTreeWidgetItem *item)
             setValue(present, value);
         else
             changes.push(
-                new PresenceChange({}, *this, libconfig::newSettingItem(key, value), group, 0));
+                new PresenceChange(*this, libconfig::newSettingItem(key, value), group, 0));
     }
     changes.endMacro();
     showItem(item);
