@@ -6,7 +6,12 @@
 #include <atomic>
 
 /// The one object of a class in this process: created on first use, deleted at exit. Any thread may
-/// ask for it; `T` needs a default constructor.
+/// ask for it; `T` needs a default constructor. What may be done with the object is `T`'s to say: a
+/// ZTConfiguration may be asked by several threads, an HLogManager and its Loggers are used by one
+/// at a time, a DatabaseManager by one for good. doc/example.cpp takes all three.
+///
+///     const QString level =
+///         SyncSingleton<ZTConfiguration>::instance()->getStrValue(u"zentaro.logger.level"_s);
 template <typename T>
 class SyncSingleton
 {

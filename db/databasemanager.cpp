@@ -4,6 +4,7 @@
 #include "app/syncsingleton.h"
 #include "log/hlogmanager.h"
 
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSqlError>
 #include <QSqlRecord>
@@ -37,6 +38,35 @@ QString textOf(const QSqlError &error)
 {
     const QString text = error.databaseText();
     return text.isEmpty() || text == "()"_L1 ? error.driverText() : text;
+}
+
+/// Whether a statement of the query copies rows through the connection: the toolkit's driver takes
+/// no part in that, and gathers the server's repeated answers until memory runs out.
+bool copiesThroughConnection(const QString &text)
+{
+    if (!text.contains("copy"_L1, Qt::CaseInsensitive))
+        return false;
+    // What holds no statement: quoted text and names, comments.
+    static const QRegularExpression aside(
+        uR"(\bE'(?:[^'\\]++|\\.|'')*+'|'(?:[^']++|'')*+'|"[^"]*+"|\$(\w*+)\$.*?\$\1\$|--[^\n]*+|)"
+        uR"((/\*(?:[^*/]++|(?2)|/(?!\*)|\*(?!/))*+\*/))"_s,
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression copy(
+        uR"((?:^|;)\s*copy\b[^;]*\b(?:from|to)\s+(?:stdin|stdout)\b)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return QString(text).replace(aside, u" "_s).contains(copy);
+}
+
+/// Why a query is not handed to the toolkit; empty for one that is.
+QString refusal(const QSqlDatabase &connection, const QString &text)
+{
+    if (text.isEmpty())
+        return u"Empty query"_s;
+    if (!connection.isOpen())
+        return u"Database not open"_s;
+    if (text.contains(QChar::Null)) // the driver would send what stands before it
+        return u"NUL in the query"_s;
+    return copiesThroughConnection(text) ? u"COPY to or from the client"_s : QString();
 }
 
 } // namespace
@@ -102,15 +132,14 @@ QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QSt
 }
 
 /// Runs and reports a query. One that cannot be sent is not handed to the toolkit, which would tell
-/// of it on standard error only.
+/// of it on standard error only, or not at all.
 QSqlQuery DatabaseManager::run(const QString &method, const QString &text, QSqlDatabase *db)
 {
     const QSqlDatabase connection = db ? *db : QSqlDatabase::database(defaultName(), false);
     QSqlQuery query(connection);
-    if (!connection.isOpen() || text.isEmpty()) {
+    if (const QString reason = refusal(connection, text); !reason.isEmpty()) {
         logQuery(method, text, query.numRowsAffected());
-        logError(method, "query: "_L1 + text,
-                 text.isEmpty() ? u"Empty query"_s : u"Database not open"_s);
+        logError(method, "query: "_L1 + text, reason);
         return query;
     }
     query.setNumericalPrecisionPolicy(QSql::HighPrecision);

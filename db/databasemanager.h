@@ -13,16 +13,30 @@ class QSqlTableModel;
 
 /// SQL helpers over named connections; every query and every error goes to the "default" Logger of
 /// the log manager, as it was when the manager was made (none: nothing is logged). Taken through
-/// SyncSingleton<DatabaseManager>.
+/// SyncSingleton<DatabaseManager>; doc/example.cpp is a program that uses it.
 ///
 /// **Table, field, sequence and condition names, ids and whole queries are pasted into the SQL as
 /// they are: nothing is quoted or escaped. It is the caller's duty that they are valid SQL and hold
-/// nothing that came from outside unchecked.**
+/// nothing that came from outside unchecked.** The way round it is a prepared query, which
+/// showQueryError() reports:
 ///
-/// A null connection stands for the toolkit's default connection. No operation throws: what a query
-/// that failed answers is told with each. Values come as the toolkit's text for them, with numeric
-/// columns as the server prints them and NULL as empty text. Like the toolkit's connections, the
-/// manager is used by one thread.
+///     QSqlQuery query(*db);
+///     query.prepare(u"update item set name = ? where id = ?"_s);
+///     query.addBindValue(name);
+///     query.addBindValue(id);
+///     query.exec();
+///     manager.showQueryError(u"rename"_s, query);
+///
+/// **A null connection stands for the toolkit's default connection, and null is what a failed
+/// createConnection() answers: who goes on with that works on another database.** Ask the answer
+/// before using it.
+///
+/// No operation throws: what a query that failed answers is told with each, and the cause is in the
+/// log. An empty query, one that holds NUL, one on a connection that is not open and a COPY to or
+/// from the client are never sent, and fail. Values come as the toolkit's text for them, with
+/// numeric columns as the server prints them and NULL as empty text.
+///
+/// Like the toolkit's connections, the manager and what it hands out belong to one thread.
 class DatabaseManager
 {
 public:
@@ -32,8 +46,12 @@ public:
     ~DatabaseManager();
 
     /// Opens a connection under a name, the empty one being the toolkit's default connection.
-    /// Drivers are the toolkit's ("QSQLITE"), and "QPSQL7" for "QPSQL". Answers null, with the
-    /// cause in the log, when the driver is not there or the database does not open.
+    /// Drivers are the toolkit's ("QSQLITE"), and "QPSQL7" for "QPSQL". **Answers null**, with the
+    /// cause in the log, when the driver is not there or the database does not open; null given to
+    /// any other operation means the default connection.
+    ///
+    /// A connection that a server's restart or the network has cut stays lost, and every query on
+    /// it fails, until this is called again under its name, which mends all pointers to it.
     ///
     /// The manager keeps the connection, and the pointer stays valid until the manager goes, which
     /// for the singleton is when the process exits. A name used again closes the connection that it
@@ -72,7 +90,9 @@ public:
     QString incrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
     QString decrementSequence(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
     /// Moves a sequence down by `n` and answers true, unless its value is below `n`. That value is
-    /// read on the default connection, whatever `db` is.
+    /// read on the default connection, whatever `db` is. True tells of that test alone: where the
+    /// move fails, as one down to 0 does on a sequence with the usual lowest value 1, only the log
+    /// says so.
     bool decrementSequenceIfPositive(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
 
     /// A transaction of the connection; for a null one the statement is sent as a query.

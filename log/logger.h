@@ -12,6 +12,9 @@
 /// Lines that cannot be written, because the file is not open or the disk is full, are lost without
 /// a word.
 ///
+///     SyncSingleton<HLogManager>::instance()->set(u"till"_s, {});
+///     SyncSingleton<HLogManager>::instance()->getLog({})->warning(u"the drawer is open"_s);
+///
 /// A Logger locks nothing: callers on several threads serialise their calls themselves.
 class Logger
 {

@@ -115,7 +115,17 @@ TEST_F(Database, Queries)
         tell(manager.executeQuery("delete from "_L1 + table, db));
         tell(manager.getLastId(table, db)); // of an empty table
     }
-    tell(manager.executeQuery({}, db));
+    const QString never[] = {{},
+                             u"update item set price = 0; --\0 where id = 1"_s,
+                             u"copy item to stdout"_s,
+                             u"select 'a;' ; /* /* ; */ */ COPY (select ';') -- ;\n TO/**/STDOUT"_s,
+                             u"select E'\\''; copy item from stdin; select ''"_s};
+    for (const QString &query : never)
+        tell(manager.executeQuery(query, db));
+    const QString fine =
+        u"select ';copy a to stdout', E'\\';copy a to stdout', $x$;copy a to stdout$x$"
+        " as \";copy a to stdout\" -- ;copy a to stdout"_s;
+    tell(manager.executeSelectQuery3(fine, 3, db));
 }
 
 TEST_F(Database, Sequences)
@@ -206,4 +216,6 @@ TEST_F(Database, Exit)
         EXPECT_EQ(outcome.errors, "");
         EXPECT_EQ(outcome.exitStatus, 0);
     }
+    EXPECT_EQ(support::run(QStringLiteral(ZENTARO_EXAMPLE), {}, *home).exitStatus, 0);
+    tell(manager.getField(u"item"_s, u"name"_s, u"1"_s));
 }

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QThread>
@@ -118,6 +119,14 @@ TEST_F(Copy, TellsFailureAndLosesNothing)
     HLibrary::touch(folder.path(u"no/folder"_s));
     HLibrary::touch({});
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+
+    // A name that the toolkit takes for a resource of its own.
+    QDir::setCurrent(folder.path());
+    support::writeFile(u"./:a"_s, sevenLines);
+    EXPECT_TRUE(HLibrary::copy(u":a"_s, u":b"_s, 0U, 0U));
+    EXPECT_EQ(support::readFile(u"./:b"_s), sevenLines);
+    HLibrary::touch(u":b"_s);
+    EXPECT_EQ(support::readFile(u"./:b"_s), "");
 }
 
 TEST_F(Copy, WaitsForEnterOnATerminal)

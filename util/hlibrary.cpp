@@ -92,7 +92,7 @@ void HLibrary::touch(const QString &path)
 {
     if (path.isEmpty()) // of which the toolkit complains on standard error
         return;
-    QFile file(path);
+    QFile file(text::nameOfNewFile(QFile::encodeName(path)));
     if (file.open(QIODevice::WriteOnly))
         file.close();
 }

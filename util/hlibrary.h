@@ -8,7 +8,15 @@ class QComboBox;
 class QSqlDatabase;
 
 /// What the programs of the suite share: names and paths, paged copies to a line printer, amounts,
-/// and the settings of the database.
+/// and the settings of the database. All functions are static:
+///
+///     if (!HLibrary::copy(u"labels.txt"_s, u"/dev/usb/lp0"_s, 60U, 20U))
+///         ...
+///     const QString price = HLibrary::truncateDecimal(12.5); // "12.50"
+///
+/// Any thread may call those that only answer a text or copy; getNewRand() shares the C library's
+/// generator, comboBoxIndexOf() a widget, newDBConnection() the DatabaseManager, each of one
+/// thread.
 class HLibrary
 {
     Q_DECLARE_TR_FUNCTIONS(HLibrary)
@@ -37,7 +45,9 @@ public:
     /// `linesPerSheet` not 0 the first sheet takes one line more than that, and every later sheet
     /// that many; after each the user is asked for paper.
     ///
-    /// Asking is a message box in a program with windows; elsewhere, if standard input is a
+    /// Asking is a message box in a program with windows, which the application's thread shows: a
+    /// copy on another thread waits for that, so the application's thread must not wait for the
+    /// copy, or both stand still. Elsewhere, if standard input is a
     /// terminal, a line on it and a wait for Enter; otherwise a line on standard output.
     ///
     /// Answers false when a file does not open, when reading or writing fails, and for a file on
@@ -78,12 +88,13 @@ public:
     /// not-a-number gives "0.00".
     static QString truncateDecimal(double value);
 
-    /// The database settings of the configuration; empty when not set.
+    /// The database settings of the configuration; empty when not set. Each byte of the file is one
+    /// character, as in ISO 8859-1: a password beyond ASCII has to be written so.
     static QString dbname();
     static QString username();
     static QString password();
     static QString hostname();
-    /// Opens the configured database under a connection name; see
+    /// Opens the configured database under a connection name; **null where that fails**, see
     /// DatabaseManager::createConnection.
     static QSqlDatabase *newDBConnection(const QString &connectionName);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "text/filename.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
 #include "util/hlibrary.h"
@@ -24,8 +25,8 @@ class LineCopy
 {
 public:
     LineCopy(const QString &src, const QString &dst)
-        : source(src)
-        , destination(dst)
+        : source(text::nameOfFile(QFile::encodeName(src)))
+        , destination(text::nameOfNewFile(QFile::encodeName(dst)))
     {
     }
 
