@@ -14,7 +14,7 @@ install(FILES CHANGELOG.md
 install(FILES CHANGELOG.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-desktop" COMPONENT desktop)
 # The pages point at each other as they do in the source tree.
-install(FILES doc/configuration.md doc/faults.md
+install(FILES doc/faults.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print/doc" COMPONENT print)
 install(DIRECTORY samples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
         COMPONENT print)

@@ -138,25 +138,6 @@ TEST(ConfigLosses, AreNamedWhateverTheFile)
     }
 }
 
-TEST(ConfigCheck, KnowsTheKeysOfTheDocumentedConfiguration)
-{
-    const QString page = QString::fromUtf8(support::readFile(root + u"doc/configuration.md"_s));
-    static const QRegularExpression cell(
-        u"^\\| `(?:zentaro\\.)?(?:\\w+\\.(?=\\w))?(\\w+)\\.?` \\|"_s,
-        QRegularExpression::MultilineOption);
-    QSet<QString> documented{u"copyNumber"_s};
-    for (const auto &match : cell.globalMatch(page))
-        documented += match.captured(1);
-    QSet<QString> known;
-    for (const QString &group : tools::knownGroups()) {
-        if (tools::isDocumentGroup(group))
-            known += group;
-        for (const QString &word : tools::knownWords(group))
-            known += word;
-    }
-    EXPECT_EQ(known, documented);
-}
-
 TEST(ConfigTemplate, SetsEveryNumberAndSwitch)
 {
     for (const QString &name : {u"samples/zentaro-32.conf"_s, u"samples/zentaro-40.conf"_s}) {

@@ -91,39 +91,99 @@ TEST(Manual, TellsTheOptionsThatTheHelpAndTheCompletionOffer)
 
 TEST(Completion, KnowsKeysAndValues)
 {
-    const Home home("zentaro : { doc : { paperWidth = 40; }; };");
-    EXPECT_EQ(offered({u"zentaro"_s, u"config"_s, u"-f"_s, u"x"_s, u"c"_s}, home),
-              (QStringList{u"check"_s, u"convert"_s}));
-    EXPECT_EQ(
-        offered({QStringLiteral(ZENTARO_PROGRAM), u"config"_s, u"get"_s, u"zentaro.doc.p"_s}, home),
-        QStringList(u"zentaro.doc.paperWidth"_s));
-    EXPECT_EQ(offered({u"zentaro"_s, u"check"_s, u"-c"_s, u"x"_s, u"--j"_s}, home),
-              QStringList(u"--json"_s));
-    EXPECT_EQ(offered({u"zentaro"_s, u"preview"_s, u"--width-mm"_s, u"5"_s}, home),
-              QStringList(u"58"_s));
+    const Home home;
+    const struct
+    {
+        QString words; // the last of them being typed
+        QString offers;
+    } rows[] = {
+        {u"config -f x c"_s, u"check convert"_s},
+        {u"config get zentaro.doc.paper"_s, u"zentaro.doc.paperWidth zentaro.doc.paperRows"_s},
+        {u"config set zentaro.doc.printTime "_s, u"true false"_s},
+        {u"config set --all printTime t"_s, u"true"_s},
+        {u"config --format = x"_s, u"xml"_s},
+        {u"config init --columns ="_s, u"32 40 42 48"_s},
+        {u"config init -l i"_s, u"it"_s},
+        {u"check -c x --j"_s, u"--json"_s},
+        {u"preview --width-mm 5"_s, u"58"_s},
+    };
+    for (const auto &[words, offers] : rows)
+        EXPECT_EQ(offered(QStringList(QStringLiteral(ZENTARO_PROGRAM)) + words.split(u' '), home),
+                  offers.split(u' '))
+            << words.toStdString();
 }
 
-TEST(Manual, ListsEveryKeyAsTheFuzzDictionaryDoes)
+TEST(FuzzDictionary, HasEveryMethodAndKey)
 {
-    const QString words =
-        QString::fromUtf8(support::readFile(support::sourceDir() + u"/fuzz/zentaro.dict"_s));
-    const auto expectInDictionary = [&words](const QString &word) {
-        EXPECT_TRUE(words.contains(u'"' + word + u"\"\n"_s)) << word.toStdString();
-    };
+    const QByteArray words = support::readFile(support::sourceDir() + u"/fuzz/zentaro.dict"_s);
+    QStringList wanted = tools::knownGroups();
+    for (const QString &group : tools::knownGroups())
+        wanted += tools::knownWords(group);
     for (const DocumentMethod &method : documentMethods)
-        expectInDictionary(method.name);
-    const QString keys = manualPage(u"zentaro.conf.5"_s);
+        wanted += method.name;
+    for (const QString &word : wanted)
+        EXPECT_TRUE(words.contains('"' + word.toUtf8() + "\"\n")) << word.toStdString();
+}
+
+/// What the page says of a setting, a line for each sentence.
+QString described(const Setting &setting, const QString &key)
+{
+    static const QStringList kinds{u"text"_s,   u"folder"_s, u"file name"_s, u"number"_s,
+                                   u"switch"_s, u"text"_s,   u"text"_s};
+    QString kind = kinds[int(setting.kind)];
+    if (setting.kind == SettingKind::Number)
+        kind += u" to %L1"_s.arg(setting.most);
+    if (*setting.byDefault != '\0')
+        kind += u", "_s + QLatin1StringView(setting.byDefault);
+    QString text = u".It Cm %1 Pq %2\n%3\n"_s.arg(
+        key, kind, QString::fromLatin1(setting.effect).replace(u". "_s, u".\n"_s));
+    const QStringList groups = tools::groupsWith(key);
+    if (groups.size() == 1)
+        text += u"Only in\n.Cm zentaro.%1 .\n"_s.arg(groups.front());
     for (const QString &group : tools::knownGroups()) {
-        const QString prefix = u".It Cm zentaro."_s + group;
-        EXPECT_TRUE(keys.contains(prefix)) << group.toStdString();
-        expectInDictionary(group);
-        for (const QString &word : tools::knownWords(group)) {
-            EXPECT_TRUE(keys.contains(u".It Cm "_s + word + u' ')
-                        || keys.contains(prefix + u'.' + word + u' ') || word == "copyNumber"_L1)
-                << group.toStdString() << '.' << word.toStdString();
-            expectInDictionary(word);
-        }
+        if (groups.size() > 1 && tools::isDocumentGroup(group) && !groups.contains(group))
+            text += u"Not in\n.Cm zentaro.%1 .\n"_s.arg(group);
     }
+    return text;
+}
+
+/// The part of the page that is written from the table of settings.
+QString settingsPart()
+{
+    QString part = u".Bl -column \"zentaro.prefiscaldoc\" \"printAbstractOrderReceipt\"\n"_s;
+    for (const DocumentType &type : documentTypes()) {
+        QStringList methods;
+        for (const DocumentMethod &method : documentMethods) {
+            if (method.settingsType == type.name)
+                methods += method.name;
+        }
+        part +=
+            u".It Cm %1 Ta %2\n"_s.arg(QString(type.keyPrefix).chopped(1), methods.join(u", "_s));
+    }
+    part += u".El\n.Pp\nThese are the keys in each of them:\n.Bl -tag -width Ds\n"_s;
+    for (const Setting &setting : allSettings) {
+        if (*setting.group == '\0')
+            part += described(setting, QLatin1StringView(setting.word));
+    }
+    part += u".El\n.Pp\nAnd these are the others, of which\n.Xr zentaro-print 1\nreads those of "
+            "the language, and the shared libraries of the suite the rest:\n.Bl -tag -width Ds\n"_s;
+    for (const Setting &setting : allSettings) {
+        if (*setting.group != '\0')
+            part += described(setting, tools::keyOf(QLatin1StringView(setting.group),
+                                                    QLatin1StringView(setting.word)));
+    }
+    return part + u".El\n"_s;
+}
+
+TEST(ManualReference, ListsTheSettingsOfTheTable)
+{
+    const QString path = support::sourceDir() + u"/man/zentaro.conf.5"_s;
+    const QString page = manualPage(u"zentaro.conf.5"_s);
+    const QString begin = u"by scripts/update-golden.\n"_s;
+    const QString end = u".\\\" End of the part.\n"_s;
+    support::expectReference(
+        path,
+        (page.section(begin, 0, 0) + begin + settingsPart() + end + page.section(end, 1)).toUtf8());
 }
 
 TEST(Manual, IsWellFormed)

@@ -11,6 +11,12 @@ namespace tools {
 /// The group that stands above all others.
 constexpr auto ProductGroup = QLatin1StringView("zentaro");
 
+/// The dotted key of a setting.
+inline QString keyOf(const QString &group, const QString &word)
+{
+    return ProductGroup + u'.' + group + u'.' + word;
+}
+
 /// The groups below it, in the order of a complete file.
 QStringList knownGroups();
 /// Whether the suite reads anything of the group.

@@ -5,6 +5,7 @@
 #include "tools/companion.h"
 #include "tools/config/settingcheck.h"
 #include "tools/config/source.h"
+#include "tools/knownkeys.h"
 #include "tools/terminal.h"
 
 #include <array>
@@ -82,6 +83,22 @@ int listValues(const tools::Call &call)
     return tools::printOut(list);
 }
 
+int listKeys(const tools::Call &call)
+{
+    tools::CommandLine line(call, u"Prints every key that something reads, and what counts where "
+                                  u"the configuration gives none."_s);
+    addSourceOptions(line);
+    if (const auto done = line.read(0, 0))
+        return *done;
+    QString list;
+    for (const QString &group : tools::knownGroups()) {
+        for (const Setting *const setting : tools::settingsOf(group))
+            list += tools::keyOf(group, QLatin1StringView(setting->word)) + " = "_L1
+                    + QLatin1StringView(setting->byDefault) + u'\n';
+    }
+    return tools::printOut(list);
+}
+
 int showTree(const tools::Call &call)
 {
     tools::CommandLine line(call, u"Prints the tree of groups and settings that the file gives."_s);
@@ -124,10 +141,11 @@ int edit(const tools::Call &call)
     return call.desktop ? call.desktop->edit(call, *source) : tools::startDesktop(call);
 }
 
-constexpr std::array<tools::Command, 9> commands = {{
+constexpr std::array<tools::Command, 10> commands = {{
     {"get"_L1, "prints the values of keys"_L1, getValues},
     {"set"_L1, "gives keys a value"_L1, setValues},
     {"unset"_L1, "takes settings away"_L1, unsetValues},
+    {"keys"_L1, "prints every key that something reads, and its default"_L1, listKeys},
     {"list"_L1, "prints every key and its value"_L1, listValues},
     {"tree"_L1, "prints the groups and their settings as they are kept"_L1, showTree},
     {"check"_L1, "tells what is wrong with the file, and where"_L1, check},

@@ -70,14 +70,15 @@ QByteArray startingConfiguration(const Paper &paper, const Labels &labels)
     const auto set = [&content](const QString &key, const QString &value) {
         content = withSetting(content, key, value).content;
     };
-    const std::pair<QString, int> numbers[] = {{u"priceFieldWidth"_s, paper.price},
-                                               {u"totalPriceFieldWidth"_s, paper.total},
-                                               {u"paperWidth"_s, paper.columns},
-                                               {u"topMargin"_s, paper.margin},
-                                               {u"descriptionWidth"_s, paper.description}};
+    const std::pair<QLatin1StringView, int> numbers[] = {
+        {"priceFieldWidth"_L1, paper.price},
+        {"totalPriceFieldWidth"_L1, paper.total},
+        {"paperWidth"_L1, paper.columns},
+        {"topMargin"_L1, paper.margin},
+        {"descriptionWidth"_L1, paper.description}};
     for (const auto &[word, number] : numbers) {
-        for (const QString &group : tools::groupsWith(word))
-            set(tools::ProductGroup + u'.' + group + u'.' + word, QString::number(number));
+        for (const QString &group : tools::groupsWith(QString(word)))
+            set(tools::keyOf(group, word), QString::number(number));
     }
     if (!labels.folder.isEmpty()) {
         set(u"zentaro.language.basedir"_s, labels.folder);

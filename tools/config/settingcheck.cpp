@@ -327,7 +327,7 @@ QString unreadKey(const QString &key)
     QStringList words; // taken for what a name without any point may mean
     for (const QString &group : tools::knownGroups()) {
         for (const QString &word : tools::knownWords(group)) {
-            keys.append(tools::ProductGroup + u'.' + group + u'.' + word);
+            keys.append(tools::keyOf(group, word));
             words.append(word);
         }
     }

@@ -78,7 +78,7 @@ int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype st
         if (line.isSet(u"all"_s)) {
             keys = tools::groupsWith(words[i]).filter(u"doc"_s);
             for (QString &key : keys)
-                key = tools::ProductGroup + u'.' + key + u'.' + words[i];
+                key = tools::keyOf(key, words[i]);
         }
         const QString unread = keys.isEmpty() ? unreadKey(words[i]) : unreadKey(keys.first());
         if (!unread.isEmpty() && (keys.isEmpty() || !line.isSet(u"force"_s)))
