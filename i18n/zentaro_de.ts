@@ -56,11 +56,11 @@
     </message>
     <message>
         <source>Invoice Number:</source>
-        <translation>Rechnung Nr.:</translation>
+        <translation>Rechnungs-Nr.:</translation>
     </message>
     <message>
         <source>Delivery Number:</source>
-        <translation>Lieferschein Nr.:</translation>
+        <translation>Lieferschein-Nr.:</translation>
     </message>
     <message>
         <source>CUSTOMER</source>
@@ -205,6 +205,11 @@
     <message>
         <source>Date</source>
         <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <comment>statement of account</comment>
+        <translation>Vorgang</translation>
     </message>
 </context>
 </TS>

@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>Taxable</source>
-        <translation>Base imponible</translation>
+        <translation>Base imp.</translation>
     </message>
     <message>
         <source>TaxRate</source>
@@ -144,7 +144,7 @@
     </message>
     <message>
         <source>Number</source>
-        <translation>Número</translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>RECEIPTS SUMMARY</source>
@@ -205,6 +205,11 @@
     <message>
         <source>Date</source>
         <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <comment>statement of account</comment>
+        <translation>Detalle</translation>
     </message>
 </context>
 </TS>

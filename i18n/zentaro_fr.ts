@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Bancomat: </source>
-        <translation>Carte bancaire : </translation>
+        <translation>Carte de débit : </translation>
     </message>
     <message>
         <source>Other: </source>
@@ -205,6 +205,11 @@
     <message>
         <source>Date</source>
         <translation>Date</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <comment>statement of account</comment>
+        <translation>Libellé</translation>
     </message>
 </context>
 </TS>

@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>TOTAL</source>
-        <translation>TOTALE</translation>
+        <translation>SOMMA</translation>
     </message>
     <message>
         <source>Num</source>
@@ -205,6 +205,11 @@
     <message>
         <source>Date</source>
         <translation>Data</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <comment>statement of account</comment>
+        <translation>Causale</translation>
     </message>
 </context>
 </TS>

@@ -34,7 +34,8 @@ void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttr
     const auto layout = u"date-amount-type"_s;
     if (qName == element::statementList) {
         setBold();
-        println(descriptionRow(tr("Date"), tr("Description"), tr("Amount"), {}, u' ', layout));
+        println(descriptionRow(tr("Date"), tr("Description", "statement of account"), tr("Amount"),
+                               {}, u' ', layout));
         reset();
     } else if (qName == element::statement) {
         // The request sends the type of a movement as a source text of the translation.
