@@ -5,6 +5,7 @@
 #include "tools/config/subcommands.h"
 #include "tools/preview/previewcommand.h"
 #include "tools/queue/queuecommand.h"
+#include "tools/schema/schema.h"
 #include "tools/terminal.h"
 
 #include <QFile>
@@ -20,11 +21,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<Command, 4> commands = {{
+constexpr std::array<Command, 5> commands = {{
     {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
     {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
     {"preview"_L1, "shows what will be printed, as text or as a picture"_L1, preview::run},
     {"queue"_L1, "print queues: makes, lists, removes and tries them"_L1, queuetool::run},
+    {"schema"_L1, "writes the schema of print requests, for editors"_L1, schema::run},
 }};
 
 } // namespace

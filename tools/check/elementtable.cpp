@@ -300,13 +300,21 @@ const ElementRow &methodElement()
     return methodRow;
 }
 
+std::vector<const ElementRow *> rowsOf(qsizetype method)
+{
+    std::vector<const ElementRow *> result;
+    for (const ElementRow &row : rows) {
+        if (reads(row, method))
+            result.push_back(&row);
+    }
+    return result;
+}
+
 std::vector<QString> elementsOf(qsizetype method)
 {
     std::vector<QString> names;
-    for (const ElementRow &row : rows) {
-        if (reads(row, method))
-            names.push_back(row.element.toString());
-    }
+    for (const ElementRow *const row : rowsOf(method))
+        names.push_back(row->element.toString());
     return names;
 }
 

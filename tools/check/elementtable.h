@@ -88,6 +88,8 @@ std::vector<QString> elementsOf(qsizetype method);
 QString elementWith(Role role, qsizetype method);
 /// The names of the documents that read the element.
 std::vector<QString> documentsWith(QStringView element);
+/// The rows that a document reads.
+std::vector<const ElementRow *> rowsOf(qsizetype method);
 /// What a document is, in half a sentence.
 QLatin1StringView summaryOf(qsizetype method);
 /// Whether any method reacts to the element.

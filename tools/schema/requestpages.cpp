@@ -40,15 +40,14 @@ bool reads(qsizetype method, QStringView element)
     return requestcheck::elementRow(element, method) != nullptr;
 }
 
-/// The rows that the others do not share; for -1 those that they do.
+/// The rows that the others do not share; for -1 those that they do, `customer` among them.
 std::vector<const ElementRow *> rowsOf(qsizetype method)
 {
-    std::vector<const ElementRow *> rows;
-    for (const ElementRow &row : requestcheck::elementRows()) {
-        const bool isOwn = !isShared(row) && row.element != element::customer;
-        if (method < 0 ? !isOwn : isOwn && requestcheck::elementRow(row.element, method) == &row)
-            rows.push_back(&row);
-    }
+    // The ticket reads all of the latter.
+    std::vector<const ElementRow *> rows = requestcheck::rowsOf(method < 0 ? 0 : method);
+    std::erase_if(rows, [method](const ElementRow *row) {
+        return (isShared(*row) || row->element == element::customer) != (method < 0);
+    });
     return rows;
 }
 
