@@ -10,27 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The lengths of the longest common subsequences of two sheets' rows from (i, j) to the ends.
-class CommonLengths
-{
-public:
-    CommonLengths(std::span<const Row> before, std::span<const Row> after)
-        : columns(after.size() + 1)
-        , lengths((before.size() + 1) * columns)
-    {
-        for (size_t i = before.size(); i-- > 0;) {
-            for (size_t j = after.size(); j-- > 0;)
-                at(i, j) = before[i].isSameAs(after[j]) ? quint16(at(i + 1, j + 1) + 1)
-                                                        : std::max(at(i + 1, j), at(i, j + 1));
-        }
-    }
-    quint16 &at(size_t i, size_t j) { return lengths[i * columns + j]; }
-
-private:
-    size_t columns;
-    std::vector<quint16> lengths; // at most MostRows
-};
-
 bool isEqual(const RowPair &pair)
 {
     return pair.before >= 0 && pair.after >= 0;
@@ -59,31 +38,29 @@ QString coloured(const QString &line)
 
 std::vector<RowPair> comparedRows(const std::vector<Row> &before, const std::vector<Row> &after)
 {
-    const auto old = std::span(before).first(std::min(before.size(), MostRows));
-    const auto present = std::span(after).first(std::min(after.size(), MostRows));
-    CommonLengths lengths(old, present);
+    const size_t rows = std::min(before.size(), MostRows);
+    const size_t columns = std::min(after.size(), MostRows);
+    // The lengths of the longest common subsequences of the rows from (i, j) to the ends.
+    std::vector<quint16> lengths((rows + 1) * (columns + 1));
+    const auto at = [&](size_t i, size_t j) -> quint16 & { return lengths[i * (columns + 1) + j]; };
+    for (size_t i = rows; i-- > 0;) {
+        for (size_t j = columns; j-- > 0;)
+            at(i, j) = before[i].isSameAs(after[j]) ? quint16(at(i + 1, j + 1) + 1)
+                                                    : std::max(at(i + 1, j), at(i, j + 1));
+    }
     std::vector<RowPair> pairs;
-    size_t i = 0;
-    size_t j = 0;
-    auto addUpTo = [&, doneBefore = size_t(0), doneAfter = size_t(0)]() mutable {
-        for (; doneBefore < i; ++doneBefore)
-            pairs.push_back({qsizetype(doneBefore), -1});
-        for (; doneAfter < j; ++doneAfter)
-            pairs.push_back({-1, qsizetype(doneAfter)});
-        ++doneBefore; // the equal rows that follow
-        ++doneAfter;
-    };
-    while (i < old.size() && j < present.size()) {
-        if (old[i].isSameAs(present[j])) {
-            addUpTo();
+    ptrdiff_t coming = 0; // pairs at the end that only the second sheet has: what goes stands first
+    for (size_t i = 0, j = 0; i < rows || j < columns;) {
+        if (i < rows && j < columns && before[i].isSameAs(after[j])) {
             pairs.push_back({qsizetype(i++), qsizetype(j++)});
+            coming = 0;
+        } else if (j == columns || (i < rows && at(i + 1, j) >= at(i, j + 1))) {
+            pairs.insert(pairs.end() - coming, {qsizetype(i++), -1});
         } else {
-            ++(lengths.at(i + 1, j) >= lengths.at(i, j + 1) ? i : j);
+            pairs.push_back({-1, qsizetype(j++)});
+            ++coming;
         }
     }
-    i = old.size();
-    j = present.size();
-    addUpTo();
     return pairs;
 }
 
