@@ -10,6 +10,7 @@
 
 #include <QBuffer>
 
+#include <algorithm>
 #include <sys/mman.h>
 
 namespace preview {
@@ -34,21 +35,20 @@ public:
                       const QXmlAttributes &atts) override
     {
         const bool isMethod = qName == element::method;
-        const qint64 begin = isMethod ? written() : 0;
+        if (isMethod)
+            noteOrigin(); // of what the method before has printed
         const bool goOn = CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
-        if (isMethod && goOn)
-            trace.sections.push_back({begin, settings.paperWidth});
-        noteElement();
+        if (isMethod || traceElements)
+            noteOrigin();
         return goOn;
     }
 
-    /// What was printed since the element before comes from the tag that was read last.
-    void noteElement()
+    /// What was printed since it was last noted comes from the tag that was read last.
+    void noteOrigin()
     {
-        const qint64 end = traceElements ? written() : 0;
-        const qint64 begin = trace.elements.empty() ? 0 : trace.elements.back().end;
-        if (end > begin)
-            trace.elements.push_back({end, places.tag().line});
+        const qint64 begin = origins.empty() ? 0 : origins.back().end;
+        if (const qint64 end = written(); end > begin)
+            origins.push_back({end, traceElements ? places.tag().line : 0, settings.paperWidth});
     }
     /// Whether all that was printed is in the print file.
     bool isWritten()
@@ -57,7 +57,7 @@ public:
         return stream->status() == QTextStream::Ok && file->error() == QFile::NoError;
     }
 
-    Trace trace;
+    std::vector<Origin> origins;
 
 private:
     /// The bytes in the print file. Its position counts those before they are encoded.
@@ -106,13 +106,11 @@ std::optional<Input> readInput(const tools::Call &call, const QString &name)
 
 bool isRequest(const QByteArray &bytes)
 {
-    constexpr qsizetype MostBlank = 4 * 1'024; // bytes before the first character of a request
-    QByteArray begin = bytes.first(qMin(bytes.size(), MostBlank));
-    for (const char *const mark : {"\xEF\xBB\xBF", "\xFE\xFF", "\xFF\xFE"}) {
-        if (begin.startsWith(mark))
-            begin.remove(0, qsizetype(qstrlen(mark)));
-    }
-    return begin.replace('\0', QByteArray()).trimmed().startsWith('<');
+    // White space, and the bytes that a mark or a wider encoding puts before the first character.
+    constexpr QByteArrayView passed("\0 \t\r\n\xEF\xBB\xBF\xFE\xFF", 10);
+    const auto *const first =
+        std::ranges::find_if_not(bytes, [passed](char c) { return passed.contains(c); });
+    return first != bytes.end() && *first == '<';
 }
 
 Document render(const QByteArray &request, bool traceElements)
@@ -134,9 +132,9 @@ Document render(const QByteArray &request, bool traceElements)
         QBuffer source;
         source.setData(request);
         requestreader::read(source, device, &places);
-        device.noteElement();
+        device.noteOrigin();
         document.fault = faultOf(device, places);
-        document.trace = std::move(device.trace);
+        document.origins = std::move(device.origins);
     }
     written.seek(0);
     document.printFile = written.readAll();

@@ -27,7 +27,7 @@ bool isRequest(const QByteArray &bytes);
 
 /// Prints a request into memory, by the device of the print run, with the configuration and the
 /// translation that are in use. What the print run tells goes where text::LineSink says. With
-/// `traceElements` the document knows the lines of the request that its own lines come from.
+/// `traceElements` the origins know the lines of the request.
 Document render(const QByteArray &request, bool traceElements);
 
 } // namespace preview

@@ -41,31 +41,22 @@ QString joined(const QString &a, const QString &b)
     return a.isEmpty() || b.isEmpty() ? a + b : a + "; "_L1 + b;
 }
 
-/// The length of a line that is a rule of `=`, which may be indented; 0 for any other.
-int ruleLength(const PrintLine &line)
-{
-    constexpr size_t Least = 8; // or it is a text of its own
-    const CellsView text = line.text;
-    const CellsView rule = text.substr(std::min(text.find_first_not_of(U' '), text.size()));
-    const bool isRule = line.kind == LineKind::Printed && rule.size() >= Least
-                        && rule.find_first_not_of(U'=') == CellsView::npos;
-    return isRule ? int(rule.size()) : 0;
-}
-
 /// The width of the paper of a print file of which nothing else is known.
 int widthOf(QByteArrayView file, QTextCodec *codec)
 {
-    constexpr qsizetype MostBytesToRule = 64 * 1'024;
-    int longest = DevicePaperWidth;
+    constexpr qsizetype LeastRule = 8; // or it is a text of its own
+    qsizetype longest = DevicePaperWidth;
     for (qsizetype at = 0; at < file.size();) {
         const PrintLine line = lineAt(file, at, codec);
-        if (const int length = ruleLength(line); length > 0 && at < MostBytesToRule)
-            return length;
-        if (line.kind == LineKind::Printed)
-            longest = std::max(longest, int(tools::beyondEdge(line.text, 0)));
         at = line.next;
+        if (line.kind != LineKind::Printed)
+            continue;
+        const auto rule = qsizetype(line.text.size() - line.text.find_first_not_of(U' '));
+        if (rule >= LeastRule && tools::isRule(line.text, rule))
+            return int(rule);
+        longest = std::max(longest, tools::beyondEdge(line.text, 0));
     }
-    return longest;
+    return int(longest);
 }
 
 /// Draws the lines of a print file on paper.
@@ -77,7 +68,7 @@ public:
         , columns(columns)
         , take(take)
     {
-        if (columns == 0 && document.trace.sections.empty())
+        if (columns == 0 && document.origins.empty())
             this->columns = widthOf(document.printFile, document.codec);
     }
 
@@ -107,7 +98,7 @@ private:
     void add(Row row) { wanted = wanted && take(std::move(row)); }
 
     const Document &document;
-    int columns; // 0: as the trace says
+    int columns; // 0: as the origins say
     const std::function<bool(Row)> &take;
     qsizetype offset = 0; // of the line that is drawn
     qsizetype next = 0;
@@ -229,29 +220,16 @@ Row Paper::row(Row::Kind kind)
 {
     Row row;
     row.kind = kind;
-    row.width =
-        columns > 0 ? columns : document.trace.paperWidthAt(offset).value_or(DevicePaperWidth);
+    const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
+    const bool isKnown = origin != document.origins.end();
+    row.requestLine = isKnown ? origin->requestLine : 0;
+    row.width = columns > 0 ? columns : isKnown ? origin->paperWidth : DevicePaperWidth;
     row.width = std::clamp(row.width, 1, MostPaperWidth);
-    row.requestLine = document.trace.requestLineAt(offset);
     lastWidth = row.width;
     return row;
 }
 
 } // namespace
-
-qint64 Trace::requestLineAt(qint64 offset) const
-{
-    const auto found = std::ranges::upper_bound(elements, offset, {}, &Element::end);
-    return found == elements.end() ? 0 : found->requestLine;
-}
-
-std::optional<int> Trace::paperWidthAt(qint64 offset) const
-{
-    const auto next = std::ranges::upper_bound(sections, offset, {}, &Section::begin);
-    if (next == sections.begin())
-        return std::nullopt;
-    return std::prev(next)->paperWidth;
-}
 
 void drawRows(const Document &document, int columns, const std::function<bool(Row)> &take)
 {

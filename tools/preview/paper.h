@@ -7,32 +7,15 @@
 #include <QByteArray>
 
 #include <functional>
-#include <optional>
 
 namespace preview {
 
-/// Where the parts of a print file come from. Both lists are in the order of the file.
-struct Trace
+/// Where a stretch of a print file comes from.
+struct Origin
 {
-    /// What a tag of the request printed: the bytes up to `end`.
-    struct Element
-    {
-        qint64 end;
-        qint64 requestLine; ///< from 1: where the tag begins
-    };
-    struct Section
-    {
-        qint64 begin;   ///< bytes of the print file before it
-        int paperWidth; ///< characters in a line, by the settings of its document
-    };
-
-    std::vector<Element> elements; ///< only where asked for
-    std::vector<Section> sections;
-
-    /// The line of the request that printed the byte at `offset`; 0 where that is unknown.
-    qint64 requestLineAt(qint64 offset) const;
-    /// The paper's width at `offset`; nothing before the first section.
-    std::optional<int> paperWidthAt(qint64 offset) const;
+    qint64 end;         ///< the bytes of the print file up to its end
+    qint64 requestLine; ///< on which the tag begins, from 1; 0 where that is not known
+    int paperWidth;     ///< characters in a line, by the settings of the document
 };
 
 /// A print file, and what is known of where it comes from.
@@ -40,7 +23,7 @@ struct Document
 {
     QByteArray printFile;
     QTextCodec *codec = nullptr; ///< of the print file; null: UTF-8
-    Trace trace;                 ///< empty where no request is known
+    std::vector<Origin> origins; ///< in the order of the file; none where no request is known
     QString fault;               ///< why the print file is not whole; empty when it is
 };
 
@@ -88,15 +71,12 @@ struct PaperSize
     int widthMm = 80; ///< of which the printer leaves 4 mm white at each side, 5 mm of 58
 };
 
-enum class PictureFormat { Png, Svg, Pdf };
-
 /// A picture of sheets: where it goes, and how it looks.
 struct PictureOptions
 {
-    QString fileName; ///< empty: no picture
-    PictureFormat format = PictureFormat::Png;
+    QString fileName; ///< by whose end the format goes; empty: no picture
     PaperSize paper;
-    size_t perRow = 1; ///< sheets beside each other; not 0
+    bool inPairs = false; ///< whether two sheets each belong side by side
 };
 
 /// The characters in a line of the device's paper, where nothing tells the width.
@@ -106,8 +86,8 @@ constexpr int DevicePaperWidth = 32;
 constexpr int MostPaperWidth = 500;
 
 /// Draws a document row by row, until `take` answers false. The paper is `columns` cells wide;
-/// where that is 0, as the trace says; where that is empty, as wide as the first rule of `=` in the
-/// first 64 KiB of the file, else as its longest line, at least the device's.
+/// where that is 0, as the origins say; without them as wide as the first rule of `=` in the file,
+/// else as its longest line, at least the device's.
 void drawRows(const Document &document, int columns, const std::function<bool(Row)> &take);
 
 /// The first rows of a document, `most` of them.

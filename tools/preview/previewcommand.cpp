@@ -68,31 +68,6 @@ QString readNumber(const tools::CommandLine &line, const QString &option, int le
     return u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most);
 }
 
-/// Reads the options that say how a picture looks. Answers what is wrong with them.
-QString readPictureOptions(const tools::CommandLine &line, PictureOptions &picture)
-{
-    constexpr std::array<std::pair<QLatin1StringView, PictureFormat>, 3> endings = {{
-        {".png"_L1, PictureFormat::Png},
-        {".svg"_L1, PictureFormat::Svg},
-        {".pdf"_L1, PictureFormat::Pdf},
-    }};
-    picture.fileName = line.value(u"output"_s);
-    const auto *const format = std::ranges::find_if(endings, [&picture](const auto &ending) {
-        return picture.fileName.endsWith(ending.first, Qt::CaseInsensitive);
-    });
-    if (format != endings.end())
-        picture.format = format->second;
-    else if (line.isSet(u"output"_s))
-        return "the picture's name ends in .png, .svg or .pdf, not as `"_L1 + picture.fileName
-               + u'`';
-    const QString width = line.value(u"width-mm"_s);
-    if (line.isSet(u"width-mm"_s))
-        picture.paper.widthMm = width == "58"_L1 ? 58 : 80;
-    if (line.isSet(u"width-mm"_s) && width != "58"_L1 && width != "80"_L1)
-        return u"--width-mm is 58 or 80"_s;
-    return readNumber(line, u"dpi"_s, 50, 1'200, picture.paper.dpi);
-}
-
 /// Reads all options. Answers what is wrong with them, and an empty text when nothing is.
 QString readOptions(const tools::CommandLine &line, Options &options)
 {
@@ -109,7 +84,12 @@ QString readOptions(const tools::CommandLine &line, Options &options)
         return u"--against takes the name of a configuration"_s;
     if (options.annotate && !options.other.isEmpty())
         return u"--annotate and --against do not go together"_s;
-    const QString mistake = readPictureOptions(line, options.picture);
+    options.picture.fileName = line.value(u"output"_s);
+    const QString width = line.value(u"width-mm"_s);
+    if (line.isSet(u"width-mm"_s) && width != "58"_L1 && width != "80"_L1)
+        return u"--width-mm is 58 or 80"_s;
+    options.picture.paper.widthMm = width == "58"_L1 ? 58 : 80;
+    const QString mistake = readNumber(line, u"dpi"_s, 50, 1'200, options.picture.paper.dpi);
     return mistake.isEmpty() ? readNumber(line, u"columns"_s, 1, MostPaperWidth, options.columns)
                              : mistake;
 }
@@ -180,9 +160,8 @@ private:
 int drawOnTerminal(const Document &document, const Options &options)
 {
     constexpr qsizetype PieceSize = 64 * 1'024; // characters that are written at once
-    const auto &elements = document.trace.elements;
-    const TerminalDrawing drawing(text::localeCodec(),
-                                  elements.empty() ? 0 : elements.back().requestLine);
+    const TerminalDrawing drawing(
+        text::localeCodec(), document.origins.empty() ? 0 : document.origins.back().requestLine);
     QString text;
     int status = tools::Fine;
     drawRows(document, options.columns, [&](const Row &row) {
@@ -215,10 +194,8 @@ int drawPicture(const tools::Call &call, const Options &options, const std::vect
                            : tools::tellTrouble(call, options.picture.fileName, fault);
 }
 
-int previewAll(const tools::Call &call, Options options, const QStringList &names)
+int previewAll(const tools::Call &call, const Options &options, const QStringList &names)
 {
-    constexpr size_t PerRow = 5; // and each document on a page of its own
-    options.picture.perRow = options.picture.format == PictureFormat::Pdf ? 1 : PerRow;
     Runs runs(call, options);
     std::vector<Sheet> sheets;
     for (const QString &name : names) {
@@ -289,7 +266,7 @@ int showChange(const QString &name, const std::array<QString, 2> &configurations
 /// Renders the requests under both configurations and shows those that change.
 int compareAll(const tools::Call &call, Options options, const QStringList &names)
 {
-    options.picture.perRow = 2; // before and after
+    options.picture.inPairs = true; // before and after
     const std::optional<std::vector<Input>> requests = readRequests(call, names);
     if (!requests)
         return tools::Trouble;

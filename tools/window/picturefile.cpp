@@ -88,6 +88,12 @@ private:
     std::vector<int> rows;    // the height of each row
 };
 
+/// Sheets beside each other, where a picture holds all of them.
+size_t perRow(const PictureOptions &options)
+{
+    return options.inPairs ? 2 : 5;
+}
+
 SheetPainter::Frame frameOf(const std::vector<Sheet> &sheets)
 {
     return sheets.size() > 1 ? SheetPainter::Frame::Title : SheetPainter::Frame::Notes;
@@ -135,7 +141,7 @@ struct Palette
 QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
 {
     constexpr double InchesOfMetre = 39.37;
-    const Picture picture(sheets, options.paper, options.perRow, frameOf(sheets));
+    const Picture picture(sheets, options.paper, perRow(options), frameOf(sheets));
     if (picture.isTooSmall())
         return u"the characters would be too small to be read: raise --dpi"_s;
     if (std::max(picture.size.width(), picture.size.height()) > MostPixelsOfSide
@@ -167,7 +173,7 @@ QString faultOfPage(const QSize &dots)
 
 QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
 {
-    const Picture picture(sheets, {VectorDpi, options.paper.widthMm}, options.perRow,
+    const Picture picture(sheets, {VectorDpi, options.paper.widthMm}, perRow(options),
                           frameOf(sheets));
     if (const QString fault = faultOfPage(picture.size); !fault.isEmpty())
         return fault;
@@ -184,9 +190,11 @@ QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options
     return file.write(svg.data()) == svg.size() ? QString() : file.errorString();
 }
 
-/// Each row of sheets on a page; a sheet that has one for itself is the page.
+/// Each sheet or pair on a page of its own; a sheet that has one for itself is the page.
 QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
 {
+    const size_t perPage = options.inPairs ? 2 : 1;
+    const auto frame = options.inPairs ? SheetPainter::Frame::Title : SheetPainter::Frame::Bare;
     QPdfWriter writer(&file);
     writer.setResolution(VectorDpi);
     writer.setTitle(titleOf(sheets));
@@ -194,11 +202,9 @@ QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options
     Colours colours;
     colours.desk.ground = Qt::white;
     QPainter painter;
-    for (size_t i = 0; i < sheets.size(); i += options.perRow) {
-        const auto row = std::span(sheets).subspan(i, std::min(options.perRow, sheets.size() - i));
-        const Picture picture(row, {VectorDpi, options.paper.widthMm}, options.perRow,
-                              options.perRow == 1 ? SheetPainter::Frame::Bare
-                                                  : SheetPainter::Frame::Title);
+    for (size_t i = 0; i < sheets.size(); i += perPage) {
+        const auto row = std::span(sheets).subspan(i, std::min(perPage, sheets.size() - i));
+        const Picture picture(row, {VectorDpi, options.paper.widthMm}, perPage, frame);
         if (const QString fault = faultOfPage(picture.size); !fault.isEmpty())
             return fault;
         writer.setPageSize(QPageSize(QSizeF(picture.size) / VectorDotsOfMm, QPageSize::Millimeter));
@@ -215,14 +221,20 @@ QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options
 
 QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &options)
 {
+    using Write = QString (*)(const std::vector<Sheet> &, const PictureOptions &, QIODevice &);
+    constexpr std::array<std::pair<QLatin1StringView, Write>, 3> formats = {
+        {{".png"_L1, writePng}, {".svg"_L1, writeSvg}, {".pdf"_L1, writePdf}}};
+    const auto *const format = std::ranges::find_if(formats, [&options](const auto &row) {
+        return options.fileName.endsWith(row.first, Qt::CaseInsensitive);
+    });
+    if (format == formats.end())
+        return u"the name of a picture ends in .png, .svg or .pdf"_s;
     if (monospacedFamily().isEmpty())
         return u"there is no monospaced font (Debian has fonts-dejavu-core)"_s;
     QSaveFile file(options.fileName);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    using Write = QString (*)(const std::vector<Sheet> &, const PictureOptions &, QIODevice &);
-    constexpr std::array<Write, 3> writers = {writePng, writeSvg, writePdf};
-    const QString fault = writers.at(size_t(options.format))(sheets, options, file);
+    const QString fault = format->second(sheets, options, file);
     if (!fault.isEmpty()) {
         file.cancelWriting();
         return fault;
