@@ -16,7 +16,11 @@ struct DocumentMethod;
 
 /// The renderer: takes the elements of one print request from the XML reader, chooses the document
 /// method that the `method` element names, loads the settings of its document type and hands every
-/// later element to it. A device derives from it and says how a line reaches the paper.
+/// later element to it. A device derives from it and says how a line reaches the paper:
+///
+///     CompanyPrinterDriver device(u"print.out"_s);
+///     QFile request(u"request.xml"_s);
+///     const bool whole = requestreader::read(request, device); // the file closes with the device
 ///
 /// Printed labels are translated in the context "PrinterDriver". Attributes that an element lacks
 /// are empty texts, elements that a method does not know print nothing; neither is reported.

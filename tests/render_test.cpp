@@ -73,6 +73,46 @@ TEST(Driver, TakesNoUnknownNames)
               "File Format Not Supported\nError into PrinterDriver::documentPath:  bill\n");
 }
 
+/// A device that takes the driver's members into its own hands.
+class WilfulDevice : public CompanyPrinterDriver
+{
+public:
+    explicit WilfulDevice(const QString &fileName)
+        : CompanyPrinterDriver(fileName)
+    {
+    }
+    void print(unsigned int indent, const QString &text) override
+    {
+        CompanyPrinterDriver::print(indent, text == "\"@\n"_L1 ? u"<\n"_s : text);
+    }
+    using CompanyPrinterDriver::currentMethod;
+    using CompanyPrinterDriver::docPath;
+};
+
+TEST(Driver, HeedsADeviceThatDerivesFromIt)
+{
+    support::configure("doc:{printGeometry=true; topMargin=1;}; solddoc:{topMargin=2;};");
+    const support::Folder folder;
+    {
+        WilfulDevice device(folder.path(u"out"_s));
+        const QXmlAttributes item = attributes({{u"name"_s, u"n"_s}, {u"description"_s, u"d"_s}});
+        device.startElement({}, {}, u"method"_s, attributes({{u"name"_s, u"printPartialOrder"_s}}));
+        for (const QString &prefix : {u"zentaro.doc."_s, u"zentaro.solddoc."_s}) {
+            device.docPath = prefix;
+            device.startElement({}, {}, u"geometry"_s, {});
+        }
+        for (const QString &method : {u"printSold"_s, u""_s, u"printFullOrder"_s}) {
+            device.currentMethod = method;
+            device.startElement({}, {}, u"total"_s, item);
+            device.startElement({}, {}, u"receipe"_s, item);
+        }
+    }
+    QByteArray printed = support::readFile(folder.path(u"out"_s));
+    EXPECT_EQ(
+        printed.replace("  ", QByteArray()).replace("..", QByteArray()),
+        "\nj\n\"<\n\"<\n\"<\n\" x d<\n\"<\n\" TOTAL<\n\"Num DescriptionPriceAmount<\n\" n<\n");
+}
+
 TEST(Driver, PrintsAMarginWithinReason)
 {
     support::configure("doc:{printGeometry=true; topMargin=2000000000;};");
