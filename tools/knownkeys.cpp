@@ -83,6 +83,13 @@ const Setting *findSetting(QStringView group, QStringView word)
     return found == allSettings.end() ? nullptr : &*found;
 }
 
+QStringList wordsOf(SettingKind kind)
+{
+    if (kind == SettingKind::LogLevel)
+        return {u"DEBUG"_s, u"INFO"_s, u"WARNING"_s, u"ERROR"_s, u"FATAL"_s};
+    return kind == SettingKind::LogType ? QStringList{u"APPEND"_s, u"OVERWRITE"_s} : QStringList();
+}
+
 QStringList groupsWith(QStringView word)
 {
     QStringList groups = knownGroups();

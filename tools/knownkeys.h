@@ -29,6 +29,8 @@ std::vector<const Setting *> settingsOf(QStringView group);
 QStringList knownWords(QStringView group);
 /// A setting; null for an unknown one.
 const Setting *findSetting(QStringView group, QStringView word);
+/// The words that a value of a kind has to be one of, in any letter case; none for other kinds.
+QStringList wordsOf(SettingKind kind);
 /// The groups in which a key word is known.
 QStringList groupsWith(QStringView word);
 

@@ -8,7 +8,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <span>
+#include <optional>
 #include <utility>
 
 namespace configtool {
@@ -18,89 +18,46 @@ using tools::excerpt;
 
 namespace {
 
-/// Whether a text is plain enough to stand anywhere; saves asking a reader.
-bool isPlain(const QString &text)
-{
-    return !text.isEmpty() && std::ranges::all_of(text, [](QChar c) {
-        return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-    });
-}
+/// A setting's name and value, as they are read.
+using NameAndValue = std::pair<QString, QString>;
 
-/// Whether reading the "cfg" form gives back what writing it makes of a name and a value.
-bool survivesCfg(const QString &name, const QString &value)
+/// What the reader makes of a setting as it is written, in XML in a group of its name; nothing
+/// where it loses more than the setting.
+std::optional<NameAndValue> readBack(const NameAndValue &written, bool isXml)
 {
+    const QString text = written.first + " = \""_L1 + written.second + u'"';
+    if (isXml) {
+        QXmlStreamReader reader(u'<' + written.first + u' ' + text + "/>"_L1);
+        reader.setNamespaceProcessing(false);
+        reader.readNextStartElement();
+        const QXmlStreamAttributes attributes = reader.attributes();
+        if (reader.qualifiedName() != written.first || attributes.size() != 1
+            || reader.readNext() != QXmlStreamReader::EndElement)
+            return std::nullopt;
+        return NameAndValue{attributes.front().qualifiedName().toString(),
+                            attributes.front().value().toString()};
+    }
     using libconfig::CfgScanner;
-    const QByteArray written = (name + " = \""_L1 + value + "\";\n};"_L1).toLatin1();
-    CfgScanner scanner({written.constData(), size_t(written.size())});
-    return scanner.next() == CfgScanner::Statement::Setting && scanner.name() == name
-           && scanner.value() == value && scanner.next() == CfgScanner::Statement::GroupEnd;
+    const QByteArray bytes = (text + ";\n};"_L1).toLatin1();
+    CfgScanner scanner({bytes.constData(), size_t(bytes.size())});
+    if (scanner.next() != CfgScanner::Statement::Setting)
+        return std::nullopt;
+    const NameAndValue read{scanner.name(), scanner.value()};
+    return scanner.next() == CfgScanner::Statement::GroupEnd ? std::optional(read) : std::nullopt;
 }
 
-/// The same of the XML form.
-bool survivesXml(const QString &name, const QString &value)
+/// How a name or a value is not read back as it was; empty when it is.
+QString lossOf(const QString &text, bool isName, bool isXml)
 {
-    QXmlStreamReader reader(u'<' + name + u' ' + name + " = \""_L1 + value + "\"></"_L1 + name
-                            + u'>');
-    reader.setNamespaceProcessing(false);
-    const bool element = reader.readNextStartElement() && reader.qualifiedName() == name;
-    const QXmlStreamAttributes attributes = reader.attributes();
-    const bool attribute = attributes.size() == 1 && attributes.front().qualifiedName() == name
-                           && attributes.front().value() == value;
-    while (!reader.atEnd())
-        reader.readNext();
-    return element && attribute && !reader.hasError();
-}
-
-/// What becomes of a text that holds one of some characters, or of any text that does not survive.
-struct Cause
-{
-    QStringView characters;
-    QLatin1StringView loss;
-};
-
-constexpr Cause cfgNameCauses[] = {
-    {u":=}", "a name cannot hold `:`, `=` or `}`"_L1},
-    {QStringView(u"\0", 1), "a NUL ends a name"_L1},
-};
-constexpr Cause cfgValueCauses[] = {
-    {u";", "a `;` ends the value, the rest spills into the next name"_L1},
-    {u"\"", "double quotes inside the value are lost"_L1},
-    {QStringView(u"\0", 1), "a NUL ends the value"_L1},
-};
-constexpr Cause xmlValueCauses[] = {
-    {u"\"", "nothing is escaped, and `\"` breaks the file"_L1},
-    {u"<", "nothing is escaped, and `<` breaks the file"_L1},
-    {u"&", "nothing is escaped, and `&` breaks the file"_L1},
-};
-
-/// The loss by the first cause that the text has; the last way out without one.
-QString lossBy(std::span<const Cause> causes, const QString &text, QLatin1StringView otherwise)
-{
-    const auto cause = std::ranges::find_if(causes, [&](const Cause &each) {
-        return std::ranges::any_of(each.characters, [&](QChar c) { return text.contains(c); });
-    });
-    return cause == causes.end() ? otherwise : cause->loss;
-}
-
-/// Why the form does not give a name back; empty when it does.
-QString nameLoss(const QString &name, bool isXml)
-{
-    if (isPlain(name) || (isXml ? survivesXml(name, {}) : survivesCfg(name, {})))
-        return {};
-    if (isXml)
-        return u"not a name in XML: the file cannot be read"_s;
-    const bool isLatin1 = QString::fromLatin1(name.toLatin1()) == name;
-    return lossBy(cfgNameCauses, name,
-                  isLatin1 ? "blanks at the ends of a name are lost"_L1
-                           : "characters outside ISO 8859-1 become `?`"_L1);
-}
-
-QString valueLoss(const QString &value, bool isXml)
-{
-    if (isPlain(value) || (isXml ? survivesXml(u"x"_s, value) : survivesCfg(u"x"_s, value)))
-        return {};
-    return isXml ? lossBy(xmlValueCauses, value, "XML does not give back control characters"_L1)
-                 : lossBy(cfgValueCauses, value, "characters outside ISO 8859-1 become `?`"_L1);
+    const auto isPlain = [](QChar c) { return c.unicode() < 0x80 && c.isLetter(); };
+    if (!text.isEmpty() && std::ranges::all_of(text, isPlain))
+        return {}; // saves asking
+    const auto read = readBack(isName ? NameAndValue(text, {}) : NameAndValue(u"x"_s, text), isXml);
+    if (!read)
+        return isXml ? u"nothing is escaped, and it breaks the file"_s
+                     : u"it breaks what is written around it"_s;
+    const QString &found = isName ? read->first : read->second;
+    return found == text ? QString() : "it is read back as "_L1 + excerpt(found);
 }
 
 class LossFinder
@@ -114,27 +71,32 @@ public:
     std::vector<Finding> find();
 
 private:
-    bool isInTree(const Entry &entry) const;
+    bool isInTree(const Entry &entry) const
+    {
+        return entry.kind == Entry::Kind::Setting || entry.hasMember || outline.keepsEmptyGroups;
+    }
     void checkEntry(qsizetype index);
-    void tell(QLatin1StringView code, const QString &text, qsizetype subject);
+    void tell(QLatin1StringView code, const QString &text, qsizetype subject)
+    {
+        findings.push_back(
+            {Severity::Warning, code, text, outline.entries[size_t(subject)].at, subject});
+    }
 
     const Outline &outline;
     const bool isXml;
     std::vector<Finding> findings;
-    std::vector<bool> written;   // by entry
-    std::vector<bool> hasMember; // by entry, in the written file
     QHash<std::pair<qsizetype, QString>, qsizetype> settings;
 };
 
 std::vector<Finding> LossFinder::find()
 {
-    hasMember.assign(outline.entries.size(), false);
+    std::vector<bool> written{true};                            // by entry
+    std::vector<bool> hasMember(outline.entries.size(), false); // by entry, in the written file
     for (const Entry &entry : outline.entries) {
         if (entry.parent >= 0 && isInTree(entry))
             hasMember[size_t(entry.parent)] = true;
     }
     const qsizetype top = outline.topGroup();
-    written.push_back(true);
     for (qsizetype i = 1; i < qsizetype(outline.entries.size()); ++i) {
         const Entry &entry = outline.entries[size_t(i)];
         const bool isGroup = entry.kind == Entry::Kind::Group;
@@ -157,16 +119,10 @@ std::vector<Finding> LossFinder::find()
     return std::move(findings);
 }
 
-/// Whether the store keeps the entry, and so writes it.
-bool LossFinder::isInTree(const Entry &entry) const
-{
-    return entry.kind == Entry::Kind::Setting || entry.hasMember || outline.keepsEmptyGroups;
-}
-
 void LossFinder::checkEntry(qsizetype index)
 {
     const Entry &entry = outline.entries[size_t(index)];
-    if (const QString loss = nameLoss(entry.name, isXml); !loss.isEmpty())
+    if (const QString loss = lossOf(entry.name, true, isXml); !loss.isEmpty())
         tell("lost-name"_L1, "the name "_L1 + excerpt(entry.name) + ": "_L1 + loss, index);
     if (entry.kind == Entry::Kind::Group)
         return;
@@ -175,7 +131,7 @@ void LossFinder::checkEntry(qsizetype index)
              "everything: the setting "_L1 + excerpt(entry.name)
                  + " outside any group makes a file that is no XML"_L1,
              index);
-    if (const QString loss = valueLoss(entry.value, isXml); !loss.isEmpty())
+    if (const QString loss = lossOf(entry.value, false, isXml); !loss.isEmpty())
         tell("lost-value"_L1, "the value of "_L1 + excerpt(outline.pathOf(index)) + ": "_L1 + loss,
              index);
     qsizetype &before = settings[{entry.parent, entry.name}];
@@ -185,12 +141,6 @@ void LossFinder::checkEntry(qsizetype index)
                  + excerpt(outline.pathOf(before)) + ": the key stands there twice"_L1,
              before);
     before = index;
-}
-
-void LossFinder::tell(QLatin1StringView code, const QString &text, qsizetype subject)
-{
-    findings.push_back(
-        {Severity::Warning, code, text, outline.entries[size_t(subject)].at, subject});
 }
 
 } // namespace

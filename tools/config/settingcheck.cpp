@@ -45,7 +45,6 @@ private:
     void checkSetting(qsizetype index);
     void checkReadSetting(qsizetype index);
     void checkValue(qsizetype index, const Setting &setting);
-    void checkWord(qsizetype index, const QStringList &words, const QString &otherwise);
     void checkColumns();
     void checkLanguage();
 
@@ -218,27 +217,17 @@ void Checker::checkValue(qsizetype index, const Setting &setting)
                           + R"(, neither "true" nor "false": it is off)"_L1,
                       index);
         break;
-    case SettingKind::LogLevel:
-        checkWord(index, {u"DEBUG"_s, u"INFO"_s, u"WARNING"_s, u"ERROR"_s, u"FATAL"_s},
-                  u"every line is logged"_s);
-        break;
-    case SettingKind::LogType:
-        checkWord(index, {u"APPEND"_s, u"OVERWRITE"_s}, u"nothing is logged"_s);
-        break;
     default:
+        if (const QStringList words = tools::wordsOf(setting.kind);
+            !words.isEmpty() && !words.contains(value, Qt::CaseInsensitive))
+            tellValue(Severity::Error, "unknown-word"_L1,
+                      shown(index) + " is "_L1 + excerpt(value)
+                          + (setting.kind == SettingKind::LogLevel ? ": every line is logged"_L1
+                                                                   : ": nothing is logged"_L1)
+                          + tools::suggestion(value, words),
+                      index);
         break;
     }
-}
-
-/// A value that must be one of some words, in any letter case.
-void Checker::checkWord(qsizetype index, const QStringList &words, const QString &otherwise)
-{
-    const QString &value = entry(index).value;
-    if (!words.contains(value, Qt::CaseInsensitive))
-        tellValue(Severity::Error, "unknown-word"_L1,
-                  shown(index) + " is "_L1 + excerpt(value) + ": "_L1 + otherwise
-                      + tools::suggestion(value, words),
-                  index);
 }
 
 /// The number that a document reads; 0 for one that is not there or is none.
@@ -278,15 +267,16 @@ void Checker::checkLanguage()
     const QString &base = entry(folder).value;
     const QString &name = entry(file).value;
     const qsizetype subject = name.isEmpty() ? folder : file;
-    if (name == "/"_L1 && !hasTranslations(base))
-        tellValue(Severity::Warning, "language-file"_L1,
-                  "there is no language file "_L1 + excerpt(base + "/zentaro_*.qm"_L1), subject);
-    else if (QTranslator translator;
-             name != "/"_L1 && !(base + name).isEmpty() && !loadTranslation(translator, base, name))
-        tellValue(Severity::Warning, "language-file"_L1,
-                  "there is no language file "_L1 + excerpt(base + name)
-                      + ": labels stay in English"_L1,
-                  subject);
+    QTranslator translator;
+    const bool isByLocale = name == "/"_L1;
+    if ((base + name).isEmpty()
+        || (isByLocale ? hasTranslations(base) : loadTranslation(translator, base, name)))
+        return;
+    tellValue(Severity::Warning, "language-file"_L1,
+              "there is no language file "_L1
+                  + (isByLocale ? excerpt(base + "/zentaro_*.qm"_L1)
+                                : excerpt(base + name) + ": labels stay in English"_L1),
+              subject);
 }
 
 void Checker::tell(Severity severity, QLatin1StringView code, const QString &text,

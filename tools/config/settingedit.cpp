@@ -150,14 +150,15 @@ qsizetype KeyInFile::siblingBefore(qsizetype group) const
     return best;
 }
 
-/// What stands before an entry on its line: a line end and blanks, or one blank for an entry that
-/// begins no line.
+/// A line end, and the blanks with which the line of an entry begins.
 QByteArray KeyInFile::leadOf(qsizetype index) const
 {
     const qint64 begin = entry(index).text.begin;
     const qint64 lineBegin = begin > 0 ? content.lastIndexOf('\n', begin - 1) + 1 : 0;
-    const QByteArray blanks = content.sliced(lineBegin, begin - lineBegin);
-    return blanks.trimmed().isEmpty() ? (content.contains("\r\n") ? "\r\n" : "\n") + blanks : " ";
+    qint64 end = lineBegin;
+    while (end < begin && (content[end] == ' ' || content[end] == '\t'))
+        ++end;
+    return (content.contains("\r\n") ? "\r\n" : "\n") + content.sliced(lineBegin, end - lineBegin);
 }
 
 /// The file with a new setting, in new groups where those of the key are missing.
@@ -166,30 +167,23 @@ QByteArray KeyInFile::withNew(const QByteArray &setting) const
     const QByteArray step = "    ";
     const qsizetype group = groups.front();
     const qsizetype before = siblingBefore(group);
-    const auto [bodyBegin, bodyEnd] = entry(group).body;
-    QByteArray lead;
+    QByteArray lead = "\n";
     if (before >= 0)
         lead = leadOf(before);
-    else if (group == 0)
-        lead = "\n";
-    else if (content.sliced(bodyBegin, bodyEnd - bodyBegin).contains('\n'))
+    else if (group > 0)
         lead = leadOf(group) + step;
-    else
-        lead = " ";
-    const bool hasLines = lead != " ";
-    QByteArray text;
+    QByteArray begin;
+    QByteArray end;
     for (qsizetype i = depth; i + 1 < names.size(); ++i) {
-        text += lead + names[i].toLatin1() + " : {";
-        lead += hasLines ? step : "";
+        begin += lead + names[i].toLatin1() + " : {";
+        end.prepend(lead + "};");
+        lead += step;
     }
-    text += lead + setting;
-    for (qsizetype i = depth; i + 1 < names.size(); ++i) {
-        lead.chop(hasLines ? step.size() : 0);
-        text += lead + "};";
-    }
+    const QByteArray text = begin + lead + setting + end;
     if (group == 0 && before < 0)
         return text.trimmed() + '\n' + content;
-    return QByteArray(content).insert(before < 0 ? bodyBegin : entry(before).text.end, text);
+    return QByteArray(content).insert(before < 0 ? entry(group).body.begin : entry(before).text.end,
+                                      text);
 }
 
 QByteArray KeyInFile::without() const
