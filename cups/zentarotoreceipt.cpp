@@ -20,6 +20,7 @@
 #include <cstdlib>
 #include <exception>
 
+#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <sys/mman.h>
 #include <sys/sendfile.h>
@@ -228,6 +229,8 @@ Outcome render(QIODevice &request, int descriptor, QTextCodec *codec)
 /// Sends the print file to the printer as often as there are copies; false when nobody takes it.
 bool send(int descriptor, int copies)
 {
+    // What a pipe holds is printed even when the job is cancelled: no more than a page of memory.
+    fcntl(STDOUT_FILENO, F_SETPIPE_SZ, 4'096);
     const off_t size = lseek(descriptor, 0, SEEK_END);
     for (int i = 0; i < copies; ++i) {
         for (off_t at = 0; at < size;) {

@@ -79,7 +79,8 @@ public:
         process.closeWriteChannel();
         process.waitForFinished(-1);
         const QString errors = QString::fromUtf8(process.readAllStandardError()).trimmed();
-        if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        if ((process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+            || errors.endsWith("No destinations added."_L1)) // which is no trouble in a list
             return QString::fromUtf8(process.readAllStandardOutput());
         tools::printError(call.command + ": "_L1 + tools::inOneLine(errors.section(u'\n', -1))
                           + u'\n');
@@ -123,14 +124,15 @@ int add(const Call &call)
     const QString encoding = line.isSet(u"encoding"_s) ? line.value(u"encoding"_s) : u"UTF-8"_s;
     if (!description.contains("\n*Encoding " + encoding.toUtf8() + '/'))
         return line.wrongUsage("no queue has the encoding `"_L1 + encoding + u'`');
-    const QString name = line.arguments().first();
-    const QString faulty = line.isSet(u"hold-faulty"_s) ? u"hold"_s : u"print"_s;
-    if (!line.ran(u"lpadmin"_s,
-                  {u"-p"_s, name, u"-E"_s, u"-v"_s, uri, u"-P"_s, path, u"-o"_s,
-                   "Encoding="_L1 + encoding, u"-o"_s, "Faulty="_L1 + faulty, u"-o"_s,
-                   "printer-is-shared="_L1 + (line.isSet(u"shared"_s) ? "true"_L1 : "false"_L1)}))
-        return tools::Trouble;
-    return tools::Fine;
+    QStringList words = {u"-p"_s, line.arguments().first(), u"-E"_s, u"-v"_s, uri, u"-P"_s, path};
+    for (const QString &option :
+         {"Encoding="_L1 + encoding,
+          "Faulty="_L1 + (line.isSet(u"hold-faulty"_s) ? "hold"_L1 : "print"_L1),
+          "printer-is-shared="_L1 + (line.isSet(u"shared"_s) ? "true"_L1 : "false"_L1),
+          // A printer that breaks off prints the ticket again; the scheduler would stop the queue.
+          u"printer-error-policy=retry-current-job"_s})
+        words += {u"-o"_s, option};
+    return line.ran(u"lpadmin"_s, words) ? tools::Fine : tools::Trouble;
 }
 
 int remove(const Call &call)
