@@ -72,8 +72,7 @@ TEST(RequestCheck, TellsFaultsInOrder)
                             {u"endColumn"_s, 39},
                             {u"severity"_s, u"warning"_s},
                             {u"code"_s, u"before-method"_s},
-                            {u"message"_s, findings[0][u"message"]},
-                            {u"suggestion"_s, u""_s}};
+                            {u"message"_s, findings[0][u"message"]}};
     EXPECT_EQ(findings[0].toObject(), first);
     const auto misspelt = std::ranges::find_if(
         findings, [](const QJsonValue &f) { return f[u"suggestion"] == u"receipe"_s; });
@@ -111,6 +110,16 @@ TEST(RequestCheck, AnswersByItsExitStatus)
     EXPECT_EQ(checked({fine}).output, "");
     EXPECT_EQ(checked({u"--json"_s, fine}).output, "[\n]\n");
     EXPECT_TRUE(checked({u"--werror"_s, warning}).output.contains(":1:30: error: `x` prints"));
+
+    // What cannot be read keeps nothing else from being told, wherever it stands.
+    file(u".hidden/a.xml"_s, "<p/>");
+    ASSERT_EQ(std::rename(file(u"b.xml"_s, "").toUtf8(), folder.path().toUtf8() + "/\xE8.xml"), 0);
+    const Outcome some = checked({folder.path(u"missing.xml"_s), folder.path()});
+    EXPECT_EQ(some.exitStatus, 2);
+    EXPECT_TRUE(some.errors.contains("missing.xml: No such file"));
+    EXPECT_TRUE(some.errors.contains("/\xEF\xBF\xBD.xml: its name is not UTF-8"));
+    EXPECT_EQ(some.output.count("[no-method]"), 2);
+    std::remove(folder.path().toUtf8() + "/\xE8.xml"); // which the toolkit cannot
 
     const Home home;
     const Outcome input = support::run(u"sh"_s,

@@ -36,8 +36,10 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
     QStringList words;
     for (int i = 1; i < argc; ++i) {
         words.append(QFile::decodeName(argv[i]));
-        // The toolkit would open another file than the one that is named.
-        if (QFile::encodeName(words.last()) != argv[i]) {
+        // The toolkit would open another file than the one that is named. Requests are looked at
+        // one by one.
+        const bool namesRequests = words.first() == "check"_L1;
+        if (QFile::encodeName(words.last()) != argv[i] && !namesRequests) {
             printError("zentaro: the word `"_L1 + words.last() + "` is not UTF-8\n"_L1);
             return Trouble;
         }

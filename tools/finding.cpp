@@ -101,16 +101,19 @@ QString findingsAsJson(const std::vector<FileFindings> &files)
 {
     QJsonArray array;
     for (const FileFindings &file : files) {
-        for (const Finding &finding : file.findings)
-            array.append(QJsonObject{{u"file"_s, file.fileName},
-                                     {u"line"_s, finding.at.line},
-                                     {u"column"_s, finding.at.column},
-                                     {u"endLine"_s, finding.end.line},
-                                     {u"endColumn"_s, finding.end.column},
-                                     {u"severity"_s, severityName(finding.severity)},
-                                     {u"code"_s, finding.code},
-                                     {u"message"_s, finding.text},
-                                     {u"suggestion"_s, finding.suggestion}});
+        for (const Finding &finding : file.findings) {
+            QJsonObject object{
+                {u"file"_s, file.fileName},       {u"line"_s, finding.at.line},
+                {u"column"_s, finding.at.column}, {u"severity"_s, severityName(finding.severity)},
+                {u"code"_s, finding.code},        {u"message"_s, finding.text}};
+            if (finding.end.line > 0) {
+                object.insert(u"endLine"_s, finding.end.line);
+                object.insert(u"endColumn"_s, finding.end.column);
+            }
+            if (!finding.suggestion.isEmpty())
+                object.insert(u"suggestion"_s, finding.suggestion);
+            array.append(object);
+        }
     }
     return QString::fromUtf8(QJsonDocument(array).toJson());
 }

@@ -61,7 +61,7 @@ QLatin1StringView severityName(Severity severity);
 /// none.
 QString findingLines(const QString &fileName, const std::vector<Finding> &findings);
 /// A JSON array (which is UTF-8 whatever the locale) of objects with the members file, line,
-/// column, endLine, endColumn, severity, code, message and suggestion.
+/// column, severity, code and message, and where they are known endLine, endColumn and suggestion.
 QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings);
 
 /// The findings about one file of several.

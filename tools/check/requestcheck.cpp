@@ -105,40 +105,6 @@ void promoteWarnings(std::vector<tools::Finding> &findings)
     }
 }
 
-/// Prints the findings as they come, or keeps them for one array.
-class Printer
-{
-public:
-    explicit Printer(bool asJson)
-        : asJson(asJson)
-    {
-    }
-
-    void add(tools::FileFindings file)
-    {
-        if (tools::hasError(file.findings))
-            status = qMax(status, int(tools::Findings));
-        if (asJson)
-            files.push_back(std::move(file));
-        else
-            note(tools::printOut(tools::findingLines(file.fileName, file.findings)));
-    }
-    /// An exit status that is worse than the one so far counts.
-    void note(int other) { status = qMax(status, other); }
-    /// Prints what is left; answers the exit status.
-    int end()
-    {
-        if (asJson)
-            note(tools::printBytes(tools::findingsAsJson(files).toUtf8()));
-        return status;
-    }
-
-private:
-    const bool asJson;
-    int status = tools::Fine;
-    std::vector<tools::FileFindings> files;
-};
-
 tools::FileFindings withoutConfiguration()
 {
     return {ZTConfiguration::userFile(),
@@ -148,24 +114,34 @@ tools::FileFindings withoutConfiguration()
 }
 
 /// Checks every file; one that cannot be read is told and does not keep the others from it.
-int checkFiles(const tools::Call &call, const QStringList &files, const tools::CommandLine &line,
-               bool isConfigured)
+int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
+               const tools::CommandLine &line, bool isConfigured)
 {
-    Printer printer(line.isSet(u"json"_s));
+    const bool asJson = line.isSet(u"json"_s);
+    int status = files.isWhole ? tools::Fine : tools::Trouble;
+    std::vector<tools::FileFindings> kept;
+    const auto add = [&](tools::FileFindings file) {
+        if (tools::hasError(file.findings))
+            status = qMax(status, int(tools::Findings));
+        if (asJson)
+            kept.push_back(std::move(file));
+        else
+            status = qMax(status, tools::printOut(findingLines(file.fileName, file.findings)));
+    };
     if (!isConfigured)
-        printer.add(withoutConfiguration());
-    for (const QString &name : files) {
-        const std::unique_ptr<QIODevice> request = tools::openedRequest(call, name);
+        add(withoutConfiguration());
+    for (const QString &name : files.names) {
+        const auto request = tools::openedRequest(call, name);
         if (!request) {
-            printer.note(tools::Trouble);
+            status = tools::Trouble;
             continue;
         }
-        std::vector<tools::Finding> findings = check(*request, isConfigured);
+        tools::FileFindings file{name, check(*request, isConfigured)};
         if (line.isSet(u"werror"_s))
-            promoteWarnings(findings);
-        printer.add({name, std::move(findings)});
+            promoteWarnings(file.findings);
+        add(std::move(file));
     }
-    return printer.end();
+    return asJson ? qMax(status, tools::printBytes(tools::findingsAsJson(kept).toUtf8())) : status;
 }
 
 } // namespace
@@ -210,8 +186,8 @@ int run(const tools::Call &call)
     tools::ConfigurationInUse configuration; // its labels have the lengths that they have on paper
     if (!configuration.use(call, line.value(u"config"_s)))
         return tools::Trouble;
-    const auto files = tools::requestFiles(call, line.arguments());
-    return files ? checkFiles(call, *files, line, !configuration.isMissing()) : tools::Trouble;
+    return checkFiles(call, tools::requestFiles(call, line.arguments()), line,
+                      !configuration.isMissing());
 }
 
 } // namespace requestcheck

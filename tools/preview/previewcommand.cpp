@@ -339,14 +339,14 @@ int run(const tools::Call &call)
     Options options;
     if (const QString mistake = readOptions(line, options); !mistake.isEmpty())
         return line.wrongUsage(mistake);
-    const std::optional<QStringList> names = tools::requestFiles(call, line.arguments());
-    if (!names)
+    const auto [names, isWhole] = tools::requestFiles(call, line.arguments());
+    if (!isWhole)
         return tools::Trouble;
     if (!options.picture.fileName.isEmpty() && !call.desktop)
         return tools::startDesktop(call);
     const auto theApplication = application(call);
-    return options.other.isEmpty() ? previewAll(call, options, *names)
-                                   : compareAll(call, options, *names);
+    return options.other.isEmpty() ? previewAll(call, options, names)
+                                   : compareAll(call, options, names);
 }
 
 } // namespace preview

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/requests/requestfiles.h"
 
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+
+#include <filesystem>
 
 namespace tools {
 
@@ -11,37 +12,55 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList requestsIn(const QString &folder)
+constexpr auto notUtf8 = "its name is not UTF-8"_L1;
+
+void leaveOut(const Call &call, const QString &name, const QString &trouble, RequestFiles &files)
+{
+    tellTrouble(call, name, trouble);
+    files.isWhole = false;
+}
+
+/// Adds the requests in a folder, hidden ones too.
+void addFolder(const Call &call, const QString &folder, RequestFiles &files)
 {
     QStringList found;
-    QDirIterator files(folder, {u"*.xml"_s}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-        found.append(files.next());
+    std::error_code error;
+    std::filesystem::recursive_directory_iterator entry(QFile::encodeName(folder).constData(),
+                                                        error);
+    for (; !error && entry != end(entry); entry.increment(error)) {
+        const QByteArray path = entry->path().c_str();
+        const QString name = QFile::decodeName(path);
+        std::error_code gone;
+        if (!name.endsWith(".xml"_L1, Qt::CaseInsensitive) || !entry->is_regular_file(gone))
+            continue;
+        if (QFile::encodeName(name) == path)
+            found.append(name);
+        else
+            leaveOut(call, name, notUtf8, files);
+    }
+    if (error)
+        leaveOut(call, folder, QString::fromStdString(error.message()), files);
+    else if (found.isEmpty())
+        leaveOut(call, folder, u"holds no file whose name ends in .xml"_s, files);
     found.sort();
-    return found;
+    files.names += found;
 }
 
 } // namespace
 
-std::optional<QStringList> requestFiles(const Call &call, const QStringList &words)
+RequestFiles requestFiles(const Call &call, const QStringList &words)
 {
-    QStringList files;
+    RequestFiles files;
     for (const QString &word : words) {
         const QFileInfo named(word);
-        if (word != StandardInput && !named.exists()) {
-            tellTrouble(call, word, u"No such file or directory"_s);
-            return std::nullopt;
-        }
-        if (word == StandardInput || !named.isDir()) {
-            files.append(word);
-            continue;
-        }
-        const QStringList inFolder = requestsIn(word);
-        if (inFolder.isEmpty()) {
-            tellTrouble(call, word, u"holds no file whose name ends in .xml"_s);
-            return std::nullopt;
-        }
-        files.append(inFolder);
+        if (word.contains(QChar::ReplacementCharacter))
+            leaveOut(call, word, notUtf8, files);
+        else if (word != StandardInput && !named.exists())
+            leaveOut(call, word, u"No such file or directory"_s, files);
+        else if (word != StandardInput && named.isDir())
+            addFolder(call, word, files);
+        else
+            files.names.append(word);
     }
     return files;
 }
