@@ -2,13 +2,21 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringTokenizer>
+#include <QStringView>
+#include <QVarLengthArray>
 
 #include <string_view>
+#include <vector>
 
 class QIODevice;
 
 namespace libconfig {
+
+inline QLatin1StringView latin1(std::string_view bytes)
+{
+    return {bytes.data(), qsizetype(bytes.size())};
+}
 
 /// The grammar of the "cfg" form: takes a text apart, statement by statement. The store's reader
 /// stands on it, and so does whoever tells a person where a file goes wrong.
@@ -44,9 +52,11 @@ public:
     /// Their bytes; those of a value still with its quotes.
     std::string_view trimmedName() const;
     std::string_view trimmedValue() const;
+    /// What is kept of the bytes of a value: all but the double quotes.
+    static QString withoutQuotes(std::string_view value);
     /// The bytes before the structural character, and those between it and what ends the statement.
-    std::string_view rawName() const { return text.substr(beginning, marked - beginning); }
-    std::string_view rawValue() const;
+    std::string_view rawName() const { return nameText; }
+    std::string_view rawValue() const { return valueText; }
 
     // Where it stands, in bytes from the text's first.
 
@@ -58,6 +68,8 @@ public:
 
 private:
     std::string_view text;
+    std::string_view nameText;
+    std::string_view valueText;
     size_t beginning = 0;
     size_t marked = 0;
     size_t offset = 0;
@@ -68,7 +80,81 @@ private:
 /// reading fails, what came before.
 QByteArray limitedContent(QIODevice &file);
 
-/// What is kept of a value's bytes: all but the double quotes.
-QString withoutQuotes(std::string_view value);
+/// A dotted key, split once: the group names from the top down, one at least, and the name of the
+/// setting in the last of them. All are views of the key.
+struct KeyPath
+{
+    explicit KeyPath(QStringView key)
+    {
+        for (const QStringView field : qTokenize(key, u'.'))
+            groups.append(field);
+        // An empty field after a setting's name ends the key there.
+        qsizetype last = 2;
+        while (last < groups.size() && !groups[last].isEmpty())
+            ++last;
+        if (groups.size() > 1)
+            setting = groups[last - 1];
+        groups.resize(qMax(last - 1, qsizetype(1)));
+    }
+
+    QVarLengthArray<QStringView, 8> groups;
+    QStringView setting;
+};
+
+/// What a "cfg" text holds, in its order: its settings and groups without white space at the ends
+/// of the names, but for the groups without a member. A print run is answered from this list: to
+/// build the toolkit's tree of the sample's 195 settings, and to take it down, takes 0.4 ms, a
+/// tenth of the run.
+class CfgContent
+{
+public:
+    /// Reads the body of a group, up to the `};` that closes it or the end of the text.
+    explicit CfgContent(QByteArray text);
+
+    /// Whether the body had a setting or a group, also one that is left out.
+    bool hasMember() const { return entries.front().hasMember; }
+    /// Whether a `}` closes the body, and the bytes up to what is behind its `;`.
+    bool isClosed() const { return closed; }
+    qint64 size() const { return length; }
+
+    /// The value of a setting, by the rules of `Config::lookup`: the key's first field names the
+    /// first group of the body. Empty, non-null text when there is none.
+    QString lookup(const KeyPath &path) const;
+
+    /// Tells everything in file order: `beginGroup(name)`, `setting(name, value)`, `endGroup()`.
+    template <typename BeginGroup, typename Setting, typename EndGroup>
+    void visit(BeginGroup beginGroup, Setting setting, EndGroup endGroup) const
+    {
+        std::vector<quint32> ends; // of the groups that are open
+        for (quint32 i = 1; i < entries.size(); ++i) {
+            const Entry &entry = entries[i];
+            if (entry.isGroup) {
+                beginGroup(QString(latin1(entry.name)));
+                ends.push_back(entry.end);
+            } else {
+                setting(QString(latin1(entry.name)), CfgScanner::withoutQuotes(entry.value));
+            }
+            for (; !ends.empty() && ends.back() == i + 1; ends.pop_back())
+                endGroup();
+        }
+    }
+
+private:
+    struct Entry
+    {
+        std::string_view name;  // in `text`
+        std::string_view value; // of a setting, with its quotes
+        quint32 end = 0;        // the index behind it and all that it holds
+        bool isGroup = false;
+        bool hasMember = false;
+    };
+
+    QString valueIn(quint32 group, QStringView setting) const;
+
+    QByteArray text;                                    // ISO 8859-1
+    std::vector<Entry> entries = std::vector<Entry>(1); // the body itself first
+    qint64 length = 0;
+    bool closed = false;
+};
 
 } // namespace libconfig

@@ -2,12 +2,13 @@
 // The lower floor: what a program needs that only asks a "cfg" file for its settings.
 #include "config/config.h"
 
-#include "config/cfgcontent.h"
 #include "config/cfgscanner.h"
 #include "text/filename.h"
 #include "text/standardoutput.h"
 
 #include <QFile>
+
+#include <limits>
 
 namespace libconfig {
 
@@ -17,14 +18,50 @@ Config::Config() = default;
 
 Config::~Config() = default;
 
+bool Config::openFile()
+{
+    return openFile(fileName);
+}
+
+bool Config::openFile(QString const &name)
+{
+    stream = std::make_unique<std::ifstream>(QFile::encodeName(name).constData(),
+                                             std::ios::in | std::ios::binary);
+    stream->peek(); // a folder opens, but gives no character
+    if (stream->is_open() && !stream->bad()) {
+        stream->clear();
+        return true;
+    }
+    closeFile();
+    tellUnreadable(name);
+    return false;
+}
+
+void Config::closeFile()
+{
+    stream.reset();
+}
+
+bool Config::jump(char c)
+{
+    // Of a byte above 0x7f the plain character would be a negative number, which no stream gives.
+    return stream
+           && stream
+                  ->ignore(std::numeric_limits<std::streamsize>::max(),
+                           std::ifstream::traits_type::to_int_type(c))
+                  .good();
+}
+
 void Config::loadFile()
 {
+    closeFile();
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         tellUnreadable(fileName);
-    const CfgContent content(file.isOpen() ? limitedContent(file) : QByteArray());
-    stream.place(content.isClosed() ? QFile::encodeName(fileName) : QByteArray(), content.size());
-    addFile(content);
+    CfgContent content(file.isOpen() ? limitedContent(file) : QByteArray());
+    if (content.isClosed() && openFile())
+        stream->seekg(content.size());
+    addFile(std::move(content));
 }
 
 void Config::tellUnreadable(const QString &name)
@@ -50,34 +87,6 @@ QString Config::lookup(QString const &key) const
             return file.lookup(path);
     }
     return files.empty() && tree ? tree->lookup(path) : u""_s;
-}
-
-std::ifstream &Config::Stream::operator*()
-{
-    if (!made) {
-        made = std::make_unique<std::ifstream>();
-        open();
-    }
-    return *made;
-}
-
-void Config::Stream::place(const QByteArray &filePath, std::streamoff offset)
-{
-    path = filePath;
-    start = offset;
-    if (made) {
-        made->close();
-        made->clear();
-        open();
-    }
-}
-
-void Config::Stream::open()
-{
-    if (path.isEmpty())
-        return;
-    made->open(path.constData(), std::ios::in | std::ios::binary);
-    made->seekg(start);
 }
 
 } // namespace libconfig

@@ -58,16 +58,15 @@ public:
     /// What readFile does.
     void constructor(QString const &fileName, QString const &fileType);
 
-    /// Opens the byte stream of the "cfg" reader on `fileName`, or on `name`; whatever it was used
-    /// for before is forgotten. A file that cannot be read (a folder cannot) is told in one line on
-    /// standard output and answers false.
+    /// Opens `stream` on `fileName`, or on `name`; whatever it was used for before is forgotten. A
+    /// file that cannot be read (a folder cannot) is told in one line on standard output and
+    /// answers false.
     bool openFile();
     bool openFile(QString const &name);
     void closeFile();
 
-    /// Reads the whole "cfg" file `fileName`, which joins what was read before. The stream is
-    /// closed then, but where a `}` at the top level ended the reading it is open behind that group
-    /// end.
+    /// Reads the whole "cfg" file `fileName`, which joins what was read before. The stream is open
+    /// then where a `}` at the top level ended the reading, behind its `;`.
     void loadFile();
     /// Reads the body of the group `name`, up to and including its `};`, from the open stream,
     /// which must be one that can be read again from where the group ends: no pipe. The group's
@@ -143,12 +142,8 @@ public:
     void loadListView(QTreeWidgetItem *item, QDomNode parent);
 
     /// The seam between the floors: what the upper one keeps of the files.
-    class Tree
+    struct Tree
     {
-    public:
-        Tree() = default;
-        Tree(const Tree &) = delete;
-        Tree &operator=(const Tree &) = delete;
         virtual ~Tree() = default;
         /// The answer to lookup(key).
         virtual QString lookup(const KeyPath &path) const = 0;
@@ -157,25 +152,6 @@ public:
     };
 
 protected:
-    /// A standard stream that is made when it is first used: to set one up takes longer than to
-    /// read a configuration.
-    class Stream
-    {
-    public:
-        std::ifstream &operator*();
-        std::ifstream *operator->() { return &**this; }
-        operator std::ifstream &() { return **this; }
-        /// Leaves it open on a file, `offset` bytes behind the first; closed without a path.
-        void place(const QByteArray &filePath, std::streamoff offset);
-
-    private:
-        void open();
-
-        std::unique_ptr<std::ifstream> made;
-        QByteArray path;
-        std::streamoff start = 0;
-    };
-
     /// A pointer to the tree, which the files that were read join when it is first used. From then
     /// on lookups walk the tree.
     class Document
@@ -192,9 +168,11 @@ protected:
         Config &owner;
     };
 
-    QString fileName;         ///< as given
-    QString fileType;         ///< the format word as given
-    Stream stream;            ///< the bytes of a "cfg" file, an std::ifstream
+    QString fileName; ///< as given
+    QString fileType; ///< the format word as given
+    /// The bytes of a "cfg" file, piece by piece; null until it is opened, which reading all of it
+    /// does not.
+    std::unique_ptr<std::ifstream> stream;
     Document document{*this}; ///< the tree, owned; null until a file is read
 
 private:

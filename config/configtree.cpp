@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "config/configtree.h"
 
-#include <QSet>
+#include "config/cfgscanner.h"
 
-#include <algorithm>
+#include <QFile>
+#include <QXmlStreamReader>
+
+#include <array>
 
 namespace libconfig {
 
@@ -23,6 +26,39 @@ const void *identity(const QDomNode &node)
         const void *shared() const { return impl; }
     };
     return Node(node).shared();
+}
+
+/// The names of the attributes of each element, in document order; none of a text that nests too
+/// deep. The tree, which does not keep the order of attributes, is read from the same text.
+std::optional<std::vector<QStringList>> attributeNames(const QByteArray &content)
+{
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    std::vector<QStringList> names;
+    int depth = 0;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+        if (token != QXmlStreamReader::StartElement)
+            continue;
+        if (++depth > Config::MaxXmlDepth)
+            return std::nullopt;
+        QStringList &element = names.emplace_back();
+        for (const QXmlStreamAttribute &attribute : reader.attributes())
+            element.append(attribute.qualifiedName().toString());
+    }
+    return names;
+}
+
+/// What is left of the stream, but no more than is read of a file.
+QByteArray restOf(std::ifstream &stream)
+{
+    std::array<char, 8'192> piece;
+    QByteArray rest;
+    while (rest.size() < CfgScanner::MaxBytes
+           && stream.read(piece.data(), piece.size()).gcount() > 0)
+        rest.append(piece.data(), qsizetype(stream.gcount()));
+    return rest;
 }
 
 } // namespace
@@ -82,29 +118,22 @@ void ConfigTree::set(QDomElement &element, const QString &name, const QString &v
 
 void ConfigTree::note(const QDomElement &element, const QString &name)
 {
-    names[identity(element)].push_back(name);
+    names[identity(element)].append(name);
 }
 
 std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &element) const
 {
     const QDomNamedNodeMap present = element.attributes();
+    QStringList others;
+    for (int i = 0; i < present.length(); ++i)
+        others.append(present.item(i).nodeName());
+    others.sort();
+    QStringList order = names.value(identity(element)) + others;
+    order.removeDuplicates();
     std::vector<Attribute> result;
-    QSet<QString> listed;
-    const auto list = [&](const QDomNode &attribute) {
-        if (attribute.isNull() || listed.contains(attribute.nodeName()))
-            return;
-        listed.insert(attribute.nodeName());
-        result.push_back({attribute.nodeName(), attribute.nodeValue()});
-    };
-    if (const auto noted = names.find(identity(element)); noted != names.end()) {
-        for (const QString &name : noted->second)
-            list(present.namedItem(name));
-    }
-    if (const auto inOrder = std::ptrdiff_t(result.size()); inOrder < present.length()) {
-        for (int i = 0; i < present.length(); ++i)
-            list(present.item(i));
-        std::sort(result.begin() + inOrder, result.end(),
-                  [](const Attribute &a, const Attribute &b) { return a.name < b.name; });
+    for (const QString &name : std::as_const(order)) {
+        if (present.contains(name))
+            result.push_back({name, present.namedItem(name).nodeValue()});
     }
     return result;
 }
@@ -114,32 +143,24 @@ QString ConfigTree::lookup(const KeyPath &path) const
     return lookup(document.firstChildElement().firstChild(), path);
 }
 
-QString ConfigTree::lookup(QDomNode node, const KeyPath &path)
+QString ConfigTree::lookup(const QDomNode &node, const KeyPath &path)
 {
     const QString setting = path.setting.toString();
-    const QDomNode top = node;
-    qsizetype depth = 0; // of `node` below `top`
-    while (!node.isNull()) {
-        QDomNode next;
-        if (node.isElement() && node.nodeName() == path.groups[depth]) {
-            if (depth + 1 < path.groups.size()) {
-                next = node.firstChild();
-                depth += next.isNull() ? 0 : 1;
-            } else if (QString value = node.toElement().attribute(setting); !value.isEmpty()) {
-                return value;
-            }
-        }
-        // On to the next group in file order, back out of those that are done with.
-        while (next.isNull() && node != top) {
-            next = node.nextSibling();
-            if (next.isNull()) {
-                node = node.parentNode();
-                --depth;
-            }
-        }
-        node = next;
-    }
-    return u""_s;
+    QString value;
+    qsizetype depth = 0; // below the node
+    walkElements(
+        node,
+        [&](const QDomElement &group) {
+            if (group.tagName() != path.groups[depth])
+                return Walk::Over;
+            if (++depth < path.groups.size())
+                return Walk::Into;
+            value = group.attribute(setting);
+            --depth;
+            return value.isEmpty() ? Walk::Over : Walk::End;
+        },
+        [&](const QDomElement &) { --depth; });
+    return value.isEmpty() ? u""_s : value;
 }
 
 const ConfigTree &Config::grownTree() const
@@ -178,6 +199,92 @@ void Config::newDocument()
 QString Config::lookup(QDomNode node, QString const &key) const
 {
     return ConfigTree::lookup(node, KeyPath(key));
+}
+
+Config::Config(QString const &fileName, QString const &fileType)
+{
+    constructor(fileName, fileType);
+}
+
+void Config::readFile(QString const &fileName, QString const &fileType)
+{
+    constructor(fileName, fileType);
+}
+
+void Config::constructor(QString const &name, QString const &type)
+{
+    startAnew(name, type);
+    if (fileType == "cfg"_L1)
+        loadFile();
+    else if (fileType == "xml"_L1)
+        loadXmlFile();
+}
+
+void Config::readContent(const QByteArray &content, QString const &name, QString const &type)
+{
+    startAnew(name, type);
+    if (fileType == "cfg"_L1)
+        addFile(CfgContent(content));
+    else if (fileType == "xml"_L1)
+        loadXml(content);
+}
+
+void Config::startAnew(QString const &name, QString const &type)
+{
+    fileName = name;
+    fileType = type;
+    files.clear();
+    tree.reset();
+    if (fileType != "cfg"_L1)
+        newDocument();
+}
+
+void Config::loadFile(QString const &name, QDomNode parent)
+{
+    if (!stream)
+        return;
+    const std::streamoff start = stream->tellg();
+    const CfgContent body(restOf(*stream));
+    if (body.isClosed()) {
+        stream->clear();
+        stream->seekg(start + body.size());
+    }
+    takenTree().append(body, name, parent);
+}
+
+void Config::loadXmlFile()
+{
+    if (QFile file(fileName); file.open(QIODevice::ReadOnly))
+        loadXml(limitedContent(file));
+}
+
+void Config::loadXml(const QByteArray &content)
+{
+    const auto names =
+        content.size() <= CfgScanner::MaxBytes ? attributeNames(content) : std::nullopt;
+    newDocument();
+    QDomDocument read;
+    if (!names || !read.setContent(content, false))
+        return; // without what was read before a fault
+    // The root element moves under a file element, the shape of a "cfg" tree. A declaration or a
+    // comment before it stays where it is.
+    ConfigTree &loaded = takenTree();
+    loaded.document = read;
+    QDomElement file = ConfigTree::newElement(read, fileName);
+    file.appendChild(read.documentElement());
+    read.appendChild(file);
+    // The elements of the tree stand in the order of their start tags.
+    auto next = names->begin();
+    walkElements(
+        file.firstChild(),
+        [&](const QDomElement &element) {
+            if (next == names->end())
+                return Walk::End;
+            for (const QString &name : *next++)
+                loaded.note(element, name);
+            return Walk::Into;
+        },
+        [](const QDomElement &) {});
 }
 
 } // namespace libconfig

@@ -1,29 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "config/cfgcontent.h"
+#include "config/cfgscanner.h"
 #include "config/config.h"
 
 #include <QDomDocument>
+#include <QHash>
 
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace libconfig {
 
-/// Visits `node` and the elements below it in document order: `enter(element)` before its children,
-/// `leave(element)` after them. Ends at once when `enter` answers false. Nodes that are not
-/// elements are passed over. No recursion: groups nest to any depth.
+/// What comes after an element on a walk: what is in it, what is behind it, nothing.
+enum class Walk { Into, Over, End };
+
+/// Visits `node` and the elements below it in document order: `enter(element)` tells how to go on,
+/// and `leave(element)` follows the walk into it. Nodes that are not elements are passed over. No
+/// recursion: groups nest to any depth.
 template <typename Enter, typename Leave>
 void walkElements(QDomNode node, Enter enter, Leave leave)
 {
     const QDomNode first = node;
     while (node.isElement()) {
-        if (!enter(node.toElement()))
+        Walk walk = enter(node.toElement());
+        if (walk == Walk::End)
             return;
-        QDomNode next = node.firstChildElement();
+        QDomNode next = walk == Walk::Into ? node.firstChildElement() : QDomElement();
         while (next.isNull()) {
-            leave(node.toElement());
+            if (std::exchange(walk, Walk::Into) == Walk::Into)
+                leave(node.toElement());
             if (node == first)
                 return;
             next = node.nextSiblingElement();
@@ -67,12 +73,12 @@ public:
     /// document comes to life with its first element, and is a null node before.
     static QDomElement newElement(QDomDocument &document, const QString &name);
     /// The setting of a key whose first field is the tag name of `node`, as Config::lookup.
-    static QString lookup(QDomNode node, const KeyPath &path);
+    static QString lookup(const QDomNode &node, const KeyPath &path);
 
     QDomDocument document;
 
 private:
-    std::unordered_map<const void *, std::vector<QString>> names; // by identity of the element
+    QHash<const void *, QStringList> names; // by identity of the element
 };
 
 } // namespace libconfig

@@ -140,7 +140,7 @@ void Config::buildConfigListView(QDomNode node, QTreeWidgetItem *item)
             if (open)
                 open->addChild(shown);
             open = shown;
-            return true;
+            return Walk::Into;
         },
         [&](const QDomElement &) {
             if (open->parent())

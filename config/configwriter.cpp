@@ -101,7 +101,7 @@ void Config::buildConfigFile(QDomNode node, QTextStream &ts) const
             ts << indentation << group.tagName() << ": \n" << indentation << "{\n";
             indentation.resize(indentation.size() + Indent, u' ');
             writeCfgSettings(tree.attributesOf(group), indentation, ts);
-            return ts.status() == QTextStream::Ok;
+            return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
         },
         [&](const QDomElement &) {
             indentation.chop(Indent);
@@ -121,7 +121,7 @@ void Config::buildConfigXmlFile(QDomNode node, QTextStream &ts) const
             for (const auto &[name, value] : tree.attributesOf(group))
                 ts << '\n' << indentation << name << " = \"" << value << '"';
             ts << ">\n";
-            return ts.status() == QTextStream::Ok;
+            return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
         },
         [&](const QDomElement &group) {
             indentation.chop(Indent);
@@ -142,7 +142,7 @@ void Config::forEachSetting(
                 prefix += group.tagName() + u'.';
             for (const auto &[key, value] : tree.attributesOf(group))
                 visit(prefix + key, value);
-            return true;
+            return Walk::Into;
         },
         [&](const QDomElement &group) {
             if (group != file)
@@ -165,7 +165,7 @@ QString Config::configTreeText(QDomNode node) const
             text += group.tagName() + u'\n';
             for (const auto &[name, value] : tree.attributesOf(group))
                 text += name + " = "_L1 + value + u'\n';
-            return true;
+            return Walk::Into;
         },
         [](const QDomElement &) {});
     return text;

@@ -8,7 +8,7 @@
 #include "app/ztconfiguration.h"
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
-#include "text/localefile.h"
+#include "text/localeencoding.h"
 #include "text/standardoutput.h"
 
 #include <QCoreApplication>

@@ -36,7 +36,7 @@ public:
             [&](const QDomElement &group) {
                 if (emptyGroups && !group.hasAttributes() && group.firstChildElement().isNull())
                     empty.push_back(group);
-                return true;
+                return libconfig::Walk::Into;
             },
             [](const QDomElement &) {});
         for (QDomElement &group : empty)
@@ -57,7 +57,7 @@ bool holds(const Tree &tree, const QRegularExpression &name, const QRegularExpre
                 all = name.match(settings.item(i).nodeName()).hasMatch()
                       && value.match(settings.item(i).nodeValue()).hasMatch();
             }
-            return all;
+            return all ? libconfig::Walk::Into : libconfig::Walk::End;
         },
         [](const QDomElement &) {});
     return all;

@@ -4,7 +4,7 @@
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "text/filename.h"
-#include "text/localefile.h"
+#include "text/localeencoding.h"
 #include "text/standardoutput.h"
 
 #include <QDateTime>

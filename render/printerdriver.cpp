@@ -5,7 +5,6 @@
 #include "app/ztconfiguration.h"
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
-#include "text/localefile.h"
 #include "text/standardoutput.h"
 
 #include <algorithm>

@@ -130,7 +130,10 @@ public:
     using Loaded::Loaded;
 
     /// What is left of the stream.
-    std::string rest() { return {std::istreambuf_iterator<char>(stream), {}}; }
+    std::string rest()
+    {
+        return stream ? std::string(std::istreambuf_iterator<char>(*stream), {}) : std::string();
+    }
 
     /// Reads a group from the open stream, below the first one.
     void readGroup(const QString &name) { loadFile(name, document->firstChild().firstChild()); }

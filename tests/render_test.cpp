@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/rowlayout.h"
 #include "tests/recordingdevice.h"
-#include "text/localefile.h"
+#include "text/localeencoding.h"
 
 #include <QTextCodec>
 

@@ -4,7 +4,7 @@
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
 #include "render/vocabulary.h"
-#include "text/localefile.h"
+#include "text/localeencoding.h"
 #include "tools/check/tagplaces.h"
 #include "tools/requests/requestfiles.h"
 
