@@ -84,7 +84,7 @@ QString faultOf(TracingDevice &device, const TagPlaces &places)
 
 std::optional<Input> readInput(const tools::Call &call, const QString &name)
 {
-    constexpr qint64 PieceBytes = 64 * 1'024;
+    constexpr qint64 PieceBytes = 65'536;
     const std::unique_ptr<QFile> file = tools::openedRequest(call, name);
     if (!file)
         return std::nullopt;

@@ -159,7 +159,7 @@ private:
 
 int drawOnTerminal(const Document &document, const Options &options)
 {
-    constexpr qsizetype PieceSize = 64 * 1'024; // characters that are written at once
+    constexpr qsizetype PieceSize = 65'536; // characters that are written at once
     const TerminalDrawing drawing(
         text::localeCodec(), document.origins.empty() ? 0 : document.origins.back().requestLine);
     QString text;

@@ -117,7 +117,7 @@ struct Palette
         constexpr int Last = Stretch - 2; // and one place between stretches, for the edge
         const auto shade = [](int place) { return QColor(place, place, place); };
         const Colours colours;
-        table.fill(colours.edge.rgb(), 4 * Stretch);
+        table.fill(colours.edge.rgb(), qsizetype(4) * Stretch);
         shades.edge = shade(Stretch - 1);
         int begin = 0;
         for (const auto member :
@@ -175,7 +175,7 @@ QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options
 {
     const Picture picture(sheets, {VectorDpi, options.paper.widthMm}, perRow(options),
                           frameOf(sheets));
-    if (const QString fault = faultOfPage(picture.size); !fault.isEmpty())
+    if (QString fault = faultOfPage(picture.size); !fault.isEmpty())
         return fault;
     QBuffer svg;
     QSvgGenerator generator;
@@ -205,7 +205,7 @@ QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options
     for (size_t i = 0; i < sheets.size(); i += perPage) {
         const auto row = std::span(sheets).subspan(i, std::min(perPage, sheets.size() - i));
         const Picture picture(row, {VectorDpi, options.paper.widthMm}, perPage, frame);
-        if (const QString fault = faultOfPage(picture.size); !fault.isEmpty())
+        if (QString fault = faultOfPage(picture.size); !fault.isEmpty())
             return fault;
         writer.setPageSize(QPageSize(QSizeF(picture.size) / VectorDotsOfMm, QPageSize::Millimeter));
         if (i == 0)
@@ -234,12 +234,12 @@ QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &opt
     QSaveFile file(options.fileName);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    const QString fault = format->second(sheets, options, file);
-    if (!fault.isEmpty()) {
+    QString fault = format->second(sheets, options, file);
+    if (!fault.isEmpty())
         file.cancelWriting();
-        return fault;
-    }
-    return file.commit() ? QString() : file.errorString();
+    if (!file.commit() && fault.isEmpty())
+        fault = file.errorString();
+    return fault;
 }
 
 } // namespace preview

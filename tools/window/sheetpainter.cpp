@@ -118,7 +118,7 @@ SheetPainter::SheetPainter(const Sheet &sheet, const PaperSize &paper, Frame fra
 
 QSize SheetPainter::size() const
 {
-    return {left + paperWidth + right, top(sheet.rows.size()) + foot};
+    return {left + paperWidth + right, top(std::max<size_t>(sheet.rows.size(), 1)) + foot};
 }
 
 qsizetype SheetPainter::rowAt(int y) const
