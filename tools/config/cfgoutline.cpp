@@ -55,12 +55,17 @@ private:
     void endFile();
 
     bool checkName(const QString &what);
-    void checkValue(const QString &key);
+    void checkValue(const QString &key, qint64 begin);
     void checkValueEnd(const QString &key, std::string_view value, qint64 begin);
     void checkQuotes(const QString &key, std::string_view value, qint64 begin);
 
     Place placeAt(qint64 offset) const;
     std::string_view textBetween(qint64 begin, qint64 end) const;
+    /// What stands between the structural character and the one that ends the statement.
+    std::string_view skippedText() const
+    {
+        return textBetween(scanner.mark() + 1, scanner.end() - (scanner.complete() ? 1 : 0));
+    }
     qint64 nameBegin() const;
     Entry &entry(qsizetype index) { return outline.entries[size_t(index)]; }
     void tell(Severity severity, QLatin1StringView code, const QString &text, qint64 offset);
@@ -82,7 +87,7 @@ Reader::Reader(const QByteArray &content)
 {
     for (size_t at = bytes.find('\n'); at != bytes.npos; at = bytes.find('\n', at + 1))
         lines.push_back(qint64(at) + 1);
-    outline.entries.push_back({Entry::Kind::Group, -1, {}, {}, {}, {}, false, false});
+    outline.add(Entry::Kind::Group, -1);
 }
 
 Outline Reader::read()
@@ -114,21 +119,13 @@ void Reader::beginGroup()
     const QString name = scanner.name();
     const bool misread = !checkName(u"group"_s);
     const auto index = qsizetype(outline.entries.size());
-    entry(open.back()).hasMember = true;
-    outline.entries.push_back({Entry::Kind::Group,
-                               open.back(),
-                               name,
-                               {},
-                               placeAt(nameBegin()),
-                               {},
-                               false,
-                               misread,
-                               {nameBegin(), scanner.end()},
-                               {scanner.end(), scanner.end()}});
+    Entry &group = outline.add(Entry::Kind::Group, open.back(), name, placeAt(nameBegin()));
+    group.misread = misread;
+    group.text = {nameBegin(), scanner.end()};
+    group.body = {scanner.end(), scanner.end()};
     open.push_back(index);
 
-    const std::string_view skipped =
-        trimmed(textBetween(scanner.mark() + 1, scanner.end() - (scanner.complete() ? 1 : 0)));
+    const std::string_view skipped = trimmed(skippedText());
     if (!scanner.complete())
         tellLoss("missing-brace"_L1,
                  "no `{` follows the `:` of the group "_L1 + excerpt(name)
@@ -150,22 +147,17 @@ void Reader::addSetting()
 {
     const QString key = scanner.name();
     const bool misread = !checkName(u"key"_s);
-    const qint64 valueBegin = scanner.mark() + 1;
+    const std::string_view value = trimmed(scanner.rawValue());
     const size_t blanks =
         std::min(scanner.rawValue().find_first_not_of(WhiteSpace), scanner.rawValue().size());
-    const qint64 begin = valueBegin + qint64(blanks);
-    entry(open.back()).hasMember = true;
-    outline.entries.push_back({Entry::Kind::Setting,
-                               open.back(),
-                               key,
-                               scanner.value(),
-                               placeAt(nameBegin()),
-                               placeAt(begin),
-                               false,
-                               misread,
-                               {nameBegin(), scanner.end()},
-                               {begin, begin + qint64(trimmed(scanner.rawValue()).size())}});
-    checkValue(key);
+    const qint64 begin = scanner.mark() + 1 + qint64(blanks);
+    Entry &setting = outline.add(Entry::Kind::Setting, open.back(), key, placeAt(nameBegin()));
+    setting.value = scanner.value();
+    setting.valueAt = placeAt(begin);
+    setting.misread = misread;
+    setting.text = {nameBegin(), scanner.end()};
+    setting.body = {begin, begin + qint64(value.size())};
+    checkValue(key, value.empty() ? scanner.mark() + 1 : begin);
 }
 
 /// False at the `}` that ends the reading of the file.
@@ -174,8 +166,7 @@ bool Reader::endGroup()
     if (!isIdle(scanner.rawName()))
         tellLoss("text-lost"_L1, "no setting, and lost: "_L1 + shown(scanner.rawName()),
                  nameBegin());
-    const std::string_view skipped =
-        textBetween(scanner.mark() + 1, scanner.end() - (scanner.complete() ? 1 : 0));
+    const std::string_view skipped = skippedText();
     const QString name = excerpt(entry(open.back()).name);
     if (open.size() == 1) {
         const std::string_view rest = textBetween(scanner.mark() + 1, qint64(bytes.size()));
@@ -244,13 +235,9 @@ bool Reader::checkName(const QString &what)
     return false;
 }
 
-void Reader::checkValue(const QString &key)
+void Reader::checkValue(const QString &key, qint64 begin)
 {
     const std::string_view value = trimmed(scanner.rawValue());
-    const qint64 begin =
-        value.empty()
-            ? scanner.mark() + 1
-            : scanner.mark() + 1 + qint64(scanner.rawValue().find_first_not_of(WhiteSpace));
     if (value.find('\0') != value.npos)
         tellLoss("stray-text"_L1, "a NUL byte ends the value of "_L1 + excerpt(key), begin);
     if (!scanner.complete() || value.find('\n') != value.npos)

@@ -23,19 +23,10 @@ Place placeOf(const QXmlStreamReader &reader)
 qsizetype addElement(Outline &outline, const QXmlStreamReader &reader, qsizetype parent, Place at)
 {
     const auto group = qsizetype(outline.entries.size());
-    outline.entries[size_t(parent)].hasMember = true;
-    outline.entries.push_back({Entry::Kind::Group,
-                               parent,
-                               reader.qualifiedName().toString(),
-                               {},
-                               at,
-                               {},
-                               !reader.attributes().isEmpty(),
-                               false});
+    outline.add(Entry::Kind::Group, parent, reader.qualifiedName().toString(), at);
     for (const QXmlStreamAttribute &attribute : reader.attributes())
-        outline.entries.push_back({Entry::Kind::Setting, group,
-                                   attribute.qualifiedName().toString(),
-                                   attribute.value().toString(), at, at, false, false});
+        outline.add(Entry::Kind::Setting, group, attribute.qualifiedName().toString(), at).value =
+            attribute.value().toString();
     return group;
 }
 
@@ -44,7 +35,7 @@ Outline emptyOutline()
 {
     Outline outline;
     outline.keepsEmptyGroups = true;
-    outline.entries.push_back({Entry::Kind::Group, -1, {}, {}, {}, {}, false, false});
+    outline.add(Entry::Kind::Group, -1);
     return outline;
 }
 
@@ -100,6 +91,13 @@ Outline readXmlOutline(const QByteArray &content)
 }
 
 } // namespace
+
+Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, Place at)
+{
+    if (parent >= 0)
+        entries[size_t(parent)].hasMember = true;
+    return entries.emplace_back(Entry{kind, parent, name, {}, at, at});
+}
 
 qsizetype Outline::topGroup() const
 {

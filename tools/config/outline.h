@@ -46,6 +46,8 @@ struct Outline
     std::vector<Finding> losses;   ///< what the store does not keep and a written file will lack
     bool keepsEmptyGroups = false; ///< the store keeps groups without members
 
+    /// Adds an entry to its parent, -1 for the file, which comes first.
+    Entry &add(Entry::Kind kind, qsizetype parent, const QString &name = {}, Place at = {});
     /// The first top-level group that the store keeps, where every lookup begins; -1 for none.
     qsizetype topGroup() const;
     /// The dotted name of an entry; `…` stands for the outer groups of a deeply nested one.

@@ -76,7 +76,8 @@ int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype st
     for (qsizetype i = 0; i < words.size(); i += step) {
         QStringList keys{words[i]};
         if (line.isSet(u"all"_s)) {
-            keys = tools::groupsWith(words[i]).filter(u"doc"_s);
+            keys = tools::groupsWith(words[i]);
+            keys.removeIf([](const QString &group) { return !tools::isDocumentGroup(group); });
             for (QString &key : keys)
                 key = tools::keyOf(key, words[i]);
         }
