@@ -52,6 +52,17 @@ std::vector<Finding> newErrors(const QByteArray &content, const QByteArray &befo
 using Change = EditedContent (*)(const QByteArray &content, const QString &key,
                                  const QString &value);
 
+/// The key itself, or those of all documents that have the key word.
+QStringList keysFor(const QString &word, bool ofAll)
+{
+    QStringList keys = ofAll ? QStringList() : QStringList{word};
+    for (const QString &group : ofAll ? tools::groupsWith(word) : QStringList()) {
+        if (tools::isDocumentGroup(group))
+            keys.append(tools::keyOf(group, word));
+    }
+    return keys;
+}
+
 /// What `set` and `unset` share: changes keys, each of which `step` words name, the key first.
 int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype step, Change change)
 {
@@ -74,14 +85,8 @@ int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype st
 
     QByteArray changed = *content;
     for (qsizetype i = 0; i < words.size(); i += step) {
-        QStringList keys{words[i]};
-        if (line.isSet(u"all"_s)) {
-            keys = tools::groupsWith(words[i]);
-            keys.removeIf([](const QString &group) { return !tools::isDocumentGroup(group); });
-            for (QString &key : keys)
-                key = tools::keyOf(key, words[i]);
-        }
-        const QString unread = keys.isEmpty() ? unreadKey(words[i]) : unreadKey(keys.first());
+        const QStringList keys = keysFor(words[i], line.isSet(u"all"_s));
+        const QString unread = unreadKey(keys.value(0, words[i]));
         if (!unread.isEmpty() && (keys.isEmpty() || !line.isSet(u"force"_s)))
             return refuse(call, unread);
         for (const QString &key : keys) {
