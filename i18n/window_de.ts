@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
+        <translation>W&amp;iederholen</translation>
     </message>
     <message>
         <source>Add &amp;Setting</source>
@@ -142,10 +142,6 @@
     <message>
         <source>Add &amp;Group</source>
         <translation>&amp;Gruppe hinzufügen</translation>
-    </message>
-    <message>
-        <source>&amp;Rename</source>
-        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>Change &amp;Value</source>
@@ -161,7 +157,7 @@
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>&amp;Entfernen</translation>
+        <translation>Ent&amp;fernen</translation>
     </message>
     <message>
         <source>&amp;Find</source>
@@ -186,6 +182,10 @@
     <message>
         <source>Zoom &amp;Out</source>
         <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Ren&amp;ame</source>
+        <translation>&amp;Umbenennen</translation>
     </message>
 </context>
 <context>

@@ -144,10 +144,6 @@
         <translation>Añadir &amp;grupo</translation>
     </message>
     <message>
-        <source>&amp;Rename</source>
-        <translation>Re&amp;nombrar</translation>
-    </message>
-    <message>
         <source>Change &amp;Value</source>
         <translation>Cambiar &amp;valor</translation>
     </message>
@@ -186,6 +182,10 @@
     <message>
         <source>Zoom &amp;Out</source>
         <translation>Ale&amp;jar</translation>
+    </message>
+    <message>
+        <source>Ren&amp;ame</source>
+        <translation>Re&amp;nombrar</translation>
     </message>
 </context>
 <context>

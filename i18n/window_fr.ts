@@ -141,11 +141,7 @@
     </message>
     <message>
         <source>Add &amp;Group</source>
-        <translation>Ajouter un grou&amp;pe</translation>
-    </message>
-    <message>
-        <source>&amp;Rename</source>
-        <translation>Re&amp;nommer</translation>
+        <translation>Ajouter un group&amp;e</translation>
     </message>
     <message>
         <source>Change &amp;Value</source>
@@ -169,7 +165,7 @@
     </message>
     <message>
         <source>&amp;Next Finding</source>
-        <translation>Problème &amp;suivant</translation>
+        <translation>Problème su&amp;ivant</translation>
     </message>
     <message>
         <source>&amp;Paper</source>
@@ -186,6 +182,10 @@
     <message>
         <source>Zoom &amp;Out</source>
         <translation>Zoom a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>Ren&amp;ame</source>
+        <translation>Re&amp;nommer</translation>
     </message>
 </context>
 <context>

@@ -144,10 +144,6 @@
         <translation>Aggiungi &amp;gruppo</translation>
     </message>
     <message>
-        <source>&amp;Rename</source>
-        <translation>Ri&amp;nomina</translation>
-    </message>
-    <message>
         <source>Change &amp;Value</source>
         <translation>Modifica &amp;valore</translation>
     </message>
@@ -161,7 +157,7 @@
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>&amp;Rimuovi</translation>
+        <translation>Rim&amp;uovi</translation>
     </message>
     <message>
         <source>&amp;Find</source>
@@ -186,6 +182,10 @@
     <message>
         <source>Zoom &amp;Out</source>
         <translation>Ri&amp;duci</translation>
+    </message>
+    <message>
+        <source>Ren&amp;ame</source>
+        <translation>Ri&amp;nomina</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,28 @@
 #include "tests/guienvironment.h"
 #include "tests/support.h"
 #include "tools/window/configeditor.h"
+#include "tools/window/paperpane.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QTest>
+#include <QTranslator>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using configtool::ConfigEditor;
+using configtool::SheetView;
 
 namespace {
 
@@ -267,15 +274,189 @@ TEST_F(Editor, StartsAFileThatIsNotThere)
     EXPECT_FALSE(editor.open({path, u"cfg"_s}));
 }
 
-TEST_F(Editor, HasKeysOfItsOwn)
+TEST_F(Editor, SavesUnderAnotherNameWhereTheFileCannotBeWritten)
 {
-    open(small);
-    QStringList shortcuts;
-    for (const QAction *const action : editor.findChildren<QAction *>())
-        shortcuts.append(action->shortcut().toString());
-    shortcuts.removeAll(QString());
-    EXPECT_EQ(shortcuts.removeDuplicates(), 0) << "of two actions with one shortcut none works";
-    EXPECT_GE(shortcuts.size(), 10);
+    support::writeFile(folder.path(u"file"_s), "");
+    ASSERT_TRUE(editor.open({folder.path(u"file/zentaro.conf"_s), u"cfg"_s}));
+    editor.show();
+    QStringList labels;
+    for (const QLabel *const label : editor.centralWidget()->findChildren<QLabel *>())
+        labels.append(label->text());
+    EXPECT_TRUE(labels.join(u'\n').contains(u"cannot be written: Not a directory"));
+    choose(u"Add Group"_s);
+    type(u"zentaro"_s);
+    choose(u"Add Setting"_s);
+    type(u"a = 1"_s);
+    EXPECT_FALSE(editor.save());
+    EXPECT_TRUE(takeAsked().contains(u"Not a directory"));
+    EXPECT_TRUE(editor.saveTo({path, u"cfg"_s}));
+    EXPECT_EQ(support::readFile(path), "zentaro: \n{\n    a = \"1\";\n};\n\n");
+    EXPECT_EQ(editor.windowTitle(), u"zentaro.conf[*] – Configuration");
+    EXPECT_TRUE(editor.save()); // it is this file now
+}
+
+/// The editor on the sample for 40 columns.
+class Paper : public Editor
+{
+protected:
+    Paper() { open(support::readFile(support::sourceDir() + u"/samples/zentaro-40.conf"_s)); }
+
+    SheetView *view() { return dynamic_cast<SheetView *>(area()->widget()); }
+    QScrollArea *area() { return editor.findChild<QScrollArea *>(); }
+    QLabel *remark() { return area()->parentWidget()->findChildren<QLabel *>().last(); }
+    QComboBox *documents() { return area()->parentWidget()->findChild<QComboBox *>(); }
+
+    /// The setting's item, which becomes the current one.
+    QTreeWidgetItem *choose(const QString &group, const QString &key)
+    {
+        QTreeWidgetItem *const parent = item(group);
+        for (int i = 0; i < parent->childCount(); ++i) {
+            if (parent->child(i)->text(0).startsWith(key + u' ')) {
+                tree()->setCurrentItem(parent->child(i));
+                return parent->child(i);
+            }
+        }
+        ADD_FAILURE() << key.toStdString();
+        return parent;
+    }
+    using Editor::choose;
+
+    /// The paper's text, with `*` before the marked lines.
+    QStringList drawn()
+    {
+        QCoreApplication::processEvents();
+        QStringList lines;
+        const preview::Sheet &sheet = view()->rows();
+        for (size_t i = 0; i < sheet.rows.size(); ++i)
+            lines.append((i < sheet.changed.size() && sheet.changed[i] ? u"*"_s : u""_s)
+                         + preview::textOf(sheet.rows[i].text));
+        return lines;
+    }
+};
+
+TEST_F(Paper, IsDrawnAnewWithWhatIsTyped)
+{
+    choose(u"prefiscaldoc"_s, u"paperWidth"_s);
+    EXPECT_TRUE(drawn().contains(u"Preconto"_s)); // the document that has the setting
+    auto *const number = editor.findChild<QSpinBox *>();
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClicks(number, u"32"_s);
+    EXPECT_TRUE(drawn().contains(u'*' + QString(32, u'='))) << drawn().join(u'\n').toStdString();
+    EXPECT_TRUE(drawn().contains(u" Table: 7"_s)); // not marked
+    choose(u"Undo"_s);                             // all that was typed
+    EXPECT_EQ(tree()->currentItem()->text(0), u"paperWidth = 40");
+    choose(u"prefiscaldoc"_s, u"printTable"_s);
+    choose(u"Switch On or Off"_s);
+    EXPECT_FALSE(drawn().contains(u" Table: 7"_s));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return drawn().filter(u"*"_s).isEmpty(); }));
+}
+
+TEST_F(Paper, ShowsEverySampleAndARequestOfOnesOwn)
+{
+    EXPECT_EQ(documents()->count(), 13);
+    int printing = 0;
+    for (int i = 0; i < documents()->count(); ++i) {
+        documents()->setCurrentIndex(i);
+        printing += drawn().size() > 4 ? 1 : 0;
+        EXPECT_EQ(remark()->text(), u"");
+    }
+    EXPECT_EQ(printing, 12); // an order in summary prints nothing
+    auto *const pane = dynamic_cast<configtool::PaperPane *>(area()->parentWidget());
+    const QString request = folder.path(u"own.xml"_s);
+    EXPECT_NE(pane->openRequest(request), u"");
+    support::writeFile(request, "j\n");
+    EXPECT_NE(pane->openRequest(request), u"");
+    const QByteArray sold = support::readFile(support::sourceDir() + u"/samples/printSold.xml"_s);
+    support::writeFile(request, sold.chopped(12));
+    EXPECT_EQ(pane->openRequest(request), u"");
+    EXPECT_GT(drawn().size(), 4);
+    EXPECT_TRUE(remark()->text().startsWith(u"line ")) << remark()->text().toStdString();
+    choose(u"doc"_s, u"paperWidth"_s);
+    EXPECT_EQ(documents()->currentIndex(), 13); // what the person opened stays
+}
+
+TEST_F(Paper, ShadesTheSettingsThatShapeALine)
+{
+    choose(u"prefiscaldoc"_s, u"paperWidth"_s);
+    const int line = int(drawn().indexOf(u" Waiter: Niccolò"_s));
+    ASSERT_GE(line, 0);
+    const auto click = [this](int row) {
+        const int height = view()->height() / int(drawn().size());
+        QTest::mouseClick(view(), Qt::LeftButton, {}, {20, row * height + height / 2});
+    };
+    click(line);
+    EXPECT_EQ(remark()->text(), u"This line is shaped by: printWaiter");
+    const auto isShaded = [](const QTreeWidgetItem *item) {
+        return item->background(0).style() != Qt::NoBrush;
+    };
+    EXPECT_TRUE(isShaded(choose(u"prefiscaldoc"_s, u"printWaiter"_s)));
+    EXPECT_FALSE(editor.isWindowModified()); // what was tried is not kept
+
+    click(int(drawn().indexOf(QRegularExpression(u".*Coperto.*"_s))) - 1);
+    QTest::keyClick(view(), Qt::Key_Down);
+    QTest::keyClick(view(), Qt::Key_Return);
+    EXPECT_TRUE(isShaded(choose(u"prefiscaldoc"_s, u"priceFieldWidth"_s)));
+    EXPECT_FALSE(isShaded(choose(u"prefiscaldoc"_s, u"printWaiter"_s)));
+}
+
+TEST_F(Paper, ChangesASettingOfAllDocumentsAtOnce)
+{
+    const QByteArray before = saved();
+    delete choose(u"receiptdoc"_s, u"paperWidth"_s);
+    choose(u"doc"_s, u"paperWidth"_s);
+    auto *const number = editor.findChild<QSpinBox *>();
+    number->setValue(48);
+    choose(u"Set Everywhere"_s);
+    EXPECT_EQ(saved().count("paperWidth = \"48\""), 8);
+    choose(u"Undo"_s);
+    choose(u"Undo"_s);
+    EXPECT_EQ(saved().count("paperWidth = \"40\""), 7);
+    EXPECT_EQ(before.count("paperWidth = \"40\""), 8);
+}
+
+TEST_F(Paper, HasAnEditorThatFitsASetting)
+{
+    choose(u"doc"_s, u"printDate"_s);
+    EXPECT_TRUE(editor.findChild<QCheckBox *>());
+    choose(u"doc"_s, u"topMargin"_s);
+    EXPECT_EQ(editor.findChild<QSpinBox *>()->maximum(), 1'000);
+    choose(u"language"_s, u"basedir"_s)
+        ->setText(0, u"basedir = "_s + QStringLiteral(ZENTARO_TRANSLATIONS_DIR));
+    QTreeWidgetItem *const file = choose(u"language"_s, u"file"_s);
+    QComboBox *languages = nullptr;
+    for (QComboBox *const box : editor.findChildren<QComboBox *>())
+        languages = box->findText(u"italiano (/zentaro_it)"_s) >= 0 ? box : languages;
+    ASSERT_TRUE(languages);
+    languages->setFocus();
+    QTest::keyClicks(languages, u"it"_s);
+    EXPECT_EQ(file->text(0), u"file = /zentaro_it");
+    EXPECT_TRUE(drawn().contains(u"* Cameriere: Niccolò"_s)) << drawn().join(u'\n').toStdString();
+}
+
+TEST(EditorWindow, SpeaksEveryLanguageWithKeysOfItsOwn)
+{
+    for (const char *const language : {"en", "it", "de", "fr", "es"}) {
+        QTranslator texts;
+        const bool isForeign = texts.load(u":/i18n/window_"_s + QLatin1StringView(language));
+        EXPECT_EQ(isForeign, QLatin1StringView(language) != "en"_L1);
+        QCoreApplication::installTranslator(&texts);
+        const ConfigEditor editor;
+        QStringList shortcuts;
+        for (const QAction *const action : editor.findChildren<QAction *>())
+            shortcuts.append(action->shortcut().toString());
+        shortcuts.removeAll(QString());
+        EXPECT_EQ(shortcuts.removeDuplicates(), 0) << "of two with one shortcut none works";
+        EXPECT_GE(shortcuts.size(), 15);
+        for (const QMenu *const menu : editor.findChildren<QMenu *>()) {
+            static const QRegularExpression mnemonic(u"&(.)"_s);
+            QString letters;
+            for (const QAction *const action : menu->actions())
+                letters += mnemonic.match(action->text()).captured(1).toLower();
+            for (const QChar letter : letters)
+                EXPECT_EQ(letters.count(letter), 1) << language << letters.toStdString();
+        }
+    }
 }
 
 TEST(Companion, LoadsNoDesktopLibrary)

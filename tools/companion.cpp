@@ -51,7 +51,20 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
 
 QString programFolder()
 {
-    return QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path();
+    const QString place = QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path();
+    return QFile::exists(place + "/zentaro"_L1)
+               ? place
+               : QFileInfo(place + u"/" ZENTARO_BIN_FROM_LIBEXEC ""_s).canonicalFilePath();
+}
+
+QString translationsFolder()
+{
+    for (const auto place :
+         {"/" ZENTARO_DATA_FROM_BIN "/zentaro/translations"_L1, "/../translations"_L1}) {
+        if (const QFileInfo folder(programFolder() + place); folder.isDir())
+            return folder.canonicalFilePath();
+    }
+    return {};
 }
 
 int startDesktop(const Call &call)

@@ -32,8 +32,10 @@ struct Desktop
 /// that loads no desktop library.
 int runCompanion(int argc, char **argv, const Desktop *desktop);
 
-/// The folder of this process's program.
+/// The folder of the companion program, also while the second program runs.
 QString programFolder();
+/// The folder of the labels' translations, as installed or built; empty where there is none.
+QString translationsFolder();
 
 /// Runs the second program, with all words of this one, in the place of this process. Answers only
 /// where it cannot be started: Trouble, which is told.

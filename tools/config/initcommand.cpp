@@ -48,12 +48,9 @@ struct Labels
     explicit Labels(const QString &language)
         : language(language)
     {
-        for (const auto *const place : {"/" ZENTARO_DATA_FROM_BIN "/zentaro/", "/../"}) {
-            const QFileInfo file(tools::programFolder() + QLatin1StringView(place)
-                                 + "translations/"_L1 + name() + ".qm"_L1);
-            if (folder.isEmpty() && file.exists())
-                folder = file.canonicalPath();
-        }
+        const QString present = tools::translationsFolder();
+        if (QFileInfo::exists(present + u'/' + name() + ".qm"_L1))
+            folder = present;
     }
     QString name() const { return "zentaro_"_L1 + language; }
 

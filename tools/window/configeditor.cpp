@@ -2,6 +2,8 @@
 #include "tools/window/configeditor.h"
 
 #include "config/configviews.h"
+#include "text/standardoutput.h"
+#include "tools/companion.h"
 #include "tools/config/losses.h"
 #include "tools/config/settingcheck.h"
 #include "tools/terminal.h"
@@ -150,6 +152,7 @@ bool ConfigEditor::saveTo(const Source &target)
     if (!confirmReplacing(target) || !confirmLosses(target.format))
         return false;
     QDir().mkpath(QFileInfo(target.path).path());
+    const text::LineSink quiet(text::LineSink::drop); // the box tells
     if (!EditedFile(target).loadListView(tree))
         return refuse(tr("%1 could not be written.").arg(target.path), whyUnwritable(target.path));
     written = contentOfFile(target.path);
@@ -281,8 +284,33 @@ void ConfigEditor::showSetting()
 /// Gives the current setting the value that the person gives it.
 void ConfigEditor::edit(const QString &value)
 {
-    if (QTreeWidgetItem *const item = tree->currentItem())
-        tree->setValue(item, value, session);
+    QTreeWidgetItem *const item = tree->currentItem();
+    if (!SettingPane::isLanguage(tree->settingOf(item)))
+        return tree->setValue(item, value, session);
+    tree->changes.beginMacro({});
+    tree->give(item->parent(), u"basedir"_s, value.isEmpty() ? QString() : labelsFolder());
+    tree->setValue(item, value);
+    tree->changes.endMacro();
+}
+
+/// The folder of the labels' translations: that of the settings, or the suite's own.
+QString ConfigEditor::labelsFolder() const
+{
+    const QTreeWidgetItem *const group = tree->groupOf(u"language"_s);
+    const QTreeWidgetItem *const item =
+        group ? ConfigTree::settingIn(*group, u"basedir"_s) : nullptr;
+    const QString folder = item ? libconfig::settingOf(item->text(0)).second : QString();
+    const bool isUsed = !folder.isEmpty() && !QDir(folder, u"*.qm"_s).isEmpty();
+    return isUsed ? folder : tools::translationsFolder();
+}
+
+QStringList ConfigEditor::languages() const
+{
+    const QString folder = labelsFolder();
+    QStringList values{QString(), u"/"_s};
+    for (const QString &file : QDir(folder).entryList({u"*.qm"_s}))
+        values.append((folder.endsWith(u'/') ? u""_s : u"/"_s) + file.chopped(3));
+    return values;
 }
 
 void ConfigEditor::updateHint()

@@ -73,6 +73,8 @@ private:
     void currentChanged();
     void showSetting();
     void edit(const QString &value);
+    QString labelsFolder() const;
+    QStringList languages() const;
     void showFinding(int row);
     void updateHint();
 

@@ -55,6 +55,7 @@ ConfigEditor::ConfigEditor()
             [this](QListWidgetItem *row) { showFinding(findings->row(row)); });
     tree->changed = [this] { treeChanged(); };
     setting->edited = [this](const QString &value) { edit(value); };
+    setting->translations = [this] { return languages(); };
     setting->spread = [this] { tree->setEverywhere(); };
 }
 
@@ -129,7 +130,7 @@ void ConfigEditor::buildEditMenu()
                  [this] { tree->addSetting(); }),
         addEntry(edit, tr("Add &Group"), QStyle::SP_FileDialogNewFolder, QKeySequence(u"Ctrl+G"_s),
                  [this] { tree->addGroup(); }),
-        addEntry(edit, tr("&Rename"), QStyle::SP_FileDialogDetailedView, QKeySequence(u"F2"_s),
+        addEntry(edit, tr("Ren&ame"), QStyle::SP_FileDialogDetailedView, QKeySequence(u"F2"_s),
                  [this] { tree->editItem(tree->currentItem()); }),
         addEntry(edit, tr("Change &Value"), QStyle::SP_FileDialogContentsView,
                  QKeySequence(u"F3"_s), [this] { setting->focusEditor(); }),

@@ -16,21 +16,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isLanguage(const Setting &setting)
-{
-    return "language"_L1 == QLatin1StringView(setting.group)
-           && "file"_L1 == QLatin1StringView(setting.word);
-}
-
 /// The language's own name for a translation's file, with the file.
 QString languageName(const QString &file)
 {
+    if (file.isEmpty())
+        return QLocale::languageToString(QLocale::English);
     const QLocale locale(QFileInfo(file).baseName().section(u'_', 1));
     return locale.language() == QLocale::C ? file
                                            : locale.nativeLanguageName() + " ("_L1 + file + u')';
 }
 
 } // namespace
+
+bool SettingPane::isLanguage(const Setting *setting)
+{
+    return setting && "language"_L1 == QLatin1StringView(setting->group)
+           && "file"_L1 == QLatin1StringView(setting->word);
+}
 
 SettingPane::SettingPane()
     : layout(new QVBoxLayout(this))
@@ -51,6 +53,7 @@ void SettingPane::show(const QString &key, const Setting *shown, const QString &
 {
     if (key == shownKey && shown == setting && editor && value == shownValue)
         return;
+    const bool hasFocus = editor && editor->hasFocus();
     if (shown)
         clear(key, Setting::tr(shown->effect));
     else
@@ -62,6 +65,8 @@ void SettingPane::show(const QString &key, const Setting *shown, const QString &
     editor = newEditor(value);
     title->setBuddy(editor);
     layout->insertWidget(2, editor);
+    if (hasFocus)
+        editor->setFocus();
     everywhere->setVisible(shown && *shown->group == '\0');
 }
 
@@ -77,7 +82,11 @@ void SettingPane::clear(const QString &key, const QString &text)
     title->setText(u"<b>"_s + key.toHtmlEscaped() + u"</b>"_s);
     effect->setText(text);
     everywhere->hide();
-    delete std::exchange(editor, nullptr);
+    if (editor) { // which may be telling of its value just now
+        editor->hide();
+        editor->deleteLater();
+    }
+    editor = nullptr;
 }
 
 void SettingPane::focusEditor()
@@ -104,7 +113,7 @@ QString SettingPane::rangeText() const
 
 QWidget *SettingPane::newEditor(const QString &value)
 {
-    if (setting && isLanguage(*setting))
+    if (isLanguage(setting))
         return newChoice(value, translations());
     switch (setting ? setting->kind : SettingKind::Text) {
     case SettingKind::Switch:
@@ -170,9 +179,9 @@ QWidget *SettingPane::newChoice(const QString &value, const QStringList &choices
         values.prepend(value);
     for (const QString &choice : std::as_const(values)) {
         const bool isSystem = choice == "/"_L1;
-        box->addItem(isSystem               ? tr("as the system (/)")
-                     : isLanguage(*setting) ? languageName(choice)
-                                            : choice,
+        box->addItem(isSystem              ? tr("as the system (/)")
+                     : isLanguage(setting) ? languageName(choice)
+                                           : choice,
                      choice);
     }
     box->setCurrentIndex(box->findData(value, Qt::UserRole, Qt::MatchFixedString));

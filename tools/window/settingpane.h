@@ -34,8 +34,10 @@ public:
     std::function<void(const QString &value)> edited = [](const QString &) {};
     /// Told that all documents are to have the value.
     std::function<void()> spread = [] {};
-    /// The translations that are there to choose from, by file name.
+    /// The values of the setting of the labels' language to choose from.
     std::function<QStringList()> translations = [] { return QStringList(); };
+    /// Whether the setting is that of the labels' language.
+    static bool isLanguage(const Setting *setting);
 
 private:
     void clear(const QString &key, const QString &text);

@@ -184,6 +184,14 @@ void ConfigTree::setValue(QTreeWidgetItem *item, const QString &value, int sessi
         changes.push(new TextChange(*this, item, libconfig::settingText(key, value), session));
 }
 
+void ConfigTree::give(QTreeWidgetItem *group, const QString &key, const QString &value)
+{
+    if (QTreeWidgetItem *const present = settingIn(*group, key))
+        setValue(present, value);
+    else
+        changes.push(new PresenceChange(*this, libconfig::newSettingItem(key, value), group, 0));
+}
+
 void ConfigTree::setEverywhere()
 {
     QTreeWidgetItem *const item = currentItem();
@@ -198,11 +206,7 @@ void ConfigTree::setEverywhere()
         if (!libconfig::isGroupItem(*group) || !tools::isDocumentGroup(group->text(0))
             || !tools::findSetting(group->text(0), key))
             continue;
-        if (QTreeWidgetItem *const present = settingIn(*group, key))
-            setValue(present, value);
-        else
-            changes.push(
-                new PresenceChange(*this, libconfig::newSettingItem(key, value), group, 0));
+        give(group, key, value);
     }
     changes.endMacro();
     showItem(item);
