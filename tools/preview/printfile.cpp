@@ -18,10 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr bool isControl(char32_t c)
-{
-    return c < 0x20 || (c >= 0x7F && c < 0xA0);
-}
+constexpr bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
 /// The columns that a UTF-8 terminal gives a character, whatever the process's own locale is.
 int terminalColumns(char32_t c)
@@ -160,8 +157,12 @@ qsizetype addCharacter(Cells &cells, QByteArrayView bytes, QTextCodec *codec)
 
 Cells decoded(QByteArrayView bytes, QTextCodec *codec)
 {
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    const QString text = codec->toUnicode(bytes.data(), int(bytes.size()), &state);
+    if (state.invalidChars == 0 && state.remainingChars == 0
+        && !text.contains(QChar::ReplacementCharacter))
+        return cellsOf(text);
     Cells cells;
-    cells.reserve(size_t(bytes.size()));
     while (!bytes.isEmpty())
         bytes = bytes.sliced(addCharacter(cells, bytes, codec));
     return cells;
