@@ -262,21 +262,6 @@ void DatabaseManager::control(const QString &statement, bool (QSqlDatabase::*ope
     debug(statement + "\n\n"_L1);
 }
 
-void DatabaseManager::begin(QSqlDatabase *db)
-{
-    control(u"BEGIN"_s, &QSqlDatabase::transaction, db);
-}
-
-void DatabaseManager::commit(QSqlDatabase *db)
-{
-    control(u"COMMIT"_s, &QSqlDatabase::commit, db);
-}
-
-void DatabaseManager::rollback(QSqlDatabase *db)
-{
-    control(u"ROLLBACK"_s, &QSqlDatabase::rollback, db);
-}
-
 QString DatabaseManager::getLastId(const QString &table, QSqlDatabase *db)
 {
     const QString text = "select max(ID) from "_L1 + table;

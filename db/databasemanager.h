@@ -96,9 +96,18 @@ public:
     bool decrementSequenceIfPositive(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
 
     /// A transaction of the connection; for a null one the statement is sent as a query.
-    void begin(QSqlDatabase *db = nullptr);
-    void commit(QSqlDatabase *db = nullptr);
-    void rollback(QSqlDatabase *db = nullptr);
+    void begin(QSqlDatabase *db = nullptr)
+    {
+        control(QStringLiteral("BEGIN"), &QSqlDatabase::transaction, db);
+    }
+    void commit(QSqlDatabase *db = nullptr)
+    {
+        control(QStringLiteral("COMMIT"), &QSqlDatabase::commit, db);
+    }
+    void rollback(QSqlDatabase *db = nullptr)
+    {
+        control(QStringLiteral("ROLLBACK"), &QSqlDatabase::rollback, db);
+    }
 
     /// The highest ID of a table: empty when the table is, "Error" when the query failed.
     QString getLastId(const QString &table, QSqlDatabase *db = nullptr);

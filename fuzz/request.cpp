@@ -31,7 +31,7 @@ constexpr char absurdSettings[] =
 QByteArray absurdConfiguration()
 {
     QByteArray text = "zentaro : {";
-    for (const DocumentType &type : documentTypes()) {
+    for (const DocumentType &type : documentTypes) {
         const QStringView group = QString(type.keyPrefix).section(u'.', 1, 1);
         text += group.toUtf8() + " : {" + absurdSettings + "};";
     }

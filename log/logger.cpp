@@ -80,28 +80,3 @@ void Logger::write(Logger::Level lvl, QString const &text)
         // What a full disk has held up goes out in pieces.
     }
 }
-
-void Logger::fatal(QString const &text)
-{
-    write(FATAL, text);
-}
-
-void Logger::error(QString const &text)
-{
-    write(ERROR, text);
-}
-
-void Logger::warning(QString const &text)
-{
-    write(WARNING, text);
-}
-
-void Logger::info(QString const &text)
-{
-    write(INFO, text);
-}
-
-void Logger::debug(QString const &text)
-{
-    write(DEBUG, text);
-}

@@ -44,11 +44,11 @@ public:
     /// text pass as they are.
     void write(Logger::Level lvl, QString const &text);
 
-    void fatal(QString const &text);
-    void error(QString const &text);
-    void warning(QString const &text);
-    void info(QString const &text);
-    void debug(QString const &text);
+    void fatal(QString const &text) { write(FATAL, text); }
+    void error(QString const &text) { write(ERROR, text); }
+    void warning(QString const &text) { write(WARNING, text); }
+    void info(QString const &text) { write(INFO, text); }
+    void debug(QString const &text) { write(DEBUG, text); }
 
 private:
     std::unique_ptr<QFile> file;

@@ -6,28 +6,18 @@
 
 #include <QStringBuilder>
 
-#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A payment: the attribute that holds it and the commands around its value.
-struct PaymentLine
-{
-    QLatin1StringView attribute;
-    QLatin1StringView before;
-    QLatin1StringView after;
-};
-
-constexpr std::array<PaymentLine, 5> paymentLines = {{
-    {"discountRate"_L1, "="_L1, "*2M\r\n"_L1},
-    {"cash"_L1, ""_L1, "H1T\r\n"_L1},
-    {"creditCard"_L1, ""_L1, "H3T\r\n"_L1},
-    {"cheque"_L1, ""_L1, "H2T\r\n"_L1},
+/// The payments: the attribute that holds one, and the commands around its value.
+constexpr QLatin1StringView payments[][3] = {
+    {"discountRate"_L1, "="_L1, "*2M\r\n"_L1}, {"cash"_L1, ""_L1, "H1T\r\n"_L1},
+    {"creditCard"_L1, ""_L1, "H3T\r\n"_L1},    {"cheque"_L1, ""_L1, "H2T\r\n"_L1},
     {"ticket"_L1, ""_L1, "H5T\r\n"_L1},
-}};
+};
 
 QString withDecimalComma(QString text)
 {
@@ -64,34 +54,6 @@ CompanyPrinterDriver::CompanyPrinterDriver(std::unique_ptr<QFile> printFile)
     , line(u""_s)
 {
 }
-
-unsigned int CompanyPrinterDriver::getPaperWidth()
-{
-    return DevicePaperWidth;
-}
-
-void CompanyPrinterDriver::setBold() {}
-
-void CompanyPrinterDriver::setCharSize()
-{
-    justify = u"left"_s;
-}
-
-void CompanyPrinterDriver::setCharSize(int)
-{
-    justify = u"left"_s;
-}
-
-void CompanyPrinterDriver::setCenterJustify()
-{
-    justify = u"center"_s;
-}
-
-void CompanyPrinterDriver::fullCut() {}
-
-void CompanyPrinterDriver::generatePulse() {}
-
-void CompanyPrinterDriver::printLogo() {}
 
 bool CompanyPrinterDriver::isFiscal() const
 {
@@ -139,11 +101,6 @@ void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
     line = u'"'; // its memory serves the next line
 }
 
-void CompanyPrinterDriver::println(const QString &text)
-{
-    println(0, text);
-}
-
 // The command lines of the fiscal printer. They go straight to the print file, each with its own
 // line end, and nothing in them is translated but the decimal point.
 
@@ -151,10 +108,10 @@ void CompanyPrinterDriver::printRowFiscal(const QString &name, const QXmlAttribu
 {
     if (name != element::totals)
         return;
-    for (const PaymentLine &payment : paymentLines) {
-        const QString value = withDecimalComma(valueOf(atts, payment.attribute));
+    for (const auto &[attribute, before, after] : payments) {
+        const QString value = withDecimalComma(valueOf(atts, attribute));
         if (isAmount(value))
-            write(payment.before % value % payment.after);
+            write(before % value % after);
     }
 }
 

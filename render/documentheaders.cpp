@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "render/vocabulary.h"
 
-#include <array>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -18,21 +17,21 @@ struct LabelRow
 
 using S = DocumentSettings;
 
-constexpr std::array<LabelRow, 6> orderRows = {{
+constexpr LabelRow orderRows[] = {
     {&S::printDate, QT_TRANSLATE_NOOP("PrinterDriver", "Date:"), "date"_L1},
     {&S::printTime, QT_TRANSLATE_NOOP("PrinterDriver", "Time:"), "time"_L1},
     {&S::printTable, QT_TRANSLATE_NOOP("PrinterDriver", "Table:"), "table"_L1},
     {&S::printWaiter, QT_TRANSLATE_NOOP("PrinterDriver", "Waiter:"), "waiter"_L1},
     {&S::printNote, QT_TRANSLATE_NOOP("PrinterDriver", "Note:"), "note"_L1},
     {&S::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), "credit"_L1},
-}};
+};
 
-constexpr std::array<LabelRow, 3> customerRows = {{
+constexpr LabelRow customerRows[] = {
     {&S::printTelephone, QT_TRANSLATE_NOOP("PrinterDriver", "Telephone:"), "telephone"_L1},
     {&S::printLicenseNumber, QT_TRANSLATE_NOOP("PrinterDriver", "License Number:"),
      "licensenumber"_L1},
     {&S::printFiscalCode, QT_TRANSLATE_NOOP("PrinterDriver", "Fiscal Code:"), "fiscalcode"_L1},
-}};
+};
 
 /// A blank, the label, a blank, the value.
 void printLabelLine(PrinterDriver &device, const QString &label, const QString &value)

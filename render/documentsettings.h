@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include <span>
+#include <array>
 
 /// The characters in a line of the receipt printer.
 constexpr int DevicePaperWidth = 32;
@@ -40,14 +40,6 @@ struct DocumentSettings
     bool openCashDrawer = false;
 };
 
-/// A key word of the configuration and the member that it fills.
-template <typename T>
-struct SettingKey
-{
-    QLatin1StringView keyWord;
-    T DocumentSettings::*member;
-};
-
 /// A type of document, as the method table names it, and the prefix of its configuration keys.
 struct DocumentType
 {
@@ -56,10 +48,16 @@ struct DocumentType
 };
 
 /// The eight types.
-std::span<const DocumentType> documentTypes();
-
-/// The whole numbers, in the order in which they are read.
-std::span<const SettingKey<int>> numberSettings();
-
-/// The switches, in the order in which they are read (not that of the members).
-std::span<const SettingKey<bool>> switchSettings();
+inline constexpr auto documentTypes = [] {
+    using namespace Qt::StringLiterals;
+    return std::to_array<DocumentType>({
+        {"order"_L1, "zentaro.doc."_L1},
+        {"prefiscal"_L1, "zentaro.prefiscaldoc."_L1},
+        {"fiscal"_L1, "zentaro.fiscaldoc."_L1},
+        {"receipt"_L1, "zentaro.receiptdoc."_L1},
+        {"invoice"_L1, "zentaro.invoicedoc."_L1},
+        {"delivery"_L1, "zentaro.deliverydoc."_L1},
+        {"report"_L1, "zentaro.reportdoc."_L1},
+        {"sold"_L1, "zentaro.solddoc."_L1},
+    });
+}();

@@ -55,7 +55,7 @@ void PrinterDriver::printColumnsHeader(const QString &a1, const QString &a2, con
 
 void PrinterDriver::printSeparatorLine()
 {
-    println(rowlayout::leftJustified({}, settings.paperWidth, u'='));
+    println(rowlayout::Line().left({}, settings.paperWidth, u'=').toString());
 }
 
 /// The titles are handed over with every item and printed with the first: translating the four

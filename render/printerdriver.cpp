@@ -3,6 +3,7 @@
 
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
+#include "render/settings.h"
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
@@ -118,10 +119,6 @@ bool PrinterDriver::startMethod(const QString &name)
     return true;
 }
 
-void PrinterDriver::reset() {}
-
-void PrinterDriver::initPrinter() {}
-
 void PrinterDriver::printRowFiscal(const QString &, const QXmlAttributes &) {}
 
 void PrinterDriver::printRowFiscal(const QString &, const QString &, const QString &,
@@ -129,22 +126,11 @@ void PrinterDriver::printRowFiscal(const QString &, const QString &, const QStri
 {
 }
 
-bool PrinterDriver::printDuplicate()
-{
-    return duplicate;
-}
-
-bool PrinterDriver::oneTime()
-{
-    return !std::exchange(oneTimeDone, true);
-}
-
 QString PrinterDriver::documentPath(const QString &type)
 {
     const QString lowered = type.toLower();
-    const std::span<const DocumentType> types = documentTypes();
-    const auto found = std::ranges::find(types, lowered, &DocumentType::name);
-    if (found != types.end())
+    const auto *const found = std::ranges::find(documentTypes, lowered, &DocumentType::name);
+    if (found != documentTypes.end())
         return found->keyPrefix;
     text::printLine("Error into PrinterDriver::documentPath:  " + text::toLocale(lowered));
     return u"zentaro.prefiscaldoc."_s;
@@ -153,12 +139,12 @@ QString PrinterDriver::documentPath(const QString &type)
 void PrinterDriver::loadValues(const QString &type)
 {
     docPath = documentPath(type);
-    for (const SettingKey<int> &number : numberSettings())
+    for (const SettingKey<int> &number : numberSettings)
         settings.*number.member = numberSetting(number.keyWord);
     if (settings.paperWidth == 0)
         settings.paperWidth = int(getPaperWidth());
     settings.style = setting("style"_L1);
-    for (const SettingKey<bool> &aSwitch : switchSettings())
+    for (const SettingKey<bool> &aSwitch : switchSettings)
         settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
     topMargin = descriptionWidth = {};
 }

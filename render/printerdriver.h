@@ -58,7 +58,7 @@ public:
     /// Characters in a line of the device's paper: the width of documents that set none.
     virtual unsigned int getPaperWidth() = 0;
     /// Ends emphasis. Does nothing by default.
-    virtual void reset();
+    virtual void reset() {}
     virtual void setBold() = 0;
     /// Back to the normal character size, and to the left.
     virtual void setCharSize() = 0;
@@ -71,7 +71,7 @@ public:
     virtual void startSection() = 0;
     virtual void endSection() = 0;
     /// Called for the `printers` element. Does nothing by default.
-    virtual void initPrinter();
+    virtual void initPrinter() {}
     /// Adds `indent` blanks and `text` to the line.
     virtual void print(unsigned int indent, const QString &text) = 0;
     /// The same, and ends the line.
@@ -132,10 +132,10 @@ public:
     // In printerdriver.cpp, but for the row.
 
     /// Whether the document is to be marked as a duplicate: invoices are.
-    virtual bool printDuplicate();
+    virtual bool printDuplicate() { return duplicate; }
 
     /// True the first time it is asked in a document, unless the column titles were printed before.
-    bool oneTime();
+    bool oneTime() { return !std::exchange(oneTimeDone, true); }
     /// The prefix of the configuration keys of a document type, in any letter case. An unknown type
     /// is told in one line on standard output and answers the prefix of "prefiscal".
     QString documentPath(const QString &type);

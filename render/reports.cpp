@@ -2,37 +2,37 @@
 #include "render/rowlayout.h"
 #include "render/vocabulary.h"
 
-#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
-using rowlayout::leftJustified;
-using rowlayout::rightJustified;
+using rowlayout::Line;
 
 namespace {
 
-/// A payment line of the receipts summary: its label and the attribute that holds the amount.
-struct PaymentRow
-{
-    const char *label;
-    QLatin1StringView attribute;
-};
-
-constexpr std::array<PaymentRow, 5> paymentRows = {{
+/// The payment lines of the receipts summary: the label and the attribute that holds the amount.
+constexpr std::pair<const char *, QLatin1StringView> paymentRows[] = {
     {QT_TRANSLATE_NOOP("PrinterDriver", "Amount not paid: "), "notPaid"_L1},
     {QT_TRANSLATE_NOOP("PrinterDriver", "Cash: "), "cash"_L1},
     {QT_TRANSLATE_NOOP("PrinterDriver", "Credit Card: "), "creditCard"_L1},
     {QT_TRANSLATE_NOOP("PrinterDriver", "Bancomat: "), "bancomat"_L1},
     {QT_TRANSLATE_NOOP("PrinterDriver", "Other: "), "other"_L1},
-}};
+};
 
 /// A row of the tax-rate table; `afterRate` stands between its first two columns.
-QString taxRow(const QString &rate, QLatin1StringView afterRate, const QString &taxable,
+QString taxRow(const QString &rate, QStringView afterRate, const QString &taxable,
                const QString &tax, const QString &amount)
 {
     constexpr int Rate = 6;
     constexpr int Money = 10;
-    return rightJustified(rate, Rate, u' ') + afterRate + rightJustified(taxable, Money, u' ')
-           + u' ' + rightJustified(tax, Money, u' ') + u' ' + rightJustified(amount, Money, u' ');
+    return Line()
+        .right(rate, Rate, u' ')
+        .text(afterRate)
+        .right(taxable, Money, u' ')
+        .text(u" ")
+        .right(tax, Money, u' ')
+        .text(u" ")
+        .right(amount, Money, u' ')
+        .toString();
 }
 
 /// One element of a report, and the device that prints it.
@@ -69,18 +69,18 @@ public:
     {
         printSummary(tr("RECEIPTS SUMMARY"));
         printSerials();
-        for (const PaymentRow &row : paymentRows)
-            device.println(tr(row.label) + value(row.attribute));
+        for (const auto &[label, attribute] : paymentRows)
+            device.println(tr(label) + value(attribute));
         printDotted(tr("TOTAL"), value("total"_L1));
         device.println(u""_s);
         device.printSeparatorLine();
-        device.println(taxRow(tr("TAXRATE"), " "_L1, tr("TAXABLE"), tr("TAX"), tr("AMOUNT")));
+        device.println(taxRow(tr("TAXRATE"), u" ", tr("TAXABLE"), tr("TAX"), tr("AMOUNT")));
     }
 
     /// The rate is followed by one character more than in the heading, and the row by a blank.
     void printTaxRate() const
     {
-        device.println(taxRow(value("taxrate"_L1), "% "_L1, value("taxable"_L1), value("tax"_L1),
+        device.println(taxRow(value("taxrate"_L1), u"% ", value("taxable"_L1), value("tax"_L1),
                               value("amount"_L1))
                        + u' ');
     }
@@ -141,7 +141,7 @@ private:
     void printDots(const QString &label) const
     {
         constexpr qint64 ValueWidth = 15; // paper that is narrower leaves no room for dots
-        device.print(0, leftJustified(label, paperWidth - ValueWidth, u'.'));
+        device.print(0, Line().left(label, paperWidth - ValueWidth, u'.').toString());
     }
     void printDotted(const QString &label, const QString &text) const
     {
@@ -159,9 +159,9 @@ private:
 
     void printCancelledRow(const QString &serial, const QString &total, const QString &rate) const
     {
-        device.print(0, leftJustified(serial, 10, u' '));
-        device.print(0, leftJustified(total, 11, u' '));
-        device.println(leftJustified(rate, 10, u' '));
+        device.print(0, serial.leftJustified(10));
+        device.print(0, total.leftJustified(11));
+        device.println(rate.leftJustified(10));
     }
 
     PrinterDriver &device;

@@ -3,16 +3,6 @@
 
 namespace rowlayout {
 
-QString rightJustified(QStringView text, qint64 width, QChar fill)
-{
-    return Line().right(text, width, fill).toString();
-}
-
-QString leftJustified(QStringView text, qint64 width, QChar fill)
-{
-    return Line().left(text, width, fill).toString();
-}
-
 QStringView cut(QStringView text, qint64 width)
 {
     if (width < 0 || text.size() <= width)

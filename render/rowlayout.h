@@ -20,12 +20,6 @@ void pad(Characters &line, qint64 count, QChar fill)
         line.resize(line.size() + qMin(count, MaxPaddedWidth), fill);
 }
 
-/// `text` with copies of `fill` in front of it up to `width`.
-QString rightJustified(QStringView text, qint64 width, QChar fill);
-
-/// `text` with copies of `fill` behind it up to `width`.
-QString leftJustified(QStringView text, qint64 width, QChar fill);
-
 /// The first `width` characters of `text`, one fewer where the cut would halve a surrogate pair;
 /// all of them when `width` is negative.
 QStringView cut(QStringView text, qint64 width);

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 /// What the value of a setting has to be.
@@ -30,7 +31,7 @@ struct Setting
     int DocumentSettings::*number = nullptr;   ///< the member that it fills, if any
     bool DocumentSettings::*aSwitch = nullptr; ///< likewise
     int most = rowlayout::MaxPaddedWidth;      ///< of a number
-    unsigned types = 0xff; ///< of a document's: bit i for the type at i of documentTypes()
+    unsigned types = 0xff; ///< of a document's: bit i for the type at i of documentTypes
 
     /// All settings. Those of documents stand in the order in which a document reads them.
     static consteval auto all();
@@ -127,3 +128,32 @@ consteval auto Setting::all()
 }
 
 inline constexpr auto allSettings = Setting::all();
+
+/// A key word of the configuration and the member that it fills.
+template <typename T>
+struct SettingKey
+{
+    QLatin1StringView keyWord;
+    T DocumentSettings::*member;
+};
+
+/// The key words of the settings that fill a member of this type.
+template <typename T, T DocumentSettings::*Setting::*Member>
+consteval auto keysOf()
+{
+    constexpr auto Count = std::ranges::count_if(
+        allSettings, [](const Setting &setting) { return setting.*Member != nullptr; });
+    std::array<SettingKey<T>, Count> keys{};
+    auto key = keys.begin();
+    for (const Setting &setting : allSettings) {
+        if (setting.*Member)
+            *key++ = {QLatin1StringView(setting.word), setting.*Member};
+    }
+    return keys;
+}
+
+/// The whole numbers, in the order in which they are read.
+inline constexpr auto numberSettings = keysOf<int, &Setting::number>();
+
+/// The switches, in the order in which they are read (not that of the members).
+inline constexpr auto switchSettings = keysOf<bool, &Setting::aSwitch>();

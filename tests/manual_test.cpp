@@ -152,7 +152,7 @@ QString described(const Setting &setting, const QString &key)
 QString settingsPart()
 {
     QString part = u".Bl -column \"zentaro.prefiscaldoc\" \"printAbstractOrderReceipt\"\n"_s;
-    for (const DocumentType &type : documentTypes()) {
+    for (const DocumentType &type : documentTypes) {
         QStringList methods;
         for (const DocumentMethod &method : documentMethods) {
             if (method.settingsType == type.name)

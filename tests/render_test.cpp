@@ -54,7 +54,8 @@ TEST(RowLayout, SurvivesWidthsThatDoNotFit)
     settings.paperWidth = Huge;
     EXPECT_EQ(device.descriptionRow(u"1"_s, u"a"_s, u"b"_s, {}, u'.', u"qdpt"_s).size(),
               2 + rowlayout::MaxPaddedWidth + 1);
-    EXPECT_EQ(rowlayout::rightJustified(u"a", Huge, u' ').size(), rowlayout::MaxPaddedWidth);
+    EXPECT_EQ(rowlayout::Line().right(u"a", Huge, u' ').toString().size(),
+              rowlayout::MaxPaddedWidth);
 }
 
 TEST(Driver, TakesNoUnknownNames)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "render/settings.h"
 #include "render/vocabulary.h"
 #include "tests/recordingdevice.h"
 #include "tools/check/elementtable.h"
@@ -49,10 +50,10 @@ void configureAll(QLatin1StringView off = {})
 {
     QByteArray settings =
         "quantityFieldWidth=7;priceFieldWidth=8;totalPriceFieldWidth=9;paperWidth=400;";
-    for (const SettingKey<bool> &key : switchSettings())
+    for (const SettingKey<bool> &key : switchSettings)
         settings += key.keyWord.data() + QByteArray(key.keyWord == off ? "=false;" : "=true;");
     QByteArray groups;
-    for (const DocumentType &type : documentTypes())
+    for (const DocumentType &type : documentTypes)
         groups += QString(type.keyPrefix).section(u'.', 1, 1).toLatin1() + ":{" + settings + "};";
     support::configure(groups);
 }
@@ -101,7 +102,7 @@ Names expected(const ElementRow *row, const QXmlAttributes &atts, const Document
 TEST(RequestTable, SaysWhatEveryDocumentPrints)
 {
     std::vector<QLatin1StringView> offs{{}};
-    for (const SettingKey<bool> &key : switchSettings())
+    for (const SettingKey<bool> &key : switchSettings)
         offs.push_back(key.keyWord);
     Names elements{u"print"_s, u"RECEIPE"_s};
     for (const ElementRow &row : requestcheck::elementRows())

@@ -41,9 +41,9 @@ void expectAsked(bool (*isRead)(const QString &group, const QString &word))
     for (const Setting &setting : allSettings) {
         if (*setting.group != '\0')
             add(QLatin1StringView(setting.group), setting);
-        for (size_t i = 0; *setting.group == '\0' && i < documentTypes().size(); ++i) {
+        for (size_t i = 0; *setting.group == '\0' && i < documentTypes.size(); ++i) {
             if ((setting.types >> i) & 1)
-                add(QString(documentTypes()[i].keyPrefix).section(u'.', 1, 1), setting);
+                add(QString(documentTypes[i].keyPrefix).section(u'.', 1, 1), setting);
         }
     }
     EXPECT_EQ((keysAsked - known).values(), QStringList()) << "asked for, and not in the table";

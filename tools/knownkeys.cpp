@@ -15,10 +15,10 @@ QLatin1StringView groupOf(const DocumentType &type)
     return type.keyPrefix.sliced(ProductGroup.size() + 1).chopped(1);
 }
 
-/// The place of a group's type among documentTypes(); -1 for a group that is no document's.
+/// The place of a group's type among documentTypes; -1 for a group that is no document's.
 qsizetype typeOf(QStringView group)
 {
-    const std::span<const DocumentType> types = documentTypes();
+    const std::span<const DocumentType> types = documentTypes;
     const auto found = std::ranges::find_if(
         types, [group](const DocumentType &type) { return group == groupOf(type); });
     return found == types.end() ? -1 : found - types.begin();
@@ -41,7 +41,7 @@ QStringList knownGroups()
             !group.isEmpty() && !groups.endsWith(group))
             groups.append(group);
     }
-    for (const DocumentType &type : documentTypes())
+    for (const DocumentType &type : documentTypes)
         groups.append(groupOf(type));
     return groups;
 }

@@ -11,7 +11,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QThread>
 
 #include <algorithm>
 #include <cmath>
@@ -23,69 +22,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct CopyNumberKey
-{
-    QLatin1StringView documentType;
-    QLatin1StringView group;
-};
-
-constexpr CopyNumberKey copyNumberKeys[] = {
+/// The types of documents, and the groups of their settings.
+constexpr std::pair<QLatin1StringView, QLatin1StringView> copyNumberGroups[] = {
     {"order"_L1, "doc"_L1},          {"prefiscal"_L1, "prefiscaldoc"_L1},
     {"fiscal"_L1, "fiscaldoc"_L1},   {"receipt"_L1, "receiptdoc"_L1},
     {"invoice"_L1, "invoicedoc"_L1}, {"delivery"_L1, "deliverydoc"_L1},
     {"report"_L1, "reportdoc"_L1},
 };
 
-QString setting(const QString &key)
-{
-    return SyncSingleton<ZTConfiguration>::instance()->getStrValue(key);
-}
-
 } // namespace
 
-QString HLibrary::appData()
+QString HLibrary::setting(const QString &key)
 {
-    return u""_s;
-}
-
-QString HLibrary::programFiles()
-{
-    return u""_s;
+    return SyncSingleton<ZTConfiguration>::instance()->getStrValue(key);
 }
 
 QString HLibrary::dataPath()
 {
     return QFile::decodeName(text::homeFolder());
-}
-
-QString HLibrary::psql()
-{
-    return u"psql"_s;
-}
-
-QString HLibrary::dropdb()
-{
-    return u"dropdb"_s;
-}
-
-QString HLibrary::pg_dump()
-{
-    return u"pg_dump"_s;
-}
-
-QString HLibrary::pg_restore()
-{
-    return u"pg_restore"_s;
-}
-
-QString HLibrary::toWindowsFormat(QString path)
-{
-    return path;
-}
-
-QString HLibrary::fromUtf8(const QString &text)
-{
-    return text;
 }
 
 void HLibrary::touch(const QString &path)
@@ -114,19 +68,15 @@ int HLibrary::comboBoxIndexOf(QComboBox *box, const QString &text)
     return -1;
 }
 
-void HLibrary::hsleep(unsigned seconds)
-{
-    QThread::sleep(seconds);
-}
-
 QString HLibrary::copyNumber(const QString &documentType)
 {
     const QString type = documentType.toLower();
-    const auto *const key = std::ranges::find(copyNumberKeys, type, &CopyNumberKey::documentType);
-    const bool known = key != std::end(copyNumberKeys);
+    const auto *const found =
+        std::ranges::find(copyNumberGroups, type, [](auto &row) { return row.first; });
+    const bool known = found != std::end(copyNumberGroups);
     if (!known)
         text::printLine("Error into HLibrary::copyNumber::documentPath: " + text::toLocale(type));
-    return setting("zentaro."_L1 + (known ? key->group : "prefiscaldoc"_L1) + ".copyNumber"_L1);
+    return setting("zentaro."_L1 + (known ? found->second : "prefiscaldoc"_L1) + ".copyNumber"_L1);
 }
 
 QString HLibrary::truncateDecimal(double value)
@@ -139,26 +89,6 @@ QString HLibrary::truncateDecimal(double value)
     const auto [units, decimals] = std::div(std::abs(hundredths), 100);
     return (hundredths < 0 ? "-"_L1 : ""_L1) + QString::number(units) + u'.'
            + QString::number(decimals).rightJustified(2, u'0');
-}
-
-QString HLibrary::dbname()
-{
-    return setting(u"zentaro.db.dbname"_s);
-}
-
-QString HLibrary::username()
-{
-    return setting(u"zentaro.db.username"_s);
-}
-
-QString HLibrary::password()
-{
-    return setting(u"zentaro.db.password"_s);
-}
-
-QString HLibrary::hostname()
-{
-    return setting(u"zentaro.db.hostname"_s);
 }
 
 QSqlDatabase *HLibrary::newDBConnection(const QString &connectionName)

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QThread>
 
 class QComboBox;
 class QSqlDatabase;
@@ -25,20 +26,20 @@ public:
     HLibrary() = delete;
 
     /// Both empty: there is no such folder on this system.
-    static QString appData();
-    static QString programFiles();
+    static QString appData() { return QStringLiteral(""); }
+    static QString programFiles() { return QStringLiteral(""); }
     /// The user's home folder.
     static QString dataPath();
 
     /// The names of the database's own programs, to be found on the search path.
-    static QString psql();
-    static QString dropdb();
-    static QString pg_dump();
-    static QString pg_restore();
+    static QString psql() { return QStringLiteral("psql"); }
+    static QString dropdb() { return QStringLiteral("dropdb"); }
+    static QString pg_dump() { return QStringLiteral("pg_dump"); }
+    static QString pg_restore() { return QStringLiteral("pg_restore"); }
 
     /// Both answer their argument unchanged.
-    static QString toWindowsFormat(QString path);
-    static QString fromUtf8(const QString &text);
+    static QString toWindowsFormat(QString path) { return path; }
+    static QString fromUtf8(const QString &text) { return text; }
 
     /// Copies a file line by line to a file or device, which is emptied first, each line flushed
     /// and followed by a pause. A line is at most 127 bytes: a longer one counts as several. With
@@ -75,7 +76,7 @@ public:
     static int comboBoxIndexOf(QComboBox *box, const QString &text);
 
     /// Blocks the calling thread.
-    static void hsleep(unsigned seconds);
+    static void hsleep(unsigned seconds) { QThread::sleep(seconds); }
 
     /// The configured number of copies of a document type, as text: "order", "prefiscal", "fiscal",
     /// "receipt", "invoice", "delivery" or "report", in any letter case. Any other type is told on
@@ -90,10 +91,10 @@ public:
 
     /// The database settings of the configuration; empty when not set. Each byte of the file is one
     /// character, as in ISO 8859-1: a password beyond ASCII has to be written so.
-    static QString dbname();
-    static QString username();
-    static QString password();
-    static QString hostname();
+    static QString dbname() { return setting(QStringLiteral("zentaro.db.dbname")); }
+    static QString username() { return setting(QStringLiteral("zentaro.db.username")); }
+    static QString password() { return setting(QStringLiteral("zentaro.db.password")); }
+    static QString hostname() { return setting(QStringLiteral("zentaro.db.hostname")); }
     /// Opens the configured database under a connection name; **null where that fails**, see
     /// DatabaseManager::createConnection.
     static QSqlDatabase *newDBConnection(const QString &connectionName);
@@ -104,5 +105,6 @@ public:
     static QString getCoreFile();
 
 private:
+    static QString setting(const QString &key);
     static void askForSheet();
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/elementtable.h"
 
+#include "render/settings.h"
 #include "render/vocabulary.h"
 
 #include <algorithm>
@@ -352,7 +353,7 @@ std::span<const ElementRow> elementRows()
 
 QString keyWordOf(bool S::*aSwitch)
 {
-    const auto switches = switchSettings();
+    const auto &switches = switchSettings;
     const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
     return found == switches.end() ? QString() : QString(found->keyWord);
 }

@@ -65,7 +65,7 @@ QString introduction(qsizetype method, const QString &customer)
 
 QString settingsGroup(const DocumentMethod &method)
 {
-    const auto types = documentTypes();
+    const auto &types = documentTypes;
     const auto type = std::ranges::find(types, method.settingsType, &DocumentType::name);
     return type->keyPrefix.chopped(1);
 }

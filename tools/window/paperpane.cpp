@@ -34,7 +34,7 @@ constexpr auto SamplesFolder = ":/samples/"_L1;
 QString groupOfMethod(QStringView name)
 {
     const DocumentMethod *const method = documentMethod(name);
-    for (const DocumentType &type : documentTypes()) {
+    for (const DocumentType &type : documentTypes) {
         if (method && type.name == method->settingsType)
             return QString(type.keyPrefix).section(u'.', 1, 1);
     }
