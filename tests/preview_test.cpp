@@ -4,6 +4,7 @@
 #include "tools/preview/document.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTextCodec>
 
 #include <gtest/gtest.h>
@@ -291,6 +292,11 @@ TEST(Difference, KeepsAsManyRowsAsThereCanBe)
         }
         EXPECT_EQ(lines, row.lines);
     }
+    const preview::TerminalDrawing drawing(nullptr, 0);
+    const QString coloured = preview::unifiedDifference(rowsOf("a"), rowsOf("b"), drawing, true);
+    EXPECT_EQ(QString(coloured).remove(QRegularExpression(u"\x1b\\[[0-9]*m"_s)),
+              preview::unifiedDifference(rowsOf("a"), rowsOf("b"), drawing, false));
+    EXPECT_EQ(coloured.count(u'\x1b'), 6);
 }
 
 } // namespace
