@@ -291,7 +291,7 @@ TEST_F(Editor, SavesUnderAnotherNameWhereTheFileCannotBeWritten)
     EXPECT_TRUE(takeAsked().contains(u"Not a directory"));
     EXPECT_TRUE(editor.saveTo({path, u"cfg"_s}));
     EXPECT_EQ(support::readFile(path), "zentaro: \n{\n    a = \"1\";\n};\n\n");
-    EXPECT_EQ(editor.windowTitle(), u"zentaro.conf[*] – Configuration");
+    EXPECT_EQ(editor.windowTitle(), u"zentaro.conf[*] - Configuration");
     EXPECT_TRUE(editor.save()); // it is this file now
 }
 

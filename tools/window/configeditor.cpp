@@ -116,7 +116,7 @@ void ConfigEditor::nameFile(const Source &file)
 {
     source = file;
     tree->fileItem()->setText(0, file.path);
-    setWindowTitle(u"%1[*] – %2"_s.arg(QFileInfo(file.path).fileName(), tr("Configuration")));
+    setWindowTitle(u"%1[*] - %2"_s.arg(QFileInfo(file.path).fileName(), tr("Configuration")));
     updateHint();
 }
 

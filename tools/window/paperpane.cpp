@@ -102,13 +102,19 @@ PaperPane::PaperPane(ConfigTree &tree)
     constexpr int MarkedFor = 1'500; // milliseconds
     fading.setSingleShot(true);
     fading.setInterval(MarkedFor);
-    connect(&fading, &QTimer::timeout, view, &SheetView::fade);
+    connect(&fading, &QTimer::timeout, this, [this] {
+        view->fade();
+        settled = view->rows().rows;
+    });
     addSamples();
     for (const int width : {80, 58})
         widths->addItem(tr("%1 mm").arg(width), width);
     area->setWidget(view);
     area->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    area->setBackgroundRole(QPalette::Mid);
+    QPalette desk = area->palette();
+    desk.setColor(QPalette::Window, preview::Colours().desk.ground);
+    area->viewport()->setPalette(desk);
+    area->setBackgroundRole(QPalette::Window);
     remark->setWordWrap(true);
     documents->setAccessibleName(tr("Document"));
     widths->setAccessibleName(tr("Paper"));
@@ -146,7 +152,7 @@ void PaperPane::chooseDocument()
     QFile file(documents->currentData().toString());
     request = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     groups = groupsOfRequest(request);
-    view->show({});
+    settled.clear();
     if (tree.fileItem())
         draw();
 }
@@ -205,9 +211,11 @@ std::vector<preview::Row> PaperPane::printed()
 
 void PaperPane::draw()
 {
-    preview::Sheet before = view->rows();
+    preview::Sheet before{{}, settled, {}};
     preview::Sheet after{{}, printed(), {}};
-    if (!before.rows.empty())
+    if (settled.empty())
+        settled = after.rows; // of another document
+    else
         preview::markChanges(before, after);
     view->show(std::move(after));
     fading.start();

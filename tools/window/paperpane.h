@@ -102,7 +102,8 @@ private:
     QScrollArea *const area;
     SheetView *const view;
     QLabel *const remark;
-    QTimer fading; // of the marks
+    std::vector<preview::Row> settled; // what changes are marked against
+    QTimer fading;                     // of the marks
 };
 
 } // namespace configtool
