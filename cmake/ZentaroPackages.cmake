@@ -1,5 +1,5 @@
 # The Debian packages: zentaro-print for the till, zentaro-tools for the people who set it up, there
-# or on a desk, zentaro-desktop for what draws. `cpack -G DEB` in a build folder writes them.
+# or on a desk, zentaro-desktop for what draws, zentaro-cups for print queues. `cpack -G DEB` in a build folder writes them.
 
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print"
         RENAME copyright COMPONENT print)
@@ -7,12 +7,17 @@ install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools"
         RENAME copyright COMPONENT tools)
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-desktop"
         RENAME copyright COMPONENT desktop)
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-cups"
+        RENAME copyright COMPONENT cups)
 install(FILES CHANGELOG.md SECURITY.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print" COMPONENT print)
 install(FILES CHANGELOG.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-tools" COMPONENT tools)
 install(FILES CHANGELOG.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-desktop" COMPONENT desktop)
+install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-cups" COMPONENT cups)
+install(FILES doc/queues.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-cups/doc"
+        COMPONENT cups)
 # The pages point at each other as they do in the source tree.
 install(FILES doc/faults.md
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/zentaro-print/doc" COMPONENT print)
@@ -26,7 +31,7 @@ set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/packages")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/CompressForDebian.cmake")
-set(CPACK_COMPONENTS_ALL print tools desktop)
+set(CPACK_COMPONENTS_ALL print tools desktop cups)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -54,5 +59,15 @@ configuration in a window.")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "zentaro-tools (= ${PROJECT_VERSION})")
 # The pictures of a preview are drawn with it.
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS fonts-dejavu-core)
+
+set(CPACK_DEBIAN_CUPS_PACKAGE_NAME zentaro-cups)
+set(CPACK_COMPONENT_CUPS_DESCRIPTION
+    "print queues of receipt printers for a point-of-sale suite
+Lets the print scheduler take the print requests of a restaurant or shop till,
+keep them while a printer is off, and share its printers between machines.")
+set(CPACK_DEBIAN_CUPS_PACKAGE_DEPENDS "zentaro-print (= ${PROJECT_VERSION}), cups")
+set(CPACK_DEBIAN_CUPS_PACKAGE_SUGGESTS zentaro-tools)
+set(CPACK_DEBIAN_CUPS_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cups/debian/postinst"
+                                            "${PROJECT_SOURCE_DIR}/cups/debian/postrm")
 
 include(CPack)
