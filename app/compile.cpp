@@ -51,27 +51,20 @@ void shieldFromEnvironment()
     qInstallMessageHandler(dropMessage);
 }
 
-/// The toolkit's application object, made as in the "C" locale and without the event loop of
+/// Makes the toolkit's application object as in the "C" locale and without the event loop of
 /// another toolkit: the user's locale files and that loop cost a run a twentieth, and it uses
 /// neither. Who does, asks the environment, which is as it was.
-class Application
+void makeApplication(std::optional<QCoreApplication> &application, int &argc, char **argv)
 {
-public:
-    Application(int &argc, char **argv)
-    {
-        const QByteArray locale = qgetenv("LC_ALL");
-        qputenv("LC_ALL", "C");
-        qputenv("QT_NO_GLIB", "1");
-        application.emplace(argc, argv);
-        if (locale.isNull())
-            qunsetenv("LC_ALL");
-        else
-            qputenv("LC_ALL", locale);
-    }
-
-private:
-    std::optional<QCoreApplication> application;
-};
+    const QByteArray locale = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "C");
+    qputenv("QT_NO_GLIB", "1");
+    application.emplace(argc, argv);
+    if (locale.isNull())
+        qunsetenv("LC_ALL");
+    else
+        qputenv("LC_ALL", locale);
+}
 
 } // namespace
 
@@ -85,7 +78,8 @@ void compile(int argc, char **argv)
     }
     const QString requestName = text::nameOfFile(argv[1]);
     const QString printName = text::nameOfNewFile(argv[2]);
-    const Application application(argc, argv);
+    std::optional<QCoreApplication> application;
+    makeApplication(application, argc, argv);
     QTranslator translator; // without a translation the texts stay as they are
     loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
     QCoreApplication::installTranslator(&translator);
