@@ -4,6 +4,7 @@
 #include "tools/config/losses.h"
 #include "tools/config/outline.h"
 #include "tools/config/settingcheck.h"
+#include "tools/config/settingedit.h"
 #include "tools/knownkeys.h"
 
 #include <QDir>
@@ -136,6 +137,47 @@ TEST(ConfigLosses, AreNamedWhateverTheFile)
             }
         }
     }
+}
+
+/// What differs of a content from another, between what they begin and end with alike.
+QByteArray changedPart(const QByteArray &content, const QByteArray &other)
+{
+    const qsizetype shorter = qMin(content.size(), other.size());
+    const auto begin =
+        std::mismatch(content.begin(), content.begin() + shorter, other.begin()).first;
+    const qsizetype alike = begin - content.begin();
+    qsizetype end = 0;
+    while (end < shorter - alike
+           && content[content.size() - 1 - end] == other[other.size() - 1 - end])
+        ++end;
+    return content.sliced(alike, content.size() - alike - end);
+}
+
+TEST(ConfigEdit, ChangesASettingAndNoOtherByteWhateverTheFile)
+{
+    const auto lookup = [](const QByteArray &content, const QString &key) {
+        libconfig::Config config;
+        config.readContent(content, {}, u"cfg"_s);
+        return config.lookup(key);
+    };
+    int changed = 0;
+    for (const QString &folderName : {u"fuzz/corpus/config"_s, u"fuzz/corpus/roundtrip"_s}) {
+        const QDir folder(root + folderName);
+        for (const QString &name : folder.entryList(QDir::Files)) {
+            const QByteArray content = support::readFile(folder.filePath(name));
+            for (const QString &key :
+                 {u"zentaro.doc.paperWidth"_s, u"zentaro.db.dbname"_s, u"a.b"_s}) {
+                SCOPED_TRACE((name + u' ' + key).toStdString());
+                const auto [edited, fault] = withSetting(content, key, u"7"_s);
+                EXPECT_EQ(lookup(edited, key), fault.isEmpty() ? u"7"_s : lookup(content, key));
+                EXPECT_FALSE(changedPart(content, edited).contains(';'));
+                const EditedContent without = withoutSetting(edited, key);
+                EXPECT_TRUE(!without.fault.isEmpty() || lookup(without.content, key).isEmpty());
+                changed += fault.isEmpty() ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_GT(changed, 30);
 }
 
 TEST(ConfigTemplate, SetsEveryNumberAndSwitch)
