@@ -48,19 +48,19 @@ QStringList knownGroups()
 
 bool isKnownGroup(QStringView group)
 {
-    return !settingsOf(group).empty();
+    return isDocumentGroup(group) || std::ranges::any_of(allSettings, [group](const Setting &each) {
+               return *each.group != '\0' && group == QLatin1StringView(each.group);
+           });
 }
 
-bool isDocumentGroup(QStringView group)
-{
-    return typeOf(group) >= 0;
-}
+bool isDocumentGroup(QStringView group) { return typeOf(group) >= 0; }
 
 std::vector<const Setting *> settingsOf(QStringView group)
 {
     std::vector<const Setting *> settings;
+    const qsizetype type = typeOf(group);
     for (const Setting &setting : allSettings) {
-        if (isIn(setting, group, typeOf(group)))
+        if (isIn(setting, group, type))
             settings.push_back(&setting);
     }
     return settings;

@@ -29,6 +29,9 @@ public:
     /// Every other setting of the file, with its value.
     QStringList others() const;
 
+    const QByteArray &content;
+    const QString key;
+
 private:
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
     std::vector<qsizetype> childrenOf(qsizetype group) const;
@@ -37,8 +40,6 @@ private:
     QByteArray leadOf(qsizetype index) const;
     QByteArray withNew(const QByteArray &setting) const;
 
-    const QByteArray &content;
-    const QString key;
     const QStringList names; // the key's
     const Outline outline;
     std::vector<qsizetype> groups{0}; // that the first names lead to; the file at first
@@ -205,16 +206,14 @@ QByteArray KeyInFile::without() const
 }
 
 /// What was made of the content, if it is read as it was meant.
-EditedContent verified(const QByteArray &content, const QByteArray &edited, const QString &key,
-                       const QString &value)
+EditedContent verified(const KeyInFile &before, const QByteArray &edited, const QString &value)
 {
     libconfig::Config config;
     config.readContent(edited, {}, u"cfg"_s);
-    const KeyInFile before(content, key);
-    if (config.lookup(key) == value && !before.runsOn()
-        && KeyInFile(edited, key).others() == before.others())
+    if (config.lookup(before.key) == value && !before.runsOn()
+        && KeyInFile(edited, before.key).others() == before.others())
         return {edited, {}};
-    return {content, u"the file has faults around it, which `zentaro config check` tells"_s};
+    return {before.content, u"the file has faults around it, which `zentaro config check` tells"_s};
 }
 
 } // namespace
@@ -233,13 +232,14 @@ EditedContent withSetting(const QByteArray &content, const QString &key, const Q
         return {content, u"a value can hold no `;`, no double quote and no line end"_s};
     if (names.size() < 2 || names.contains(QString()))
         return {content, u"no key: it is zentaro.GROUP.WORD"_s};
-    return verified(content, KeyInFile(content, key).withValue(bytes), key,
-                    QString::fromLatin1(bytes));
+    const KeyInFile present(content, key);
+    return verified(present, present.withValue(bytes), QString::fromLatin1(bytes));
 }
 
 EditedContent withoutSetting(const QByteArray &content, const QString &key)
 {
-    return verified(content, KeyInFile(content, key).without(), key, {});
+    const KeyInFile present(content, key);
+    return verified(present, present.without(), {});
 }
 
 } // namespace configtool
