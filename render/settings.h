@@ -39,6 +39,7 @@ struct Setting
     Q_DECLARE_TR_FUNCTIONS(Setting)
 };
 
+// NOLINTNEXTLINE(readability-function-size): a table
 consteval auto Setting::all()
 {
     using D = DocumentSettings;
