@@ -222,8 +222,10 @@ TEST(RequestCheck, FindsEachFaultAndNothingBesideIt)
             seen.insert(pair.code);
         }
     }
-    for (const requestcheck::CodeRow &code : requestcheck::codes)
-        EXPECT_TRUE(seen.contains(std::string(code.name))) << code.name;
+    for (const requestcheck::CodesOf &row : requestcheck::codes) {
+        for (const std::string_view code : row.names)
+            EXPECT_TRUE(seen.contains(std::string(code))) << code;
+    }
 }
 
 TEST(RequestCheck, SaysWhatToDoAndWhere)

@@ -4,8 +4,7 @@
 #include "app/ztconfiguration.h"
 #include "render/requestreader.h"
 #include "tools/check/checkingdevice.h"
-#include "tools/requests/configurationinuse.h"
-#include "tools/requests/requestfiles.h"
+#include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
 #include <QCoreApplication>

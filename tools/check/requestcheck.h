@@ -5,6 +5,8 @@
 #include "tools/command.h"
 #include "tools/finding.h"
 
+#include <algorithm>
+#include <span>
 #include <string_view>
 
 class QIODevice;
@@ -12,67 +14,50 @@ class QIODevice;
 /// `zentaro check`: tells what is wrong with print requests.
 namespace requestcheck {
 
-struct CodeRow
+// What the check finds, each under a name that stays.
+
+/// What stops the print run, or reaches the printer as another command.
+inline constexpr std::string_view errorCodes[] = {"xml",           "limit",
+                                                  "no-method",     "unknown-method",
+                                                  "line-feed",     "control-character",
+                                                  "end-mark",      "fiscal-quote",
+                                                  "fiscal-number", "fiscal-department"};
+/// What is lost, or stands elsewhere than it should.
+inline constexpr std::string_view warningCodes[] = {
+    "before-method",       "second-method",     "no-items",          "no-total",
+    "no-printer",          "unknown-element",   "unknown-attribute", "unknown-entity",
+    "duplicate-attribute", "missing-attribute", "attribute-order",   "address-part",
+    "cut-description",     "variant-quantity",  "untranslated-type", "line-too-long",
+    "not-centred",         "character-width",   "not-in-encoding",   "undecodable",
+    "no-character",        "unknown-encoding",  "mistaken-encoding"};
+/// What the configuration or the document method leaves away.
+inline constexpr std::string_view noteCodes[] = {"no-configuration", "switch-off", "prints-nothing",
+                                                 "hidden-item"};
+
+struct CodesOf
 {
-    std::string_view name;
     tools::Severity severity;
+    std::span<const std::string_view> names;
 };
+inline constexpr CodesOf codes[] = {{tools::Severity::Error, errorCodes},
+                                    {tools::Severity::Warning, warningCodes},
+                                    {tools::Severity::Note, noteCodes}};
 
-/// What the check finds, each under a name that stays.
-inline constexpr CodeRow codes[] = {
-    // What stops the print run, or reaches the printer as another command.
-    {"xml", tools::Severity::Error},
-    {"limit", tools::Severity::Error},
-    {"no-method", tools::Severity::Error},
-    {"unknown-method", tools::Severity::Error},
-    {"line-feed", tools::Severity::Error},
-    {"control-character", tools::Severity::Error},
-    {"end-mark", tools::Severity::Error},
-    {"fiscal-quote", tools::Severity::Error},
-    {"fiscal-number", tools::Severity::Error},
-    {"fiscal-department", tools::Severity::Error},
-    // What is lost, or stands elsewhere than it should.
-    {"before-method", tools::Severity::Warning},
-    {"second-method", tools::Severity::Warning},
-    {"no-items", tools::Severity::Warning},
-    {"no-total", tools::Severity::Warning},
-    {"unknown-element", tools::Severity::Warning},
-    {"unknown-attribute", tools::Severity::Warning},
-    {"unknown-entity", tools::Severity::Warning},
-    {"duplicate-attribute", tools::Severity::Warning},
-    {"missing-attribute", tools::Severity::Warning},
-    {"attribute-order", tools::Severity::Warning},
-    {"no-printer", tools::Severity::Warning},
-    {"address-part", tools::Severity::Warning},
-    {"cut-description", tools::Severity::Warning},
-    {"variant-quantity", tools::Severity::Warning},
-    {"untranslated-type", tools::Severity::Warning},
-    {"line-too-long", tools::Severity::Warning},
-    {"not-centred", tools::Severity::Warning},
-    {"not-in-encoding", tools::Severity::Warning},
-    {"undecodable", tools::Severity::Warning},
-    {"no-character", tools::Severity::Warning},
-    {"character-width", tools::Severity::Warning},
-    {"unknown-encoding", tools::Severity::Warning},
-    {"mistaken-encoding", tools::Severity::Warning},
-    // What the configuration or the document method leaves away.
-    {"no-configuration", tools::Severity::Note},
-    {"switch-off", tools::Severity::Note},
-    {"prints-nothing", tools::Severity::Note},
-    {"hidden-item", tools::Severity::Note},
-};
+void noSuchCode(); // is nowhere, and so no part of a constant
 
-/// A row of the table by its name; a name that is none does not compile.
+/// One of them; any other name does not compile.
 class Code
 {
 public:
     consteval Code(const char *word)
+        : name(word)
     {
-        const CodeRow *row = codes;
-        while (row->name != word)
-            ++row; // past the last is no constant expression
-        name = QLatin1StringView(row->name.data(), qsizetype(row->name.size()));
-        severity = row->severity;
+        for (const CodesOf &row : codes) {
+            severity = row.severity;
+            if (std::ranges::count(row.names, word) > 0)
+                return;
+        }
+        noSuchCode();
     }
 
     QLatin1StringView name;

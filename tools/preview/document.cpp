@@ -6,7 +6,7 @@
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "tools/check/tagplaces.h"
-#include "tools/requests/requestfiles.h"
+#include "tools/requests/requests.h"
 
 #include <QBuffer>
 

@@ -7,8 +7,7 @@
 #include "tools/companion.h"
 #include "tools/preview/difference.h"
 #include "tools/preview/document.h"
-#include "tools/requests/configurationinuse.h"
-#include "tools/requests/requestfiles.h"
+#include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
 #include <QFileInfo>

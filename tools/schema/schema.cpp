@@ -50,17 +50,13 @@ Pattern define(const QString &name, std::vector<Pattern> parts)
 {
     return {"define"_L1, name, {}, std::move(parts)};
 }
-Pattern text()
-{
-    return {"text"_L1, {}};
-}
 Pattern element(Names names, const QStringList &except, std::vector<Pattern> parts)
 {
     return {"element"_L1, {}, {}, std::move(parts), names, except};
 }
 Pattern attributes(Names names, const QStringList &except = {})
 {
-    return pattern("zeroOrMore"_L1, {{"attribute"_L1, {}, {}, {text()}, names, except}});
+    return pattern("zeroOrMore"_L1, {{"attribute"_L1, {}, {}, {{"text"_L1, {}}}, names, except}});
 }
 
 /// The name that a row's attributes are defined under; the first document that reads it parts the
@@ -80,7 +76,7 @@ Pattern attributesOf(const ElementRow &row)
     std::vector<Pattern> parts;
     QStringList names;
     for (const requestcheck::AttributeUse &use : row.attributes) {
-        const Pattern attribute{"attribute"_L1, use.name, use.text, {text()}};
+        const Pattern attribute{"attribute"_L1, use.name, use.text, {{"text"_L1, {}}}};
         const bool isOptional = use.need == requestcheck::Need::Kept || use.onlyIf || row.onlyIf;
         parts.push_back(isOptional ? pattern("optional"_L1, {attribute}) : attribute);
         names.append(use.name);
@@ -154,11 +150,12 @@ Pattern grammarOf(qsizetype method)
     // a schema cannot say.
     grammar.push_back(define(u"foreign.attributes"_s, {attributes(Names::Foreign)}));
     grammar.push_back(define(u"foreign"_s, {element(Names::Foreign, {}, {ref(u"anything"_s)})}));
-    grammar.push_back(define(
-        u"anything"_s, {attributes(Names::Any),
-                        pattern("zeroOrMore"_L1,
-                                {pattern("choice"_L1, {text(), element(Names::Any, {},
-                                                                       {ref(u"anything"_s)})})})}));
+    grammar.push_back(
+        define(u"anything"_s,
+               {attributes(Names::Any),
+                pattern("zeroOrMore"_L1,
+                        {pattern("choice"_L1, {{"text"_L1, {}},
+                                               element(Names::Any, {}, {ref(u"anything"_s)})})})}));
     return pattern("grammar"_L1, std::move(grammar));
 }
 
@@ -231,33 +228,33 @@ QString compactNames(const Pattern &of)
 QString compact(const Pattern &of, const QString &indent)
 {
     const QString inner = indent + "  "_L1;
+    const auto first = [&] { return compact(of.parts.front(), indent); };
     if (of.kind == "text"_L1)
         return u"text"_s;
     if (of.kind == "ref"_L1)
         return of.name;
     if (of.kind == "value"_L1)
         return u'"' + of.name + u'"';
-    if (of.kind == "zeroOrMore"_L1)
-        return compact(of.parts.front(), indent) + u'*';
-    if (of.kind == "oneOrMore"_L1)
-        return compact(of.parts.front(), indent) + u'+';
-    if (of.kind == "optional"_L1)
-        return compact(of.parts.front(), indent) + u'?';
     if (of.kind == "mixed"_L1)
-        return "mixed { "_L1 + compact(of.parts.front(), indent) + " }"_L1;
-    if (of.kind == "choice"_L1 && of.parts.size() == 1)
-        return compact(of.parts.front(), indent);
+        return "mixed { "_L1 + first() + " }"_L1;
     if (of.kind == "choice"_L1)
-        return "(\n"_L1 + inner + compactParts(of, " |"_L1, inner) + u'\n' + indent + u')';
+        return of.parts.size() == 1
+                   ? first()
+                   : "(\n"_L1 + inner + compactParts(of, " |"_L1, inner) + u'\n' + indent + u')';
     if (of.kind == "grammar"_L1)
         return "namespace plain = \"\"\n"_L1 + compactParts(of, ""_L1, {}) + u'\n';
     if (of.kind == "define"_L1 || of.kind == "start"_L1)
         return u'\n' + (of.name.isEmpty() ? u"start"_s : of.name) + " =\n  "_L1
                + compactParts(of, ","_L1, u"  "_s);
+    if (of.kind != "element"_L1 && of.kind != "attribute"_L1)
+        return first()
+               + (of.kind == "optional"_L1    ? u'?'
+                  : of.kind == "oneOrMore"_L1 ? u'+'
+                                              : u'*');
     const QString text = of.text.isEmpty() ? QString() : "## "_L1 + of.text + u'\n' + indent;
     const QString head = text + of.kind + u' ' + compactNames(of);
     if (of.kind == "attribute"_L1)
-        return head + " { "_L1 + compact(of.parts.front(), indent) + " }"_L1;
+        return head + " { "_L1 + first() + " }"_L1;
     return head + " {\n"_L1 + inner + compactParts(of, ","_L1, inner) + u'\n' + indent + u'}';
 }
 
