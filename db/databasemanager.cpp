@@ -15,16 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString defaultName()
-{
-    return QLatin1StringView(QSqlDatabase::defaultConnection);
-}
+QString defaultName() { return QLatin1StringView(QSqlDatabase::defaultConnection); }
 
 /// The toolkit knows this driver by one name only.
-QString toolkitDriver(const QString &driver)
-{
-    return driver == "QPSQL7"_L1 ? u"QPSQL"_s : driver;
-}
+QString toolkitDriver(const QString &driver) { return driver == "QPSQL7"_L1 ? u"QPSQL"_s : driver; }
 
 /// A value as text; empty for NULL, which the toolkit has as "0" in a column of numbers.
 QString valueOf(const QSqlQuery &query, int column)
@@ -76,10 +70,7 @@ DatabaseManager::DatabaseManager()
 {
 }
 
-DatabaseManager::~DatabaseManager()
-{
-    closeConnections();
-}
+DatabaseManager::~DatabaseManager() { closeConnections(); }
 
 void DatabaseManager::closeConnections()
 {

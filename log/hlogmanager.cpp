@@ -5,17 +5,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString entryName(const QString &key)
-{
-    return key.isEmpty() ? u"default"_s : key;
-}
+QString entryName(const QString &key) { return key.isEmpty() ? u"default"_s : key; }
 
 } // namespace
 
-HLogManager::~HLogManager()
-{
-    qDeleteAll(loggers);
-}
+HLogManager::~HLogManager() { qDeleteAll(loggers); }
 
 void HLogManager::set(QString const &name, QString const &key)
 {

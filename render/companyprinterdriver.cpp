@@ -19,10 +19,7 @@ constexpr QLatin1StringView payments[][3] = {
     {"ticket"_L1, ""_L1, "H5T\r\n"_L1},
 };
 
-QString withDecimalComma(QString text)
-{
-    return text.replace(u'.', u',');
-}
+QString withDecimalComma(QString text) { return text.replace(u'.', u','); }
 
 /// Whether the text, whose decimal point is a comma, reads as a number other than zero.
 bool isAmount(QString text)
@@ -76,10 +73,7 @@ void CompanyPrinterDriver::startSection()
     line = u"\""_s;
 }
 
-void CompanyPrinterDriver::endSection()
-{
-    write(isFiscal() ? u"1T\n"_s : u"J\n"_s);
-}
+void CompanyPrinterDriver::endSection() { write(isFiscal() ? u"1T\n"_s : u"J\n"_s); }
 
 void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {

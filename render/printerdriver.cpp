@@ -98,10 +98,7 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
     return true;
 }
 
-bool PrinterDriver::endElement(const QString &, const QString &, const QString &)
-{
-    return true;
-}
+bool PrinterDriver::endElement(const QString &, const QString &, const QString &) { return true; }
 
 bool PrinterDriver::startMethod(const QString &name)
 {

@@ -37,10 +37,7 @@ QString HLibrary::setting(const QString &key)
     return SyncSingleton<ZTConfiguration>::instance()->getStrValue(key);
 }
 
-QString HLibrary::dataPath()
-{
-    return QFile::decodeName(text::homeFolder());
-}
+QString HLibrary::dataPath() { return QFile::decodeName(text::homeFolder()); }
 
 void HLibrary::touch(const QString &path)
 {
