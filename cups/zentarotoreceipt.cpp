@@ -144,9 +144,10 @@ public:
             }
         }
     }
-    void stopped(requestreader::Stop, const QString &word) override
+    void stopped(requestreader::Stop why, const QString &word) override
     {
-        fault = word.isEmpty() ? u"a limit of the print run is exceeded"_s : word;
+        const QString limit = requestreader::exceededLimit(why);
+        fault = limit.isEmpty() ? word : limit;
     }
 
     /// The last character that was read; columns count bytes in UTF-8, else characters.

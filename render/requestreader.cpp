@@ -114,6 +114,29 @@ private:
 
 } // namespace
 
+QString exceededLimit(Stop why)
+{
+    using enum Stop;
+    switch (why) {
+    case Depth:
+        return QStringLiteral("elements nest deeper than %1").arg(MaxDepth);
+    case Size:
+        return QStringLiteral("the request is longer than %1 bytes").arg(MaxRequestBytes);
+    case Attributes:
+        return QStringLiteral("an element has more than %1 attributes").arg(MaxAttributes);
+    case DocumentType:
+        return QStringLiteral("the document type is longer than %1 bytes")
+            .arg(MaxDocumentTypeBytes);
+    case Expansion:
+        return QStringLiteral("the references to entities expand to more than %1 characters")
+            .arg(MaxExpansion);
+    case Fault:
+    case Refused: // which the device has told
+        break;
+    }
+    return {};
+}
+
 bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer)
 {
     RequestSource source(request, observer);

@@ -42,6 +42,9 @@ enum class Stop {
     Expansion,    ///< MaxExpansion is exceeded
 };
 
+/// What a request exceeds, for a person; empty for a reason that is no limit.
+QString exceededLimit(Stop why);
+
 /// Follows a reading through the text of the request, of which nothing is kept.
 class Observer
 {

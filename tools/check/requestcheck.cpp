@@ -15,30 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The limit of the print run that a request exceeds; empty for a reason that is none.
-QString exceededLimit(requestreader::Stop why)
-{
-    using enum requestreader::Stop;
-    switch (why) {
-    case Depth:
-        return u"elements nest deeper than %1"_s.arg(requestreader::MaxDepth);
-    case Size:
-        return u"the request is longer than %1 bytes"_s.arg(requestreader::MaxRequestBytes);
-    case Attributes:
-        return u"an element has more than %1 attributes"_s.arg(requestreader::MaxAttributes);
-    case DocumentType:
-        return u"the document type is longer than %1 bytes"_s.arg(
-            requestreader::MaxDocumentTypeBytes);
-    case Expansion:
-        return u"the references to entities expand to more than %1 characters"_s.arg(
-            requestreader::MaxExpansion);
-    case Fault:
-    case Refused: // which the device has told
-        break;
-    }
-    return {};
-}
-
 /// What is wrong where the reader met a fault, and what to do: what it took last says more than its
 /// own word, which is used for what is rare.
 QString faultIn(const TagPlaces &places, const CheckingDevice &device)
@@ -82,7 +58,7 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
 
 void tellStop(const TagPlaces &places, const CheckingDevice &device, tools::FindingStore &findings)
 {
-    const QString limit = exceededLimit(*places.stop);
+    const QString limit = requestreader::exceededLimit(*places.stop);
     if (places.isEmpty())
         return findings.add(finding("xml", u"the request is empty"_s));
     if (limit.isEmpty() && *places.stop != requestreader::Stop::Fault)
