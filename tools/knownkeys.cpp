@@ -2,6 +2,7 @@
 #include "tools/knownkeys.h"
 
 #include <algorithm>
+#include <span>
 
 namespace tools {
 
