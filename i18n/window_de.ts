@@ -258,10 +258,6 @@
         <translation>Papier</translation>
     </message>
     <message>
-        <source>It has more than 64 MiB.</source>
-        <translation>Es hat mehr als 64 MiB.</translation>
-    </message>
-    <message>
         <source>It is not a print request.</source>
         <translation>Es ist kein Druckauftrag.</translation>
     </message>
@@ -272,6 +268,10 @@
     <message>
         <source>This line is shaped by: %1</source>
         <translation>Diese Zeile formen: %1</translation>
+    </message>
+    <message>
+        <source>It has more than 1 MiB.</source>
+        <translation>Es hat mehr als 1 MiB.</translation>
     </message>
 </context>
 <context>

@@ -258,10 +258,6 @@
         <translation>Papel</translation>
     </message>
     <message>
-        <source>It has more than 64 MiB.</source>
-        <translation>Supera los 64 MiB.</translation>
-    </message>
-    <message>
         <source>It is not a print request.</source>
         <translation>No es una petición de impresión.</translation>
     </message>
@@ -272,6 +268,10 @@
     <message>
         <source>This line is shaped by: %1</source>
         <translation>A esta línea le dan forma: %1</translation>
+    </message>
+    <message>
+        <source>It has more than 1 MiB.</source>
+        <translation>Supera 1 MiB.</translation>
     </message>
 </context>
 <context>

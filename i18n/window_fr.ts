@@ -258,10 +258,6 @@
         <translation>Papier</translation>
     </message>
     <message>
-        <source>It has more than 64 MiB.</source>
-        <translation>Il dépasse 64 Mio.</translation>
-    </message>
-    <message>
         <source>It is not a print request.</source>
         <translation>Ce n’est pas une demande d’impression.</translation>
     </message>
@@ -272,6 +268,10 @@
     <message>
         <source>This line is shaped by: %1</source>
         <translation>Cette ligne est façonnée par : %1</translation>
+    </message>
+    <message>
+        <source>It has more than 1 MiB.</source>
+        <translation>Il dépasse 1 Mio.</translation>
     </message>
 </context>
 <context>

@@ -258,10 +258,6 @@
         <translation>Carta</translation>
     </message>
     <message>
-        <source>It has more than 64 MiB.</source>
-        <translation>Supera i 64 MiB.</translation>
-    </message>
-    <message>
         <source>It is not a print request.</source>
         <translation>Non è una richiesta di stampa.</translation>
     </message>
@@ -272,6 +268,10 @@
     <message>
         <source>This line is shaped by: %1</source>
         <translation>A questa riga danno forma: %1</translation>
+    </message>
+    <message>
+        <source>It has more than 1 MiB.</source>
+        <translation>Supera 1 MiB.</translation>
     </message>
 </context>
 <context>

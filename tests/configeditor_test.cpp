@@ -429,6 +429,7 @@ TEST_F(Paper, HasAnEditorThatFitsASetting)
         languages = box->findText(u"italiano (/zentaro_it)"_s) >= 0 ? box : languages;
     ASSERT_TRUE(languages);
     languages->setFocus();
+    EXPECT_TRUE(drawn().contains(u" Waiter: Niccolò"_s));
     QTest::keyClicks(languages, u"it"_s);
     EXPECT_EQ(file->text(0), u"file = /zentaro_it");
     EXPECT_TRUE(drawn().contains(u"* Cameriere: Niccolò"_s)) << drawn().join(u'\n').toStdString();

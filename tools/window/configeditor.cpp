@@ -29,14 +29,12 @@ namespace {
 
 constexpr int SubjectRole = Qt::UserRole; // of a finding's row: the entry it is about
 
-/// The store of a file that need not be there yet: it is empty then, and nothing is told.
+/// The store of a file, empty until it is read: it need not be there yet.
 class EditedFile : public libconfig::Config
 {
 public:
     explicit EditedFile(const Source &source)
     {
-        if (QFileInfo::exists(source.path))
-            readFile(source.path, source.format);
         fileName = source.path;
         fileType = source.format;
     }
@@ -98,7 +96,10 @@ bool ConfigEditor::open(const Source &file)
     written = content;
     fileFaults = std::move(outline.faults);
     fileLosses = std::move(outline.losses);
-    const std::unique_ptr<QTreeWidget> view(EditedFile(file).newConfigListView());
+    EditedFile stored(file);
+    if (info.exists())
+        stored.readFile(file.path, file.format);
+    const std::unique_ptr<QTreeWidget> view(stored.newConfigListView());
     std::unique_ptr<QTreeWidgetItem> item(view->takeTopLevelItem(0));
     if (!item) {
         item.reset(libconfig::newGroupItem(file.path));
@@ -107,7 +108,6 @@ bool ConfigEditor::open(const Source &file)
     tree->take(std::move(item));
     nameFile(file);
     listFindings();
-    paper->draw();
     tree->setFocus();
     return true;
 }
@@ -149,7 +149,7 @@ void ConfigEditor::chooseRequest()
 bool ConfigEditor::saveTo(const Source &target)
 {
     tree->setFocus(); // what is being typed is entered
-    if (!confirmReplacing(target) || !confirmLosses(target.format))
+    if (!confirmSaving(target))
         return false;
     QDir().mkpath(QFileInfo(target.path).path());
     const text::LineSink quiet(text::LineSink::drop); // the box tells
@@ -165,26 +165,21 @@ bool ConfigEditor::saveTo(const Source &target)
     return true;
 }
 
-/// Whether a file may be replaced that another program has changed meanwhile.
-bool ConfigEditor::confirmReplacing(const Source &target)
+/// Whether a file may be replaced that another program has changed meanwhile, and one be written
+/// that lacks something.
+bool ConfigEditor::confirmSaving(const Source &target)
 {
-    if (target.path != source.path || contentOfFile(target.path) == written)
-        return true; // the dialog has asked about another file
-    return ask(tr("%1 has changed since it was opened.").arg(target.path),
-               tr("Saving replaces it with what this window shows."),
-               QMessageBox::Save | QMessageBox::Cancel)
-           == QMessageBox::Save;
-}
-
-/// Whether a file may be written that lacks something.
-bool ConfigEditor::confirmLosses(const QString &format)
-{
+    constexpr auto Choice = QMessageBox::Save | QMessageBox::Cancel;
+    if (target.path == source.path && contentOfFile(target.path) != written
+        && ask(tr("%1 has changed since it was opened.").arg(target.path),
+               tr("Saving replaces it with what this window shows."), Choice)
+               != QMessageBox::Save)
+        return false;
     std::vector<Finding> lost = fileLosses;
-    const std::vector<Finding> more = lossesInFormat(tree->outlineIn(format).outline, format);
-    lost.insert(lost.end(), more.begin(), more.end());
+    for (Finding &loss : lossesInFormat(tree->outlineIn(target.format).outline, target.format))
+        lost.push_back(std::move(loss));
     return lost.empty()
-           || ask(tr("The file that is written will lack something:"), listOf(lost),
-                  QMessageBox::Save | QMessageBox::Cancel)
+           || ask(tr("The file that is written will lack something:"), listOf(lost), Choice)
                   == QMessageBox::Save;
 }
 
@@ -211,7 +206,6 @@ void ConfigEditor::treeChanged()
     listed = {};
     pause.start();
     drawing.start();
-    showSetting();
 }
 
 void ConfigEditor::listFindings()
@@ -268,17 +262,16 @@ void ConfigEditor::currentChanged()
 void ConfigEditor::showSetting()
 {
     const QTreeWidgetItem *const item = tree->currentItem();
-    QString key;
-    const auto [word, value] =
-        item ? libconfig::settingOf(item->text(0)) : std::pair<QString, QString>();
-    const bool isGroup = !item || libconfig::isGroupItem(*item);
-    for (const QTreeWidgetItem *above = item ? item->parent() : nullptr; above && above->parent();
+    if (!item)
+        return;
+    QString group;
+    for (const QTreeWidgetItem *above = item->parent(); above && above->parent();
          above = above->parent())
-        key.prepend(above->text(0) + u'.');
-    if (isGroup)
-        setting->showGroup(item ? key + item->text(0) : QString());
-    else
-        setting->show(key + word, tree->settingOf(item), value);
+        group.prepend(above->text(0) + u'.');
+    if (libconfig::isGroupItem(*item))
+        return setting->showGroup(group + item->text(0));
+    const auto [key, value] = libconfig::settingOf(item->text(0));
+    setting->show(group + key, tree->settingOf(item), value);
 }
 
 /// Gives the current setting the value that the person gives it.

@@ -65,8 +65,7 @@ private:
     void chooseTarget();
     void chooseRequest();
     bool confirmLeaving();
-    bool confirmLosses(const QString &format);
-    bool confirmReplacing(const Source &target);
+    bool confirmSaving(const Source &target);
     void nameFile(const Source &file);
 
     void treeChanged();

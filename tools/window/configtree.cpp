@@ -231,7 +231,7 @@ void ConfigTree::shade(const QList<QTreeWidgetItem *> &items)
     for (QTreeWidgetItem *const item : std::as_const(shaded))
         item->setBackground(0, {});
     for (QTreeWidgetItem *const item : items)
-        item->setBackground(0, QColor(0xff, 0xf0, 0xb8));
+        item->setBackground(0, QColor(255, 200, 0, 80));
     shaded = items;
 }
 

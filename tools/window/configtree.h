@@ -44,7 +44,7 @@ public:
     void removeSelected();
     /// Gives a setting another value. Changes of one `session` other than 0 are undone as one.
     void setValue(QTreeWidgetItem *item, const QString &value, int session = 0);
-    /// Gives a group's setting a value, and the group the setting where it has none.
+    /// Gives a group's setting a value, and the group the setting where it has none; shows neither.
     void give(QTreeWidgetItem *group, const QString &key, const QString &value);
     /// Gives the current setting's value to every document of the file, and the setting to those
     /// that miss it.

@@ -29,6 +29,7 @@ ConfigEditor::ConfigEditor()
                  QMessageBox::StandardButtons buttons) {
         QMessageBox box(QMessageBox::Warning, tr("Configuration"), text, buttons, this);
         box.setInformativeText(details);
+        box.setTextFormat(Qt::PlainText);
         return QMessageBox::StandardButton(box.exec());
     })
 {
@@ -43,6 +44,7 @@ ConfigEditor::ConfigEditor()
     buildPaperMenu();
 
     connect(&pause, &QTimer::timeout, this, &ConfigEditor::listFindings);
+    connect(&drawing, &QTimer::timeout, this, &ConfigEditor::showSetting);
     connect(&drawing, &QTimer::timeout, paper, &PaperPane::draw);
     connect(&tree->changes, &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
@@ -64,6 +66,7 @@ void ConfigEditor::buildWindow()
     searchLine->setPlaceholderText(tr("Search keys (Ctrl+F)"));
     searchLine->setClearButtonEnabled(true);
     hint->setWordWrap(true);
+    hint->setTextFormat(Qt::PlainText);
     findings->setWordWrap(true);
     findings->setIconSize({16, 16});
     findings->setResizeMode(QListView::Adjust);

@@ -116,6 +116,7 @@ PaperPane::PaperPane(ConfigTree &tree)
     area->viewport()->setPalette(desk);
     area->setBackgroundRole(QPalette::Window);
     remark->setWordWrap(true);
+    remark->setTextFormat(Qt::PlainText);
     documents->setAccessibleName(tr("Document"));
     widths->setAccessibleName(tr("Paper"));
 
@@ -129,7 +130,9 @@ PaperPane::PaperPane(ConfigTree &tree)
     layout->addWidget(remark);
 
     connect(documents, &QComboBox::currentIndexChanged, this, &PaperPane::chooseDocument);
-    connect(widths, &QComboBox::currentIndexChanged, this, &PaperPane::choosePaper);
+    connect(widths, &QComboBox::currentIndexChanged, this, [this] {
+        view->setPaper({view->paperSize().dpi, widths->currentData().toInt()});
+    });
     view->chosen = [this](qsizetype row) { explain(size_t(row)); };
     chooseDocument();
 }
@@ -159,11 +162,12 @@ void PaperPane::chooseDocument()
 
 QString PaperPane::openRequest(const QString &path)
 {
+    constexpr qint64 MostBytes = 1'024 * 1'024; // it is printed at every key stroke
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
-    if (file.size() > preview::MostBytes)
-        return tr("It has more than 64 MiB.");
+    if (file.size() > MostBytes)
+        return tr("It has more than 1 MiB.");
     if (!preview::isRequest(file.readAll()))
         return tr("It is not a print request.");
     int index = documents->findData(path);
@@ -184,11 +188,6 @@ void PaperPane::follow(const QString &group)
         if (groupOfMethod(documents->itemData(i, Qt::ToolTipRole).toString()) == group)
             return documents->setCurrentIndex(i);
     }
-}
-
-void PaperPane::choosePaper()
-{
-    view->setPaper({view->paperSize().dpi, widths->currentData().toInt()});
 }
 
 void PaperPane::zoomBy(double factor)
@@ -239,32 +238,26 @@ bool PaperPane::shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &r
     return false;
 }
 
-QList<QTreeWidgetItem *> PaperPane::settingsShaping(size_t row)
+/// Shades the settings of which another value prints the row otherwise.
+void PaperPane::explain(size_t row)
 {
-    const QSignalBlocker silence(&tree);
-    const std::vector<preview::Row> rows = printed();
     QList<QTreeWidgetItem *> shaping;
+    QStringList names;
+    QSignalBlocker silence(&tree);
+    const std::vector<preview::Row> rows = printed();
     for (const QString &name : std::as_const(groups)) {
         const QTreeWidgetItem *const group = tree.groupOf(name);
         for (int i = 0; group && i < group->childCount(); ++i) {
-            if (shapes(group->child(i), rows, row))
-                shaping.append(group->child(i));
+            QTreeWidgetItem *const item = group->child(i);
+            if (!shapes(item, rows, row))
+                continue;
+            shaping.append(item);
+            names.append(libconfig::settingOf(item->text(0)).first);
+            tree.scrollToItem(item);
         }
     }
-    configuration.take(tree);
-    return shaping;
-}
-
-/// Shows the settings that shape a row.
-void PaperPane::explain(size_t row)
-{
-    const QList<QTreeWidgetItem *> items = settingsShaping(row);
-    tree.shade(items);
-    QStringList names;
-    for (QTreeWidgetItem *const item : items) {
-        names.append(libconfig::settingOf(item->text(0)).first);
-        tree.scrollToItem(item);
-    }
+    silence.unblock();
+    tree.shade(shaping);
     remark->setText(names.isEmpty() ? tr("No setting in the file shapes this line.")
                                     : tr("This line is shaped by: %1").arg(names.join(u", "_s)));
 }

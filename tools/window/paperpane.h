@@ -82,13 +82,10 @@ public:
     /// Shows a request of the person's own. Answers why it cannot, or an empty text.
     QString openRequest(const QString &path);
     void zoomBy(double factor);
-    /// The settings of which another value prints the row otherwise.
-    QList<QTreeWidgetItem *> settingsShaping(size_t row);
 
 private:
     void addSamples();
     void chooseDocument();
-    void choosePaper();
     void explain(size_t row);
     std::vector<preview::Row> printed();
     bool shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row);

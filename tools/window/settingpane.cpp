@@ -70,10 +70,7 @@ void SettingPane::show(const QString &key, const Setting *shown, const QString &
     everywhere->setVisible(shown && *shown->group == '\0');
 }
 
-void SettingPane::showGroup(const QString &key)
-{
-    clear(key, {});
-}
+void SettingPane::showGroup(const QString &key) { clear(key, {}); }
 
 void SettingPane::clear(const QString &key, const QString &text)
 {

@@ -13,12 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Another text for an item.
+/// Another text for an item, which `shows` shows, unless it is null.
 class TextChange : public QUndoCommand
 {
 public:
-    TextChange(ConfigTree &tree, QTreeWidgetItem *item, const QString &text, int session)
-        : tree(tree)
+    TextChange(ConfigTree *shows, QTreeWidgetItem *item, const QString &text, int session = 0)
+        : shows(shows)
         , item(item)
         , other(text)
         , session(session)
@@ -38,10 +38,11 @@ private:
     {
         const QString present = item->text(0);
         item->setText(0, std::exchange(other, present));
-        tree.showItem(item);
+        if (shows)
+            shows->showItem(item);
     }
 
-    ConfigTree &tree;
+    ConfigTree *const shows;
     QTreeWidgetItem *const item;
     QString other; // the text that the item does not have now
     const int session;
@@ -53,9 +54,9 @@ class PresenceChange : public QUndoCommand
 public:
     /// Adds `item`, or removes it where it stands in the tree. One that `isAdded` has joined it
     /// already.
-    PresenceChange(ConfigTree &tree, QTreeWidgetItem *item, QTreeWidgetItem *parent, int index,
+    PresenceChange(ConfigTree *shows, QTreeWidgetItem *item, QTreeWidgetItem *parent, int index,
                    bool isAdded = false)
-        : tree(tree)
+        : shows(shows)
         , item(item)
         , outside(item->parent() ? nullptr : item)
         , parent(parent)
@@ -75,13 +76,14 @@ private:
     {
         if (outside) {
             parent->insertChild(index, outside.release());
-            tree.showItem(item);
+            if (shows)
+                shows->showItem(item);
         } else {
             outside.reset(parent->takeChild(index));
         }
     }
 
-    ConfigTree &tree;
+    ConfigTree *const shows;
     QTreeWidgetItem *const item;
     std::unique_ptr<QTreeWidgetItem> outside; // `item`, while the tree does not have it
     QTreeWidgetItem *const parent;
@@ -129,19 +131,19 @@ void ConfigTree::addAndEdit(QTreeWidgetItem *item, int index)
     isNew = true;
 }
 
-/// The text that has been typed is entered.
+/// The text that has been typed is entered; a new item without one goes again.
 void ConfigTree::commitData(QWidget *)
 {
-    QTreeWidgetItem *const item = std::exchange(typed, nullptr);
-    if (!item)
+    if (!typed || (isNew && typed->text(0) == before))
         return;
+    QTreeWidgetItem *const item = std::exchange(typed, nullptr);
     const QString text = item->text(0);
     if (std::exchange(isNew, false)) {
         QTreeWidgetItem *const parent = item->parent();
-        changes.push(new PresenceChange(*this, item, parent, parent->indexOfChild(item), true));
+        changes.push(new PresenceChange(this, item, parent, parent->indexOfChild(item), true));
     } else if (text != before) {
         item->setText(0, before);
-        changes.push(new TextChange(*this, item, text, 0));
+        changes.push(new TextChange(this, item, text));
     }
 }
 
@@ -171,9 +173,10 @@ void ConfigTree::removeSelected()
     clearSelection(); // the view would part it again for every item that goes
     changes.beginMacro({});
     std::ranges::reverse(chosen); // so that none moves those behind it
+    ConfigTree *shows = this;     // of many, to show each would take minutes
     for (QTreeWidgetItem *const item : std::as_const(chosen))
-        changes.push(
-            new PresenceChange(*this, item, item->parent(), item->parent()->indexOfChild(item)));
+        changes.push(new PresenceChange(std::exchange(shows, nullptr), item, item->parent(),
+                                        item->parent()->indexOfChild(item)));
     changes.endMacro();
 }
 
@@ -181,15 +184,16 @@ void ConfigTree::setValue(QTreeWidgetItem *item, const QString &value, int sessi
 {
     const auto [key, present] = libconfig::settingOf(item->text(0));
     if (value != present)
-        changes.push(new TextChange(*this, item, libconfig::settingText(key, value), session));
+        changes.push(new TextChange(this, item, libconfig::settingText(key, value), session));
 }
 
 void ConfigTree::give(QTreeWidgetItem *group, const QString &key, const QString &value)
 {
-    if (QTreeWidgetItem *const present = settingIn(*group, key))
-        setValue(present, value);
-    else
-        changes.push(new PresenceChange(*this, libconfig::newSettingItem(key, value), group, 0));
+    QTreeWidgetItem *const present = settingIn(*group, key);
+    if (!present)
+        changes.push(new PresenceChange(nullptr, libconfig::newSettingItem(key, value), group, 0));
+    else if (libconfig::settingOf(present->text(0)).second != value)
+        changes.push(new TextChange(nullptr, present, libconfig::settingText(key, value)));
 }
 
 void ConfigTree::setEverywhere()
@@ -209,7 +213,6 @@ void ConfigTree::setEverywhere()
         give(group, key, value);
     }
     changes.endMacro();
-    showItem(item);
 }
 
 void ConfigTree::toggleSwitch()
