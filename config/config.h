@@ -184,7 +184,7 @@ private:
     ConfigTree &takenTree();
     QDomDocument *takenDocument();
     void newDocument();
-    bool replaceFile(const QString &name, const char *operation, const QString &format) const;
+    bool replaceFile(QString path, const char *operation, const QString &format) const;
 
     /// What lookups are answered from, until someone takes the tree.
     std::vector<CfgContent> files;

@@ -11,6 +11,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <utility>
 
 namespace libconfig {
 
@@ -48,17 +49,18 @@ void printText(const QString &text)
 
 bool Config::buildConfigFile(QString name)
 {
-    return replaceFile(name, "buildConfigFile", u"cfg"_s);
+    return replaceFile(std::move(name), "buildConfigFile", u"cfg"_s);
 }
 
 bool Config::buildConfigXmlFile(QString name)
 {
-    return replaceFile(name, "buildConfigXmlFile", u"xml"_s);
+    return replaceFile(std::move(name), "buildConfigXmlFile", u"xml"_s);
 }
 
-bool Config::replaceFile(const QString &name, const char *operation, const QString &format) const
+bool Config::replaceFile(QString path, const char *operation, const QString &format) const
 {
-    const QString path = name.isEmpty() ? fileName : name;
+    if (path.isEmpty())
+        path = fileName;
     const auto fails = [&](const char *fault) {
         text::printLine(QByteArray("Error in the method Config::") + operation + "( "
                         + QFile::encodeName(path) + " ): " + fault);
@@ -171,14 +173,8 @@ QString Config::configTreeText(QDomNode node) const
     return text;
 }
 
-void Config::printConfigTree() const
-{
-    printText(configTreeText());
-}
+void Config::printConfigTree() const { printText(configTreeText()); }
 
-void Config::printConfigTree(QDomNode node) const
-{
-    printText(configTreeText(node));
-}
+void Config::printConfigTree(QDomNode node) const { printText(configTreeText(node)); }
 
 } // namespace libconfig
