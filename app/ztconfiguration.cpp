@@ -3,6 +3,8 @@
 
 #include "text/filename.h"
 
+#include <QFile>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,12 @@ QString inLatin1(const QString &text)
 {
     const auto isLatin1 = [](QChar c) { return c.unicode() <= 0xFF; };
     return std::ranges::all_of(text, isLatin1) ? text : QString::fromLatin1(text.toLatin1());
+}
+
+QString fileOfQueues(const QByteArray &name)
+{
+    const QByteArray folder = qgetenv("ZENTARO_CONFIG_FOLDER");
+    return text::nameInFolder((folder.isEmpty() ? "/etc/zentaro" : folder) + '/' + name);
 }
 
 } // namespace
@@ -39,19 +47,23 @@ QString ZTConfiguration::userFile()
 
 QString ZTConfiguration::queueFile(const QString &queue)
 {
-    const QByteArray folder = qgetenv("ZENTARO_CONFIG_FOLDER");
-    return text::nameInFolder(
-        (folder.isEmpty() ? "/etc/zentaro" : folder)
-        + (queue.isEmpty() ? "/zentaro.conf" : "/queues/" + queue.toUtf8() + ".conf"));
+    return fileOfQueues("queues/" + queue.toUtf8() + ".conf");
+}
+
+QString ZTConfiguration::queueFileInUse(const QString &queue)
+{
+    QString own = queueFile(queue);
+    return QFile::exists(own) ? own : fileOfQueues("zentaro.conf");
 }
 
 bool ZTConfiguration::isQueueName(const QString &name)
 {
     constexpr QStringView reserved = u"/\\?#,@'\"";
     const qsizetype size = name.toUtf8().size();
-    return size > 0 && size <= 127 && std::ranges::all_of(name, [&](QChar c) {
-               return c > u' ' && c != QChar(0x7F) && !reserved.contains(c);
-           });
+    return size > 0 && size <= 127 && !name.startsWith(u'-')
+           && std::ranges::all_of(name, [&](QChar c) {
+                  return c > u' ' && c != QChar(0x7F) && !reserved.contains(c);
+              });
 }
 
 QString ZTConfiguration::getStrValue(const QString &key) const

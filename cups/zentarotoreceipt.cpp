@@ -118,11 +118,10 @@ QTextCodec *codecOf(const QByteArray &encoding)
     return codec;
 }
 
-/// The file with the settings of the queue; of all queues where it has none of its own.
+/// The file with the settings of the queue.
 QString settingsFile(const QString &queue)
 {
-    const QString own = ZTConfiguration::queueFile(queue);
-    QString file = QFile::exists(own) ? own : ZTConfiguration::queueFile();
+    QString file = ZTConfiguration::queueFileInUse(queue);
     if (!QFileInfo(file).isReadable())
         tell("WARNING", "The settings in %1 cannot be read; it prints with none"_L1.arg(file));
     return file;

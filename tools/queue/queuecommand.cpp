@@ -14,6 +14,8 @@
 
 #include <array>
 
+#include <unistd.h>
+
 namespace queuetool {
 
 using namespace Qt::StringLiterals;
@@ -47,7 +49,7 @@ public:
         if (const std::optional<int> status = read(arguments, arguments))
             return status;
         const QString name = this->arguments().first();
-        if (ZTConfiguration::isQueueName(name) && !name.startsWith(u'-'))
+        if (ZTConfiguration::isQueueName(name))
             return std::nullopt;
         return wrongUsage(u'`' + name + "` cannot be the name of a queue"_L1);
     }
@@ -57,11 +59,12 @@ public:
     std::optional<QString> ran(const QString &name, const QStringList &words,
                                const QByteArray &input = {}) const
     {
-        QString shown = name;
-        for (const QString &word : words)
-            shown += u' ' + inShell(word);
-        if (isSet(u"verbose"_s))
+        if (isSet(u"verbose"_s)) {
+            QString shown = name;
+            for (const QString &word : words)
+                shown += u' ' + inShell(word);
             tools::printError(shown + u'\n');
+        }
         QString program = QStandardPaths::findExecutable(name);
         if (program.isEmpty()) // few people have the administrator's commands in their path
             program = QStandardPaths::findExecutable(name, {u"/usr/sbin"_s});
@@ -71,9 +74,10 @@ public:
         }
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"LC_ALL"_s,
-                           u"C.UTF-8"_s); // what is read here reads the same everywhere
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s); // the words that are looked for here
         process.setProcessEnvironment(environment);
+        // Without a terminal it asks nobody for a password, of which nobody would know.
+        process.setChildProcessModifier([] { setsid(); });
         process.start(program, words);
         process.write(input);
         process.closeWriteChannel();
@@ -90,15 +94,6 @@ public:
 private:
     const Call &call;
 };
-
-/// The printer description of receipt printers, as installed or built; empty without one.
-QByteArray printerDescription(QString *path)
-{
-    *path = QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path()
-            + "/" ZENTARO_DATA_FROM_BIN "/ppd/zentaro/zentaro-receipt.ppd"_L1;
-    QFile file(*path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 int add(const Call &call)
 {
@@ -117,14 +112,16 @@ int add(const Call &call)
     const QString uri = line.arguments().at(1);
     if (!uri.contains(scheme))
         return line.wrongUsage(u'`' + uri + "` is no device URI"_L1);
-    QString path;
-    const QByteArray description = printerDescription(&path);
-    if (description.isEmpty())
-        return tools::tellTrouble(call, path, u"the package zentaro-cups is needed for this"_s);
+    QFile description(QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path()
+                      + "/" ZENTARO_DATA_FROM_BIN "/ppd/zentaro/zentaro-receipt.ppd"_L1);
+    if (!description.open(QIODevice::ReadOnly))
+        return tools::tellTrouble(call, description.fileName(),
+                                  u"the package zentaro-cups is needed for this"_s);
     const QString encoding = line.isSet(u"encoding"_s) ? line.value(u"encoding"_s) : u"UTF-8"_s;
-    if (!description.contains("\n*Encoding " + encoding.toUtf8() + '/'))
+    if (!description.readAll().contains("\n*Encoding " + encoding.toUtf8() + '/'))
         return line.wrongUsage("no queue has the encoding `"_L1 + encoding + u'`');
-    QStringList words = {u"-p"_s, line.arguments().first(), u"-E"_s, u"-v"_s, uri, u"-P"_s, path};
+    QStringList words = {u"-p"_s, line.arguments().first(), u"-E"_s, u"-v"_s, uri,
+                         u"-P"_s, description.fileName()};
     for (const QString &option :
          {"Encoding="_L1 + encoding,
           "Faulty="_L1 + (line.isSet(u"hold-faulty"_s) ? "hold"_L1 : "print"_L1),
@@ -160,25 +157,20 @@ int list(const Call &call)
                       "stopped."_s);
     if (const std::optional<int> status = line.read(0, 0))
         return *status;
-    std::array<QString, 3> lists;
-    const std::array<QStringList, 3> words = {{{u"-v"_s}, {u"-p"_s}, {u"-l"_s, u"-o"_s}}};
-    for (size_t i = 0; i < words.size(); ++i) {
-        const std::optional<QString> answer = line.ran(u"lpstat"_s, words[i]);
-        if (!answer)
-            return tools::Trouble;
-        lists[i] = *answer;
-    }
-    const auto &[devices, printers, jobs] = lists;
+    const std::optional<QString> lists =
+        line.ran(u"lpstat"_s, {u"-v"_s, u"-p"_s, u"-l"_s, u"-o"_s});
+    if (!lists)
+        return tools::Trouble;
     bool stopped = false;
     QString text;
-    for (const auto &device : found(u"^device for (\\S+): (.*)$"_s, {}, devices)) {
+    for (const auto &device : found(u"^device for (\\S+): (.*)$"_s, {}, *lists)) {
         const QString name = device.captured(1);
         QString state;
         QString told;
         for (const auto &it :
              found(u"^printer QUEUE (?:is )?(idle|now printing|disabled|holding new "
                    "jobs).*\\n(?:\\t(.+)\\n)?"_s,
-                   name, printers)) {
+                   name, *lists)) {
             state = it.captured(1);
             stopped |= state == "disabled"_L1;
             if (it.hasCaptured(2))
@@ -187,7 +179,7 @@ int list(const Call &call)
         int count = 0;
         for (const auto &job :
              found(u"^(QUEUE-\\d+) .*\\n(?:\\tStatus: (.*)\\n)?(?:\\tAlerts: (.*)\\n)?"_s, name,
-                   jobs)) {
+                   *lists)) {
             ++count;
             stopped |= job.captured(3).contains("errors"_L1);
             if (!job.captured(2).isEmpty())
@@ -210,8 +202,7 @@ constexpr std::array characters = {
 /// has and what its settings are.
 QByteArray testPage(const QString &queue, const QString &encoding)
 {
-    const QString own = ZTConfiguration::queueFile(queue);
-    const QString path = QFile::exists(own) ? own : ZTConfiguration::queueFile();
+    const QString path = ZTConfiguration::queueFileInUse(queue);
     const bool isReadable = QFileInfo(path).isReadable();
     const ZTConfiguration settings(isReadable ? path : u"/dev/null"_s);
     QByteArray request;
