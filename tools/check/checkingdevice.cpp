@@ -27,10 +27,7 @@ QString someOf(const std::vector<QString> &names)
 }
 
 /// Attributes of name spaces are read by others.
-bool isOfNameSpace(QStringView attribute)
-{
-    return attribute.contains(u':');
-}
+bool isOfNameSpace(QStringView attribute) { return attribute.contains(u':'); }
 
 bool hasPlainAttributes(const QXmlAttributes &atts)
 {

@@ -240,10 +240,7 @@ constexpr auto rows = std::to_array<ElementRow>({
      statement},
 });
 
-bool reads(const ElementRow &row, qsizetype method)
-{
-    return ((row.methods >> method) & 1) != 0;
-}
+bool reads(const ElementRow &row, qsizetype method) { return ((row.methods >> method) & 1) != 0; }
 
 } // namespace
 
@@ -296,10 +293,7 @@ const ElementRow *elementRow(QStringView element, qsizetype method)
     return found == rows.end() ? nullptr : found;
 }
 
-const ElementRow &methodElement()
-{
-    return methodRow;
-}
+const ElementRow &methodElement() { return methodRow; }
 
 std::vector<const ElementRow *> rowsOf(qsizetype method)
 {
@@ -341,15 +335,9 @@ std::vector<QString> documentsWith(QStringView element)
     return names;
 }
 
-QLatin1StringView summaryOf(qsizetype method)
-{
-    return summaries.at(size_t(method));
-}
+QLatin1StringView summaryOf(qsizetype method) { return summaries.at(size_t(method)); }
 
-std::span<const ElementRow> elementRows()
-{
-    return rows;
-}
+std::span<const ElementRow> elementRows() { return rows; }
 
 QString keyWordOf(bool S::*aSwitch)
 {

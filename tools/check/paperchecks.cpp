@@ -21,10 +21,7 @@ namespace {
 constexpr qsizetype Frame = 4; // of a printed line: its quote, and the mark and line end behind it
 
 /// A text as the device prints it.
-QString asPrinted(QStringView text)
-{
-    return text.toString().replace("TOTALE"_L1, "SOMMA"_L1);
-}
+QString asPrinted(QStringView text) { return text.toString().replace("TOTALE"_L1, "SOMMA"_L1); }
 
 bool hasControl(QStringView text)
 {
@@ -53,10 +50,7 @@ QString inCharacters(qsizetype count)
     return QString::number(count) + (count == 1 ? " character"_L1 : " characters"_L1);
 }
 
-bool isLineEnd(QChar c)
-{
-    return c == u'\n' || c == u'\r';
-}
+bool isLineEnd(QChar c) { return c == u'\n' || c == u'\r'; }
 
 bool isControl(QChar c)
 {

@@ -19,10 +19,7 @@ int utf8Size(QChar c)
     return code < 0x800 || c.isSurrogate() ? 2 : 3;
 }
 
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r';
-}
+bool isBlank(QChar c) { return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r'; }
 
 } // namespace
 

@@ -91,10 +91,7 @@ void addConfigurationOption(CommandLine &line)
          u"FILE"_s});
 }
 
-ConfigurationInUse::~ConfigurationInUse()
-{
-    QCoreApplication::removeTranslator(&translator);
-}
+ConfigurationInUse::~ConfigurationInUse() { QCoreApplication::removeTranslator(&translator); }
 
 bool ConfigurationInUse::use(const Call &call, const QString &fileName)
 {

@@ -42,10 +42,7 @@ Pattern pattern(QLatin1StringView kind, std::vector<Pattern> parts)
 {
     return {kind, {}, {}, std::move(parts)};
 }
-Pattern ref(const QString &name)
-{
-    return {"ref"_L1, name};
-}
+Pattern ref(const QString &name) { return {"ref"_L1, name}; }
 Pattern define(const QString &name, std::vector<Pattern> parts)
 {
     return {"define"_L1, name, {}, std::move(parts)};
