@@ -18,10 +18,7 @@ Config::Config() = default;
 
 Config::~Config() = default;
 
-bool Config::openFile()
-{
-    return openFile(fileName);
-}
+bool Config::openFile() { return openFile(fileName); }
 
 bool Config::openFile(QString const &name)
 {
@@ -37,10 +34,7 @@ bool Config::openFile(QString const &name)
     return false;
 }
 
-void Config::closeFile()
-{
-    stream.reset();
-}
+void Config::closeFile() { stream.reset(); }
 
 bool Config::jump(char c)
 {
@@ -59,7 +53,7 @@ void Config::loadFile()
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         tellUnreadable(fileName);
     CfgContent content(file.isOpen() ? limitedContent(file) : QByteArray());
-    if (content.isClosed() && openFile())
+    if (content.isClosed() && !file.isSequential() && openFile()) // a pipe would be waited for
         stream->seekg(content.size());
     addFile(std::move(content));
 }

@@ -28,8 +28,6 @@ NewFile::NewFile(const QString &path)
 {
 }
 
-NewFile::~NewFile() = default;
-
 bool NewFile::open()
 {
     struct stat now = {};

@@ -18,9 +18,6 @@ class NewFile
 {
 public:
     explicit NewFile(const QString &path);
-    NewFile(const NewFile &) = delete;
-    NewFile &operator=(const NewFile &) = delete;
-    ~NewFile();
 
     /// Whether the file can be written. Nothing of one that exists is touched yet.
     bool open();
