@@ -19,10 +19,9 @@ QLatin1StringView groupOf(const DocumentType &type)
 /// The place of a group's type among documentTypes; -1 for a group that is no document's.
 qsizetype typeOf(QStringView group)
 {
-    const std::span<const DocumentType> types = documentTypes;
     const auto found = std::ranges::find_if(
-        types, [group](const DocumentType &type) { return group == groupOf(type); });
-    return found == types.end() ? -1 : found - types.begin();
+        documentTypes, [group](const DocumentType &type) { return group == groupOf(type); });
+    return found == std::end(documentTypes) ? -1 : found - std::begin(documentTypes);
 }
 
 bool isIn(const Setting &setting, QStringView group, qsizetype type)

@@ -112,8 +112,7 @@ int setValues(const tools::Call &call)
                             u"Gives keys such as zentaro.doc.paperWidth a value, and leaves "
                             u"every other byte of the file as it is.\nSays nothing when it is "
                             u"done; changes nothing where one value is refused."_s);
-    line.addArgument(u"KEY"_s, u"A dotted key."_s, u"KEY VALUE..."_s);
-    line.addArgument(u"VALUE"_s, u"Its value."_s, u"..."_s);
+    line.addArgument(u"KEY"_s, u"A dotted key, and behind it its value."_s, u"KEY VALUE..."_s);
     return changeValues(call, line, 2, withSetting);
 }
 
