@@ -23,11 +23,12 @@ enum class SettingKind {
 /// A setting of the suite's configuration, `zentaro.GROUP.WORD`.
 struct Setting
 {
-    const char *group; ///< empty for a setting of documents, which the groups of their types have
-    const char *word;
+    QLatin1StringView
+        group; ///< empty for a setting of documents, which the groups of their types have
+    QLatin1StringView word;
     SettingKind kind;
-    const char *byDefault; ///< what counts where the configuration gives none
-    const char *effect;    ///< in a sentence or two, to be translated in the context "Setting"
+    QLatin1StringView byDefault; ///< what counts where the configuration gives none
+    const char *effect; ///< in a sentence or two, to be translated in the context "Setting"
     int DocumentSettings::*number = nullptr;   ///< the member that it fills, if any
     bool DocumentSettings::*aSwitch = nullptr; ///< likewise
     int most = rowlayout::MaxPaddedWidth;      ///< of a number
@@ -42,88 +43,91 @@ struct Setting
 // NOLINTNEXTLINE(readability-function-size): a table
 consteval auto Setting::all()
 {
+    using namespace Qt::StringLiterals;
     using D = DocumentSettings;
     using enum SettingKind;
     constexpr unsigned OnlyFiscal = 1 << 2;
     constexpr unsigned AllButSold = 0x7f;
-    constexpr auto shown = [](const char *word, bool D::*member, const char *effect) {
-        return Setting{"", word, Switch, "false", effect, nullptr, member};
+    constexpr auto shown = [](QLatin1StringView word, bool D::*member, const char *effect) {
+        return Setting{""_L1, word, Switch, "false"_L1, effect, nullptr, member};
     };
     return std::to_array<Setting>({
-        {"language", "basedir", Folder, "",
+        {"language"_L1, "basedir"_L1, Folder, ""_L1,
          QT_TR_NOOP("The folder of the translations of the printed labels.")},
-        {"language", "file", FileName, "",
+        {"language"_L1, "file"_L1, FileName, ""_L1,
          QT_TR_NOOP("Which translation: / for that of the system's language, or a name that is put "
                     "right behind the folder's.")},
-        {"logger", "level", LogLevel, "DEBUG",
+        {"logger"_L1, "level"_L1, LogLevel, "DEBUG"_L1,
          QT_TR_NOOP("Lines below this level are not logged: DEBUG, INFO, WARNING, ERROR or FATAL, "
                     "in any letter case. Any other text means the default.")},
-        {"logger", "basedir", Folder, "",
+        {"logger"_L1, "basedir"_L1, Folder, ""_L1,
          QT_TR_NOOP("The folder of the log file; it has to exist.")},
-        {"logger", "filename", FileName, "", QT_TR_NOOP("The name of the log file in its folder.")},
-        {"logger", "type", LogType, "",
+        {"logger"_L1, "filename"_L1, FileName, ""_L1,
+         QT_TR_NOOP("The name of the log file in its folder.")},
+        {"logger"_L1, "type"_L1, LogType, ""_L1,
          QT_TR_NOOP("APPEND goes on in the log file, OVERWRITE empties it first, in any letter "
                     "case. With any other text nothing is logged.")},
-        {"db", "dbname", Text, "", QT_TR_NOOP("The name of the database.")},
-        {"db", "username", Text, "", QT_TR_NOOP("The database's user.")},
-        {"db", "password", Text, "",
+        {"db"_L1, "dbname"_L1, Text, ""_L1, QT_TR_NOOP("The name of the database.")},
+        {"db"_L1, "username"_L1, Text, ""_L1, QT_TR_NOOP("The database's user.")},
+        {"db"_L1, "password"_L1, Text, ""_L1,
          QT_TR_NOOP("The user's password, which whoever may read this file can read.")},
-        {"db", "hostname", Text, "", QT_TR_NOOP("The database's server.")},
-        {"bin", "path", Folder, "", QT_TR_NOOP("The folder of the suite's programs.")},
+        {"db"_L1, "hostname"_L1, Text, ""_L1, QT_TR_NOOP("The database's server.")},
+        {"bin"_L1, "path"_L1, Folder, ""_L1, QT_TR_NOOP("The folder of the suite's programs.")},
 
-        {"", "quantityFieldWidth", Number, "0", QT_TR_NOOP("Characters of the quantity column."),
-         &D::quantityFieldWidth},
-        {"", "priceFieldWidth", Number, "0",
+        {""_L1, "quantityFieldWidth"_L1, Number, "0"_L1,
+         QT_TR_NOOP("Characters of the quantity column."), &D::quantityFieldWidth},
+        {""_L1, "priceFieldWidth"_L1, Number, "0"_L1,
          QT_TR_NOOP("Characters of the unit price column; in a statement of account, of the "
                     "amount."),
          &D::priceFieldWidth},
-        {"", "totalPriceFieldWidth", Number, "0",
+        {""_L1, "totalPriceFieldWidth"_L1, Number, "0"_L1,
          QT_TR_NOOP("Characters of the column of line totals."), &D::totalPriceFieldWidth},
-        {"", "paperWidth", Number, "32",
+        {""_L1, "paperWidth"_L1, Number, "32"_L1,
          QT_TR_NOOP("Characters in a line. The description gets what the other columns leave, and "
                     "is cut to it. 0 means the default."),
          &D::paperWidth},
-        {"", "paperRows", Number, "0",
+        {""_L1, "paperRows"_L1, Number, "0"_L1,
          QT_TR_NOOP("Nothing on this printer: kept for printers with pages."), &D::paperRows},
-        {"", "style", Text, "",
+        {""_L1, "style"_L1, Text, ""_L1,
          QT_TR_NOOP("Nothing on this printer: kept for printers with styles.")},
-        {"", "topMargin", Number, "0",
+        {""_L1, "topMargin"_L1, Number, "0"_L1,
          QT_TR_NOOP("Empty lines of the top margin, which printGeometry switches on."), nullptr,
          nullptr, MaxTopMargin},
-        {"", "descriptionWidth", Number, "32",
+        {""_L1, "descriptionWidth"_L1, Number, "32"_L1,
          QT_TR_NOOP("Characters that an item's name keeps in a fiscal receipt by item. 0 means the "
                     "default, a negative number cuts nothing."),
          nullptr, nullptr, rowlayout::MaxPaddedWidth, OnlyFiscal},
-        {"", "copyNumber", Number, "",
+        {""_L1, "copyNumber"_L1, Number, ""_L1,
          QT_TR_NOOP("The copies that the suite's programs print of the document."), nullptr,
          nullptr, rowlayout::MaxPaddedWidth, AllButSold},
-        shown("printGeometry", &D::printGeometry,
+        shown("printGeometry"_L1, &D::printGeometry,
               QT_TR_NOOP("Prints the top margin, at the geometry element.")),
-        shown("printHeader", &D::printHeader,
+        shown("printHeader"_L1, &D::printHeader,
               QT_TR_NOOP("Prints the lines of the headers element; the printer's name below them "
                          "is printed always.")),
-        shown("printLogo", &D::printLogo,
+        shown("printLogo"_L1, &D::printLogo,
               QT_TR_NOOP("Nothing on this printer, which has no logo.")),
-        shown("printCompany", &D::printCompany, QT_TR_NOOP("Prints the company element.")),
-        shown("printDeliveryAddress", &D::printDeliveryAddress,
+        shown("printCompany"_L1, &D::printCompany, QT_TR_NOOP("Prints the company element.")),
+        shown("printDeliveryAddress"_L1, &D::printDeliveryAddress,
               QT_TR_NOOP("Prints the customer's delivery address.")),
-        shown("printBillingAddress", &D::printBillingAddress,
+        shown("printBillingAddress"_L1, &D::printBillingAddress,
               QT_TR_NOOP("Prints the customer's billing address.")),
-        shown("printTelephone", &D::printTelephone, QT_TR_NOOP("Prints the customer's telephone.")),
-        shown("printDate", &D::printDate, QT_TR_NOOP("Prints the order's date.")),
-        shown("printTime", &D::printTime, QT_TR_NOOP("Prints the order's time.")),
-        shown("printTable", &D::printTable, QT_TR_NOOP("Prints the order's table.")),
-        shown("printCustomer", &D::printCustomer,
+        shown("printTelephone"_L1, &D::printTelephone,
+              QT_TR_NOOP("Prints the customer's telephone.")),
+        shown("printDate"_L1, &D::printDate, QT_TR_NOOP("Prints the order's date.")),
+        shown("printTime"_L1, &D::printTime, QT_TR_NOOP("Prints the order's time.")),
+        shown("printTable"_L1, &D::printTable, QT_TR_NOOP("Prints the order's table.")),
+        shown("printCustomer"_L1, &D::printCustomer,
               QT_TR_NOOP("Prints the customer element. Without it no other setting of the customer "
                          "counts.")),
-        shown("printLicenseNumber", &D::printLicenseNumber,
+        shown("printLicenseNumber"_L1, &D::printLicenseNumber,
               QT_TR_NOOP("Prints the customer's license number.")),
-        shown("printFiscalCode", &D::printFiscalCode,
+        shown("printFiscalCode"_L1, &D::printFiscalCode,
               QT_TR_NOOP("Prints the customer's fiscal code.")),
-        shown("printCredit", &D::printCredit, QT_TR_NOOP("Prints the order's credit.")),
-        shown("printWaiter", &D::printWaiter, QT_TR_NOOP("Prints the order's waiter.")),
-        shown("printNote", &D::printNote, QT_TR_NOOP("Prints the order's note.")),
-        shown("openCashDrawer", &D::openCashDrawer,
+        shown("printCredit"_L1, &D::printCredit, QT_TR_NOOP("Prints the order's credit.")),
+        shown("printWaiter"_L1, &D::printWaiter, QT_TR_NOOP("Prints the order's waiter.")),
+        shown("printNote"_L1, &D::printNote, QT_TR_NOOP("Prints the order's note.")),
+        shown("openCashDrawer"_L1, &D::openCashDrawer,
               QT_TR_NOOP("Nothing on this printer, which has no drawer.")),
     });
 }

@@ -72,8 +72,8 @@ TEST(Manual, TellsTheOptionsThatTheHelpAndTheCompletionOffer)
 {
     const Home home("zentaro : { doc : { paperWidth = 40; }; };");
     const QStringList groups = commandsIn(zentaro({u"--help"_s}, home).output);
-    EXPECT_EQ(groups, (QStringList{u"check"_s, u"config"_s, u"preview"_s, u"queue"_s,
-                                    u"schema"_s}));
+    EXPECT_EQ(groups,
+              (QStringList{u"check"_s, u"config"_s, u"preview"_s, u"queue"_s, u"schema"_s}));
     EXPECT_EQ(offered({u"zentaro"_s, u""_s}, home).first(groups.size()), groups);
     for (const QString &group : groups) {
         EXPECT_TRUE(manualPage(u"zentaro.1"_s).contains(u".It Cm "_s + group + u'\n'));
@@ -134,8 +134,8 @@ QString described(const Setting &setting, const QString &key)
     QString kind = kinds[int(setting.kind)];
     if (setting.kind == SettingKind::Number)
         kind += u" to %L1"_s.arg(setting.most);
-    if (*setting.byDefault != '\0')
-        kind += u", "_s + QLatin1StringView(setting.byDefault);
+    if (!setting.byDefault.isEmpty())
+        kind += u", "_s + setting.byDefault;
     QString text = u".It Cm %1 Pq %2\n%3\n"_s.arg(
         key, kind, QString::fromLatin1(setting.effect).replace(u". "_s, u".\n"_s));
     const QStringList groups = tools::groupsWith(key);
@@ -163,15 +163,14 @@ QString settingsPart()
     }
     part += u".El\n.Pp\nThese are the keys in each of them:\n.Bl -tag -width Ds\n"_s;
     for (const Setting &setting : allSettings) {
-        if (*setting.group == '\0')
-            part += described(setting, QLatin1StringView(setting.word));
+        if (setting.group.isEmpty())
+            part += described(setting, setting.word);
     }
     part += u".El\n.Pp\nAnd these are the others, of which\n.Xr zentaro-print 1\nreads those of "
             "the language, and the shared libraries of the suite the rest:\n.Bl -tag -width Ds\n"_s;
     for (const Setting &setting : allSettings) {
-        if (*setting.group != '\0')
-            part += described(setting, tools::keyOf(QLatin1StringView(setting.group),
-                                                    QLatin1StringView(setting.word)));
+        if (!setting.group.isEmpty())
+            part += described(setting, tools::keyOf(setting.group, setting.word));
     }
     return part + u".El\n"_s;
 }

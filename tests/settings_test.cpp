@@ -34,14 +34,14 @@ void expectAsked(bool (*isRead)(const QString &group, const QString &word))
 {
     QSet<QString> known;
     const auto add = [&](const QString &group, const Setting &setting) {
-        const QString word = QLatin1StringView(setting.word);
+        const QString word = setting.word;
         if (isRead(group, word))
             known += "zentaro."_L1 + group + u'.' + word;
     };
     for (const Setting &setting : allSettings) {
-        if (*setting.group != '\0')
-            add(QLatin1StringView(setting.group), setting);
-        for (size_t i = 0; *setting.group == '\0' && i < documentTypes.size(); ++i) {
+        if (!setting.group.isEmpty())
+            add(setting.group, setting);
+        for (size_t i = 0; setting.group.isEmpty() && i < documentTypes.size(); ++i) {
             if ((setting.types >> i) & 1)
                 add(QString(documentTypes[i].keyPrefix).section(u'.', 1, 1), setting);
         }

@@ -26,8 +26,8 @@ qsizetype typeOf(QStringView group)
 
 bool isIn(const Setting &setting, QStringView group, qsizetype type)
 {
-    if (*setting.group != '\0')
-        return group == QLatin1StringView(setting.group);
+    if (!setting.group.isEmpty())
+        return group == setting.group;
     return type >= 0 && ((setting.types >> type) & 1) != 0;
 }
 
@@ -37,9 +37,8 @@ QStringList knownGroups()
 {
     QStringList groups;
     for (const Setting &setting : allSettings) {
-        if (const QLatin1StringView group(setting.group);
-            !group.isEmpty() && !groups.endsWith(group))
-            groups.append(group);
+        if (!setting.group.isEmpty() && !groups.endsWith(setting.group))
+            groups.append(setting.group);
     }
     for (const DocumentType &type : documentTypes)
         groups.append(groupOf(type));
@@ -49,7 +48,7 @@ QStringList knownGroups()
 bool isKnownGroup(QStringView group)
 {
     return isDocumentGroup(group) || std::ranges::any_of(allSettings, [group](const Setting &each) {
-               return *each.group != '\0' && group == QLatin1StringView(each.group);
+               return !each.group.isEmpty() && group == each.group;
            });
 }
 
@@ -70,7 +69,7 @@ QStringList knownWords(QStringView group)
 {
     QStringList words;
     for (const Setting *const setting : settingsOf(group))
-        words.append(QLatin1StringView(setting->word));
+        words.append(setting->word);
     return words;
 }
 
@@ -78,7 +77,7 @@ const Setting *findSetting(QStringView group, QStringView word)
 {
     const qsizetype type = typeOf(group);
     const auto found = std::ranges::find_if(allSettings, [&](const Setting &setting) {
-        return word == QLatin1StringView(setting.word) && isIn(setting, group, type);
+        return word == setting.word && isIn(setting, group, type);
     });
     return found == allSettings.end() ? nullptr : &*found;
 }

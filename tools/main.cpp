@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
 #include "tools/companion.h"
 
-int main(int argc, char **argv)
-{
-    return tools::runCompanion(argc, argv, nullptr);
-}
+int main(int argc, char **argv) { return tools::runCompanion(argc, argv, nullptr); }

@@ -21,10 +21,7 @@ bool write(const QByteArray &bytes, std::FILE *file)
 
 } // namespace
 
-int printOut(const QString &text)
-{
-    return printBytes(text::toLocale(text));
-}
+int printOut(const QString &text) { return printBytes(text::toLocale(text)); }
 
 int printBytes(const QByteArray &bytes)
 {
@@ -36,15 +33,9 @@ int printBytes(const QByteArray &bytes)
     return Trouble;
 }
 
-void printError(const QString &text)
-{
-    write(text::toLocale(text), stderr);
-}
+void printError(const QString &text) { write(text::toLocale(text), stderr); }
 
-bool canAsk()
-{
-    return isatty(STDIN_FILENO) != 0;
-}
+bool canAsk() { return isatty(STDIN_FILENO) != 0; }
 
 bool confirmed(const QString &question)
 {

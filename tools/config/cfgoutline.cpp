@@ -313,9 +313,6 @@ void Reader::tellLoss(QLatin1StringView code, const QString &text, qint64 offset
 
 } // namespace
 
-Outline readCfgOutline(const QByteArray &content)
-{
-    return Reader(content).read();
-}
+Outline readCfgOutline(const QByteArray &content) { return Reader(content).read(); }
 
 } // namespace configtool

@@ -93,8 +93,7 @@ int listKeys(const tools::Call &call)
     QString list;
     for (const QString &group : tools::knownGroups()) {
         for (const Setting *const setting : tools::settingsOf(group))
-            list += tools::keyOf(group, QLatin1StringView(setting->word)) + " = "_L1
-                    + QLatin1StringView(setting->byDefault) + u'\n';
+            list += tools::keyOf(group, setting->word) + " = "_L1 + setting->byDefault + u'\n';
     }
     return tools::printOut(list);
 }

@@ -17,10 +17,7 @@
 #include <utility>
 
 // A resource of a static library is linked only when it is called for, outside any namespace.
-static void initTemplate()
-{
-    Q_INIT_RESOURCE(templates);
-}
+static void initTemplate() { Q_INIT_RESOURCE(templates); }
 
 namespace configtool {
 

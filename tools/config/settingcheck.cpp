@@ -294,10 +294,7 @@ void Checker::tellValue(Severity severity, QLatin1StringView code, const QString
 
 } // namespace
 
-std::vector<Finding> checkSettings(const Outline &outline)
-{
-    return Checker(outline).check();
-}
+std::vector<Finding> checkSettings(const Outline &outline) { return Checker(outline).check(); }
 
 std::vector<Finding> findingsIn(const Outline &outline)
 {

@@ -30,7 +30,7 @@ QStringList proposals(const QTreeWidgetItem &item)
         const bool isSwitch = setting->kind == SettingKind::Switch;
         for (const auto value : {"true"_L1, "false"_L1, ""_L1}) {
             if (isSwitch != value.isEmpty())
-                texts << libconfig::settingText(QLatin1StringView(setting->word), value);
+                texts << libconfig::settingText(setting->word, value);
         }
     }
     return texts;

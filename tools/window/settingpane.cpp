@@ -30,8 +30,7 @@ QString languageName(const QString &file)
 
 bool SettingPane::isLanguage(const Setting *setting)
 {
-    return setting && "language"_L1 == QLatin1StringView(setting->group)
-           && "file"_L1 == QLatin1StringView(setting->word);
+    return setting && "language"_L1 == setting->group && "file"_L1 == setting->word;
 }
 
 SettingPane::SettingPane()
@@ -67,7 +66,7 @@ void SettingPane::show(const QString &key, const Setting *shown, const QString &
     layout->insertWidget(2, editor);
     if (hasFocus)
         editor->setFocus();
-    everywhere->setVisible(shown && *shown->group == '\0');
+    everywhere->setVisible(shown && shown->group.isEmpty());
 }
 
 void SettingPane::showGroup(const QString &key) { clear(key, {}); }
@@ -103,8 +102,8 @@ QString SettingPane::rangeText() const
     QString text;
     if (setting->kind == SettingKind::Number)
         text = tr("0 to %1.").arg(setting->most) + u' ';
-    if (*setting->byDefault != '\0')
-        text += tr("Unless set: %1.").arg(QLatin1StringView(setting->byDefault));
+    if (!setting->byDefault.isEmpty())
+        text += tr("Unless set: %1.").arg(setting->byDefault);
     return text;
 }
 

@@ -200,7 +200,7 @@ void ConfigTree::setEverywhere()
 {
     QTreeWidgetItem *const item = currentItem();
     const Setting *const setting = settingOf(item);
-    if (!setting || *setting->group != '\0')
+    if (!setting || !setting->group.isEmpty())
         return;
     const auto [key, value] = libconfig::settingOf(item->text(0));
     const QTreeWidgetItem *const product = item->parent()->parent();
