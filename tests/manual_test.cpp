@@ -4,6 +4,7 @@
 #include "tools/knownkeys.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -112,6 +113,29 @@ TEST(Completion, KnowsKeysAndValues)
         EXPECT_EQ(offered(QStringList(QStringLiteral(ZENTARO_PROGRAM)) + words.split(u' '), home),
                   offers.split(u' '))
             << words.toStdString();
+}
+
+/// The lines of the page work as they stand there, from nothing, and have nothing to warn of.
+TEST(Readme, SetsUpAShop)
+{
+    const Home home;
+    const QString page =
+        QString::fromUtf8(support::readFile(support::sourceDir() + u"/README.md"_s));
+    const QString shop =
+        page.section(u"\n## A shop in five minutes\n"_s, 1).section(u"\n## "_s, 0, 0);
+    const QString lines = shop.section(u"```sh\n"_s, 2).section(u"```"_s, 0, 0);
+    EXPECT_TRUE(lines.startsWith("zentaro config init --columns 42 --language it\n"_L1));
+    const Outcome outcome =
+        support::run(u"sh"_s, {u"-ec"_s, "cd \"$HOME\"\n"_L1 + lines}, home,
+                     {u"PATH="_s + QFileInfo(QStringLiteral(ZENTARO_PROGRAM)).path() + u':'
+                      + qEnvironmentVariable("PATH")});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_FALSE(outcome.output.contains("warning")) << outcome.output.toStdString();
+    const QByteArray ticket = support::readFile(home.path(u"ticket.out"_s));
+    EXPECT_TRUE(ticket.contains("\n\"  2 Pizza Margherita.........7.50    15.00\"@\n")
+                && ticket.contains("\"    SOMMA........................    15.00\"@\n"))
+        << ticket.toStdString();
 }
 
 TEST(FuzzDictionary, HasEveryMethodAndKey)
