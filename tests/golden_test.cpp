@@ -56,10 +56,7 @@ std::vector<Golden> goldens()
     return all;
 }
 
-void PrintTo(const Golden &golden, std::ostream *out)
-{
-    *out << golden.reference.toStdString();
-}
+void PrintTo(const Golden &golden, std::ostream *out) { *out << golden.reference.toStdString(); }
 
 QByteArray callsFor(const Golden &golden)
 {
@@ -102,8 +99,8 @@ TEST(Golden, HasNoReferenceWithoutARequest)
 TEST(Golden, IsTheSamplesPage)
 {
     const support::Home home(support::readFile(root.filePath(u"samples/zentaro-40.conf"_s)));
-    const support::Outcome outcome = support::run(QStringLiteral(ZENTARO_REQUEST_PAGES),
-                                                  {u"page"_s, root.filePath(u"samples"_s)}, home);
+    const support::Outcome outcome =
+        support::run(QStringLiteral(ZENTARO_REQUEST_PAGES), {root.filePath(u"samples"_s)}, home);
     QByteArray page = outcome.output;
     for (const DocumentMethod &method : documentMethods) {
         const QByteArray request =

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <span>
+#include <span>
 
 namespace tools {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Writes what is said about requests from the table of elements: the tables of the samples' page,
 // and the manual page of the request format. Run by the build and by the tests.
-//   zentaro-requestpages page SAMPLES                the page, its print files as they stand in it
-//   zentaro-requestpages manual TEMPLATE SAMPLES     the manual page, with the samples as examples
+//   zentaro-requestpages SAMPLES             the page, its print files as they stand in it
+//   zentaro-requestpages TEMPLATE SAMPLES    the manual page, with the samples as examples
 #include "render/documentsettings.h"
 #include "render/vocabulary.h"
 #include "tools/check/elementtable.h"
@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <span>
 
 using namespace Qt::StringLiterals;
 using requestcheck::ElementRow;
@@ -24,50 +25,40 @@ const auto listTitle = "Elements of every list document"_L1;
 QString contentOf(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(path));
+    file.open(QIODevice::ReadOnly);
     return QString::fromUtf8(file.readAll());
 }
 
-/// Whether all documents with a top read the row.
-bool isShared(const ElementRow &row)
-{
-    return row.methods == requestcheck::elementRows().front().methods;
-}
-
-bool reads(qsizetype method, QStringView element)
-{
-    return requestcheck::elementRow(element, method) != nullptr;
-}
-
-/// The rows that the others do not share; for -1 those that they do, `customer` among them.
+/// The rows that the other documents do not share; for -1 those that they do, and `customer`.
 std::vector<const ElementRow *> rowsOf(qsizetype method)
 {
-    // The ticket reads all of the latter.
+    const quint16 lists = requestcheck::elementRows().front().methods;
+    // The ticket reads all that are shared.
     std::vector<const ElementRow *> rows = requestcheck::rowsOf(method < 0 ? 0 : method);
-    std::erase_if(rows, [method](const ElementRow *row) {
-        return (isShared(*row) || row->element == element::customer) != (method < 0);
+    std::erase_if(rows, [&](const ElementRow *row) {
+        return (row->methods == lists || row->element == element::customer) != (method < 0);
     });
     return rows;
 }
 
-/// The sentence above the rows, which `word` makes of the name of an element.
-QString introduction(qsizetype method, const QString &customer)
+/// The sentence above the rows.
+QString introduction(qsizetype method)
 {
-    if (requestcheck::elementsOf(method).empty())
+    const auto reads = [method](QStringView element) {
+        return requestcheck::elementRow(element, method) != nullptr;
+    };
+    if (rowsOf(method).empty())
         return {};
-    if (!reads(method, element::printers))
+    if (!reads(element::printers))
         return u"It reads these elements and no other:\n"_s;
-    return "It reads the elements of every list document"_L1
-           + (reads(method, element::customer) ? QString(", "_L1 + customer) : QString())
-           + " and these:\n"_L1;
+    return u"It reads the elements of every list document%1 and these:\n"_s.arg(
+        reads(element::customer) ? ", `customer`"_L1 : ""_L1);
 }
 
-QString settingsGroup(const DocumentMethod &method)
+QLatin1StringView settingsGroup(const DocumentMethod &method)
 {
-    const auto &types = documentTypes;
-    const auto type = std::ranges::find(types, method.settingsType, &DocumentType::name);
-    return type->keyPrefix.chopped(1);
+    const std::span<const DocumentType> types = documentTypes;
+    return std::ranges::find(types, method.settingsType, &DocumentType::name)->keyPrefix.chopped(1);
 }
 
 /// The print file that the page shows for a document.
@@ -78,6 +69,8 @@ QString printFileIn(const QString &page, QLatin1StringView method)
 
 QString tableOf(qsizetype method)
 {
+    if (rowsOf(method).empty())
+        return {};
     QString table = u"\n| Element | Attributes | Settings | Prints |\n|---|---|---|---|\n"_s;
     const auto words = [](const QStringList &list) {
         return list.isEmpty() ? QString() : " `"_L1 + list.join("` `"_L1) + u'`';
@@ -104,8 +97,8 @@ QString samplesPage(const QString &old)
         const DocumentMethod &method = documentMethods[size_t(i)];
         page += "\n## %1\n\n%2. Settings: `%3`; request: [%1.xml](%1.xml).\n"_L1.arg(
                     method.name, requestcheck::summaryOf(i), settingsGroup(method))
-                + introduction(i, u"`customer`"_s) + (rowsOf(i).empty() ? QString() : tableOf(i))
-                + "\n```\n"_L1 + printFileIn(old, method.name) + "```\n"_L1;
+                + introduction(i) + tableOf(i) + "\n```\n"_L1 + printFileIn(old, method.name)
+                + "```\n"_L1;
     }
     return page;
 }
@@ -131,6 +124,8 @@ QString manualExample(const QString &text)
 
 QString manualRows(qsizetype method)
 {
+    if (rowsOf(method).empty())
+        return {};
     QString list = u".Bl -tag -width Ds\n"_s;
     for (const ElementRow *const row : rowsOf(method)) {
         list += u".It Cm %1\nPrints "_s.arg(row->element) + manualText(row->prints) + ".\n"_L1;
@@ -146,16 +141,14 @@ QString manualRows(qsizetype method)
     return list + ".El\n"_L1;
 }
 
-QString manualDocuments(const QString &samples)
+QString manualDocuments(const QString &page, const QString &samples)
 {
-    const QString page = contentOf(samples + "/README.md"_L1);
     QString text;
     for (qsizetype i = 0; i < qsizetype(documentMethods.size()); ++i) {
         const DocumentMethod &method = documentMethods[size_t(i)];
         text += ".Ss "_L1 + method.name + u'\n' + requestcheck::summaryOf(i)
                 + ".\nIts settings are in\n.Cm "_L1 + settingsGroup(method) + " .\n"_L1
-                + introduction(i, u"customer"_s) + (rowsOf(i).empty() ? QString() : manualRows(i))
-                + ".Pp\nThe request\n"_L1
+                + manualText(introduction(i)) + manualRows(i) + ".Pp\nThe request\n"_L1
                 + manualExample(contentOf(samples + u'/' + method.name + ".xml"_L1))
                 + ".Pp\nprints on 40 columns\n"_L1 + manualExample(printFileIn(page, method.name));
     }
@@ -166,20 +159,12 @@ QString manualDocuments(const QString &samples)
 
 int main(int argc, char **argv)
 {
-    QStringList words;
-    for (int i = 1; i < argc; ++i)
-        words.append(QFile::decodeName(argv[i]));
-    QString text;
-    if (words.size() == 2 && words[0] == "page"_L1)
-        text = samplesPage(contentOf(words[1] + "/README.md"_L1));
-    else if (words.size() == 3 && words[0] == "manual"_L1)
-        text = contentOf(words[1])
-                   .replace("@LISTS@\n"_L1, manualRows(-1))
-                   .replace("@DOCUMENTS@\n"_L1, manualDocuments(words[2]));
-    else
-        qFatal("usage: page SAMPLES | manual TEMPLATE SAMPLES");
-    const QByteArray bytes = text.toUtf8();
-    return std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout) == size_t(bytes.size())
-               ? 0
-               : 1;
+    const QString samples = QFile::decodeName(argv[argc - 1]);
+    const QString page = contentOf(samples + "/README.md"_L1);
+    const QString text = argc == 2
+                             ? samplesPage(page)
+                             : contentOf(QFile::decodeName(argv[1]))
+                                   .replace("@LISTS@\n"_L1, manualRows(-1))
+                                   .replace("@DOCUMENTS@\n"_L1, manualDocuments(page, samples));
+    return std::fputs(text.toUtf8().constData(), stdout) < 0 ? 1 : 0;
 }
