@@ -239,16 +239,14 @@ QString CheckingDevice::meantElement() const
 void CheckingDevice::checkUnknownElement()
 {
     const Code code = "unknown-element";
-    if (findings.isFull(code.name)) {
-        tell(code, {}, {});
-        return;
-    }
-    const QString meant = meantElement();
-    const std::vector<QString> readers = documentsWith(current.name);
+    const bool isFull = findings.isFull(code.name); // then it is only counted
+    const QString meant = isFull ? QString() : meantElement();
+    const std::vector<QString> readers =
+        isFull ? std::vector<QString>() : documentsWith(current.name);
     QString text = tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`';
     if (!readers.empty())
         text += ": it is read in "_L1 + someOf(readers);
-    else if (meant.isEmpty())
+    else if (meant.isEmpty() && !isFull)
         text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
     const tools::Finding unknown = finding(code, text, places.range(), meant);
     if (readers.empty() && meant.isEmpty() && !hasPlainAttributes(current.atts))
