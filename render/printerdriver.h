@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 class ZTConfiguration;
 struct DocumentMethod;
