@@ -45,6 +45,8 @@ bool beginsLikeComment(std::string_view text)
 class Reader
 {
 public:
+    using enum Severity;
+
     explicit Reader(const QByteArray &content);
     Outline read();
 
@@ -68,9 +70,9 @@ private:
     }
     qint64 nameBegin() const;
     Entry &entry(qsizetype index) { return outline.entries[size_t(index)]; }
-    void tell(Severity severity, QLatin1StringView code, const QString &text, qint64 offset);
-    void tellLoss(QLatin1StringView code, const QString &text, qint64 offset,
-                  Severity severity = Severity::Error);
+    void tell(Severity severity, QLatin1StringView code, qint64 offset, const QString &text);
+    void tellLoss(QLatin1StringView code, qint64 offset, const QString &text,
+                  Severity severity = Error);
 
     const std::string_view bytes;
     CfgScanner scanner;
@@ -93,8 +95,8 @@ Reader::Reader(const QByteArray &content)
 Outline Reader::read()
 {
     if (bytes.starts_with("\xEF\xBB\xBF"))
-        tell(Severity::Error, "byte-order-mark"_L1,
-             u"the file begins with a byte order mark, which becomes part of its first name"_s, 0);
+        tell(Error, "byte-order-mark"_L1, 0,
+             u"the file begins with a byte order mark, which becomes part of its first name"_s);
     for (;;) {
         switch (scanner.next()) {
         case CfgScanner::Statement::GroupBegin:
@@ -127,20 +129,18 @@ void Reader::beginGroup()
 
     const std::string_view skipped = trimmed(skippedText());
     if (!scanner.complete())
-        tellLoss("missing-brace"_L1,
+        tellLoss("missing-brace"_L1, scanner.mark(),
                  "no `{` follows the `:` of the group "_L1 + excerpt(name)
-                     + ": the rest of the file is skipped"_L1,
-                 scanner.mark());
+                     + ": the rest of the file is skipped"_L1);
     else if (skipped.find_first_of(":=}") != skipped.npos)
-        tellLoss("missing-brace"_L1,
+        tellLoss("missing-brace"_L1, scanner.mark(),
                  "no `{` of its own follows the `:` of the group "_L1 + excerpt(name)
                      + ": it takes that of line "_L1
                      + QString::number(placeAt(scanner.end() - 1).line)
-                     + ", and all between is lost: "_L1 + shown(skipped),
-                 scanner.mark());
+                     + ", and all between is lost: "_L1 + shown(skipped));
     else if (!skipped.empty())
-        tellLoss("text-lost"_L1, "lost between `:` and `{`: "_L1 + shown(skipped),
-                 scanner.mark() + 1);
+        tellLoss("text-lost"_L1, scanner.mark() + 1,
+                 "lost between `:` and `{`: "_L1 + shown(skipped));
 }
 
 void Reader::addSetting()
@@ -164,29 +164,27 @@ void Reader::addSetting()
 bool Reader::endGroup()
 {
     if (!isIdle(scanner.rawName()))
-        tellLoss("text-lost"_L1, "no setting, and lost: "_L1 + shown(scanner.rawName()),
-                 nameBegin());
+        tellLoss("text-lost"_L1, nameBegin(),
+                 "no setting, and lost: "_L1 + shown(scanner.rawName()));
     const std::string_view skipped = skippedText();
     const QString name = excerpt(entry(open.back()).name);
     if (open.size() == 1) {
         const std::string_view rest = textBetween(scanner.mark() + 1, qint64(bytes.size()));
         tellLoss(
-            "stray-brace"_L1,
+            "stray-brace"_L1, scanner.mark(),
             isIdle(rest)
                 ? u"this `}` closes no group"_s
                 : "this `}` closes no group: reading ends here, and the rest of the file is lost: "_L1
-                      + shown(rest),
-            scanner.mark());
+                      + shown(rest));
         return false;
     }
     if (!isIdle(skipped))
-        tellLoss("missing-semicolon"_L1,
+        tellLoss("missing-semicolon"_L1, scanner.mark(),
                  "no `;` follows the `}` of the group "_L1 + name
-                     + ": all up to the next one is lost: "_L1 + shown(skipped),
-                 scanner.mark());
+                     + ": all up to the next one is lost: "_L1 + shown(skipped));
     else if (!scanner.complete())
-        tell(Severity::Warning, "missing-semicolon"_L1,
-             "no `;` follows the `}` of the group "_L1 + name, scanner.mark());
+        tell(Warning, "missing-semicolon"_L1, scanner.mark(),
+             "no `;` follows the `}` of the group "_L1 + name);
     entry(open.back()).body.end = scanner.mark();
     entry(open.back()).text.end = scanner.end();
     open.pop_back();
@@ -196,11 +194,11 @@ bool Reader::endGroup()
 void Reader::endFile()
 {
     if (!isIdle(scanner.rawName()))
-        tellLoss("text-lost"_L1, "the end of the file is lost: "_L1 + shown(scanner.rawName()),
-                 nameBegin());
+        tellLoss("text-lost"_L1, nameBegin(),
+                 "the end of the file is lost: "_L1 + shown(scanner.rawName()));
     for (size_t i = 1; i < open.size(); ++i) {
         const Entry &group = entry(open[i]);
-        outline.faults.push_back({Severity::Error, "unclosed-group"_L1,
+        outline.faults.push_back({Error, "unclosed-group"_L1,
                                   "the group "_L1 + excerpt(group.name) + " is not closed"_L1,
                                   group.at});
     }
@@ -231,7 +229,7 @@ bool Reader::checkName(const QString &what)
                 + ": the `:` before it is missing"_L1;
     if (fault.isEmpty())
         return true;
-    tellLoss("stray-text"_L1, fault, nameBegin());
+    tellLoss("stray-text"_L1, nameBegin(), fault);
     return false;
 }
 
@@ -239,7 +237,7 @@ void Reader::checkValue(const QString &key, qint64 begin)
 {
     const std::string_view value = trimmed(scanner.rawValue());
     if (value.find('\0') != value.npos)
-        tellLoss("stray-text"_L1, "a NUL byte ends the value of "_L1 + excerpt(key), begin);
+        tellLoss("stray-text"_L1, begin, "a NUL byte ends the value of "_L1 + excerpt(key));
     if (!scanner.complete() || value.find('\n') != value.npos)
         checkValueEnd(key, value, begin);
     else
@@ -253,20 +251,17 @@ void Reader::checkValueEnd(const QString &key, std::string_view value, qint64 be
     const bool insideQuotes = std::ranges::count(line, '"') % 2 == 1;
     const qint64 lineEnd = begin + qint64(line.size());
     if (!scanner.complete())
-        tell(Severity::Error, "missing-semicolon"_L1,
-             "no `;` ends the value of "_L1 + excerpt(key) + ": it runs to the end of the file"_L1,
-             lineEnd);
+        tell(Error, "missing-semicolon"_L1, lineEnd,
+             "no `;` ends the value of "_L1 + excerpt(key) + ": it runs to the end of the file"_L1);
     else if (insideQuotes)
-        tell(Severity::Warning, "missing-semicolon"_L1,
+        tell(Warning, "missing-semicolon"_L1, lineEnd,
              "the quoted value of "_L1 + excerpt(key) + " goes on to line "_L1
-                 + QString::number(placeAt(scanner.end() - 1).line),
-             lineEnd);
+                 + QString::number(placeAt(scanner.end() - 1).line));
     else
-        tell(Severity::Error, "missing-semicolon"_L1,
+        tell(Error, "missing-semicolon"_L1, lineEnd,
              "no `;` ends the value of "_L1 + excerpt(key) + " on its line: it runs on to line "_L1
                  + QString::number(placeAt(scanner.end() - 1).line) + " and takes in "_L1
-                 + shown(value.substr(line.size())),
-             lineEnd);
+                 + shown(value.substr(line.size())));
 }
 
 void Reader::checkQuotes(const QString &key, std::string_view value, qint64 begin)
@@ -275,10 +270,10 @@ void Reader::checkQuotes(const QString &key, std::string_view value, qint64 begi
     const bool enclosed = value.size() >= 2 && value.starts_with('"') && value.ends_with('"');
     if (quotes == (enclosed ? 2 : 0))
         return;
-    tellLoss("lost-quotes"_L1,
+    tellLoss("lost-quotes"_L1, begin,
              "double quotes inside a value are lost: "_L1 + excerpt(key) + " is "_L1
                  + excerpt(scanner.value()),
-             begin, Severity::Warning);
+             Warning);
 }
 
 Place Reader::placeAt(qint64 offset) const
@@ -299,15 +294,15 @@ qint64 Reader::nameBegin() const
     return blanks == std::string_view::npos ? scanner.mark() : scanner.begin() + qint64(blanks);
 }
 
-void Reader::tell(Severity severity, QLatin1StringView code, const QString &text, qint64 offset)
+void Reader::tell(Severity severity, QLatin1StringView code, qint64 offset, const QString &text)
 {
     outline.faults.push_back({severity, code, text, placeAt(offset)});
 }
 
 /// A fault by which text of the file is lost, in the store and in a file written from it.
-void Reader::tellLoss(QLatin1StringView code, const QString &text, qint64 offset, Severity severity)
+void Reader::tellLoss(QLatin1StringView code, qint64 offset, const QString &text, Severity severity)
 {
-    tell(severity, code, text, offset);
+    tell(severity, code, offset, text);
     outline.losses.push_back(outline.faults.back());
 }
 

@@ -76,7 +76,7 @@ private:
         return entry.kind == Entry::Kind::Setting || entry.hasMember || outline.keepsEmptyGroups;
     }
     void checkEntry(qsizetype index);
-    void tell(QLatin1StringView code, const QString &text, qsizetype subject)
+    void tell(QLatin1StringView code, qsizetype subject, const QString &text)
     {
         findings.push_back(
             {Severity::Warning, code, text, outline.entries[size_t(subject)].at, subject});
@@ -106,13 +106,12 @@ std::vector<Finding> LossFinder::find()
         if (!written[size_t(entry.parent)])
             continue; // told with the group
         if (isEmpty)
-            tell("lost-group"_L1,
-                 "the group "_L1 + excerpt(outline.pathOf(i)) + ", which is empty"_L1, i);
+            tell("lost-group"_L1, i,
+                 "the group "_L1 + excerpt(outline.pathOf(i)) + ", which is empty"_L1);
         else if (isLater)
-            tell("lost-group"_L1,
+            tell("lost-group"_L1, i,
                  "the group "_L1 + excerpt(entry.name)
-                     + " with all it holds: only the first top-level group is written"_L1,
-                 i);
+                     + " with all it holds: only the first top-level group is written"_L1);
         else
             checkEntry(i);
     }
@@ -123,23 +122,21 @@ void LossFinder::checkEntry(qsizetype index)
 {
     const Entry &entry = outline.entries[size_t(index)];
     if (const QString loss = lossOf(entry.name, true, isXml); !loss.isEmpty())
-        tell("lost-name"_L1, "the name "_L1 + excerpt(entry.name) + ": "_L1 + loss, index);
+        tell("lost-name"_L1, index, "the name "_L1 + excerpt(entry.name) + ": "_L1 + loss);
     if (entry.kind == Entry::Kind::Group)
         return;
     if (isXml && entry.parent == 0)
-        tell("lost-file"_L1,
+        tell("lost-file"_L1, index,
              "everything: the setting "_L1 + excerpt(entry.name)
-                 + " outside any group makes a file that is no XML"_L1,
-             index);
+                 + " outside any group makes a file that is no XML"_L1);
     if (const QString loss = lossOf(entry.value, false, isXml); !loss.isEmpty())
-        tell("lost-value"_L1, "the value of "_L1 + excerpt(outline.pathOf(index)) + ": "_L1 + loss,
-             index);
+        tell("lost-value"_L1, index,
+             "the value of "_L1 + excerpt(outline.pathOf(index)) + ": "_L1 + loss);
     qsizetype &before = settings[{entry.parent, entry.name}];
     if (before > 0)
-        tell("lost-duplicate"_L1,
+        tell("lost-duplicate"_L1, before,
              "the value "_L1 + excerpt(outline.entries[size_t(before)].value) + " of "_L1
-                 + excerpt(outline.pathOf(before)) + ": the key stands there twice"_L1,
-             before);
+                 + excerpt(outline.pathOf(before)) + ": the key stands there twice"_L1);
     before = index;
 }
 

@@ -30,6 +30,8 @@ bool hasTranslations(const QString &folder)
 class Checker
 {
 public:
+    using enum Severity;
+
     explicit Checker(const Outline &outline)
         : outline(outline)
         , top(outline.topGroup())
@@ -51,9 +53,9 @@ private:
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
     QString shown(qsizetype index) const { return excerpt(outline.pathOf(index)); }
     int number(const QString &group, QLatin1StringView word) const;
-    void tell(Severity severity, QLatin1StringView code, const QString &text, qsizetype subject);
-    void tellValue(Severity severity, QLatin1StringView code, const QString &text,
-                   qsizetype subject);
+    void tell(Severity severity, QLatin1StringView code, qsizetype subject, const QString &text);
+    void tellValue(Severity severity, QLatin1StringView code, qsizetype subject,
+                   const QString &text);
 
     const Outline &outline;
     const qsizetype top; // where lookups begin
@@ -67,8 +69,7 @@ private:
 std::vector<Finding> Checker::check()
 {
     if (top < 0)
-        tell(Severity::Warning, "no-settings"_L1,
-             u"the file has no group: every setting is empty"_s, 0);
+        tell(Warning, "no-settings"_L1, 0, u"the file has no group: every setting is empty"_s);
     const auto count = qsizetype(outline.entries.size());
     for (qsizetype i = 1; i < count; ++i) {
         if (entry(i).kind == Entry::Kind::Setting)
@@ -89,8 +90,8 @@ void Checker::checkGroup(qsizetype index)
 {
     const Entry &group = entry(index);
     if (!group.hasMember)
-        tell(Severity::Warning, "empty-group"_L1,
-             "the group "_L1 + excerpt(group.name) + " is empty and counts for nothing"_L1, index);
+        tell(Warning, "empty-group"_L1, index,
+             "the group "_L1 + excerpt(group.name) + " is empty and counts for nothing"_L1);
     else if (group.parent == 0)
         checkTopGroup(index);
     else if (group.misread)
@@ -98,19 +99,16 @@ void Checker::checkGroup(qsizetype index)
     else if (group.parent == top && !groups.contains(group.name)) {
         groups.insert(group.name, index);
         if (!tools::isKnownGroup(group.name))
-            tell(Severity::Warning, "unknown-group"_L1,
+            tell(Warning, "unknown-group"_L1, index,
                  "nothing reads the group "_L1 + shown(index)
-                     + tools::suggestion(group.name, tools::knownGroups()),
-                 index);
+                     + tools::suggestion(group.name, tools::knownGroups()));
     } else if (group.parent == top) {
         tell(
-            Severity::Warning, "duplicate-group"_L1,
+            Warning, "duplicate-group"_L1, index,
             "the group "_L1 + shown(index)
-                + " stands here again: of a key in both, the first value that is not empty counts"_L1,
-            index);
+                + " stands here again: of a key in both, the first value that is not empty counts"_L1);
     } else if (entry(group.parent).parent == top && tools::isKnownGroup(entry(group.parent).name)) {
-        tell(Severity::Warning, "unknown-group"_L1, "nothing reads the group "_L1 + shown(index),
-             index);
+        tell(Warning, "unknown-group"_L1, index, "nothing reads the group "_L1 + shown(index));
     }
 }
 
@@ -118,15 +116,13 @@ void Checker::checkTopGroup(qsizetype index)
 {
     const QString &name = entry(index).name;
     if (index != top)
-        tell(Severity::Error, "second-group"_L1,
+        tell(Error, "second-group"_L1, index,
              "nothing in the group "_L1 + excerpt(name)
-                 + " is ever found: only the first top-level group is looked at"_L1,
-             index);
+                 + " is ever found: only the first top-level group is looked at"_L1);
     else if (name != tools::ProductGroup && !entry(index).misread)
-        tell(Severity::Error, "unknown-group"_L1,
+        tell(Error, "unknown-group"_L1, index,
              "no key is ever found: the first group is "_L1 + excerpt(name) + ", not `"_L1
-                 + tools::ProductGroup + u'`',
-             index);
+                 + tools::ProductGroup + u'`');
 }
 
 void Checker::checkSetting(qsizetype index)
@@ -136,25 +132,22 @@ void Checker::checkSetting(qsizetype index)
     const qsizetype last = settings.value({setting.parent, setting.name});
     if (setting.parent == 0) {
         if (!setting.misread)
-            tell(Severity::Warning, "unreachable-key"_L1,
-                 "no lookup finds the key "_L1 + excerpt(setting.name) + " outside any group"_L1,
-                 index);
+            tell(Warning, "unreachable-key"_L1, index,
+                 "no lookup finds the key "_L1 + excerpt(setting.name) + " outside any group"_L1);
     } else if (last != index) {
-        tell(Severity::Warning, "duplicate-key"_L1,
-             "the key "_L1 + excerpt(setting.name)
-                 + " is overridden: it stands in this group again"_L1
-                 + (entry(last).at.line > 0 ? u" (line %1)"_s.arg(entry(last).at.line) : QString()),
-             index);
+        tell(
+            Warning, "duplicate-key"_L1, index,
+            "the key "_L1 + excerpt(setting.name)
+                + " is overridden: it stands in this group again"_L1
+                + (entry(last).at.line > 0 ? u" (line %1)"_s.arg(entry(last).at.line) : QString()));
     } else if (setting.misread) {
         return;
     } else if (setting.name.contains(u'.')) {
-        tell(Severity::Warning, "unreachable-key"_L1,
+        tell(Warning, "unreachable-key"_L1, index,
              "no lookup finds the key "_L1 + excerpt(setting.name)
-                 + ": a `.` stands between the names of groups"_L1,
-             index);
+                 + ": a `.` stands between the names of groups"_L1);
     } else if (setting.parent == top && !group.misread) {
-        tell(Severity::Warning, "unknown-key"_L1, "nothing reads the key "_L1 + shown(index),
-             index);
+        tell(Warning, "unknown-key"_L1, index, "nothing reads the key "_L1 + shown(index));
     } else if (group.parent == top && tools::isKnownGroup(group.name)) {
         checkReadSetting(index);
     }
@@ -176,14 +169,13 @@ void Checker::checkReadSetting(qsizetype index)
     const Setting *const known = tools::findSetting(group, setting.name);
     qsizetype &found = effective[group + u'.' + setting.name];
     if (!known) {
-        tell(Severity::Warning, "unknown-key"_L1,
+        tell(Warning, "unknown-key"_L1, index,
              "nothing reads the key "_L1 + shown(index)
-                 + (++unknownKeys <= tools::MostOfACode ? wayOut(group, setting.name) : QString()),
-             index);
+                 + (++unknownKeys <= tools::MostOfACode ? wayOut(group, setting.name) : QString()));
     } else if (found > 0 && !entry(found).value.isEmpty()) {
-        tell(Severity::Warning, "unreachable-key"_L1,
-             "no lookup finds this "_L1 + shown(index) + ": an earlier group of the name has it"_L1,
-             index);
+        tell(Warning, "unreachable-key"_L1, index,
+             "no lookup finds this "_L1 + shown(index)
+                 + ": an earlier group of the name has it"_L1);
     } else {
         found = index;
         if (!setting.value.contains(u'\n')) // that it ran over its line has been told
@@ -199,33 +191,29 @@ void Checker::checkValue(qsizetype index, const Setting &setting)
     switch (setting.kind) {
     case SettingKind::Number:
         if (!isNumber)
-            tellValue(Severity::Error, "not-a-number"_L1,
+            tellValue(Error, "not-a-number"_L1, index,
                       shown(index) + " wants a whole number, not "_L1 + excerpt(value)
-                          + ": 0 is read"_L1,
-                      index);
+                          + ": 0 is read"_L1);
         else if (number < 0 || number > setting.most)
             tellValue(
-                Severity::Error, "out-of-range"_L1,
+                Error, "out-of-range"_L1, index,
                 shown(index)
-                    + u" is %1, which is not between 0 and %2"_s.arg(number).arg(setting.most),
-                index);
+                    + u" is %1, which is not between 0 and %2"_s.arg(number).arg(setting.most));
         break;
     case SettingKind::Switch:
         if (value != "true"_L1 && value != "false"_L1)
-            tellValue(Severity::Error, "not-a-switch"_L1,
+            tellValue(Error, "not-a-switch"_L1, index,
                       shown(index) + " is "_L1 + excerpt(value)
-                          + R"(, neither "true" nor "false": it is off)"_L1,
-                      index);
+                          + R"(, neither "true" nor "false": it is off)"_L1);
         break;
     default:
         if (const QStringList words = tools::wordsOf(setting.kind);
             !words.isEmpty() && !words.contains(value, Qt::CaseInsensitive))
-            tellValue(Severity::Error, "unknown-word"_L1,
+            tellValue(Error, "unknown-word"_L1, index,
                       shown(index) + " is "_L1 + excerpt(value)
                           + (setting.kind == SettingKind::LogLevel ? ": every line is logged"_L1
                                                                    : ": nothing is logged"_L1)
-                          + tools::suggestion(value, words),
-                      index);
+                          + tools::suggestion(value, words));
         break;
     }
 }
@@ -251,12 +239,11 @@ void Checker::checkColumns()
         if (columns < paper)
             continue;
         const qsizetype width = effective.value(group + ".paperWidth"_L1);
-        tell(Severity::Error, "columns"_L1,
+        tell(Error, "columns"_L1, width > 0 ? width : first,
              shown(first)
                  + u": quantity, price and total take %1 characters with what stands between them, "
                    "the paper has %2: nothing is left for the description"_s.arg(columns)
-                       .arg(paper),
-             width > 0 ? width : first);
+                       .arg(paper));
     }
 }
 
@@ -272,22 +259,21 @@ void Checker::checkLanguage()
     if ((base + name).isEmpty()
         || (isByLocale ? hasTranslations(base) : loadTranslation(translator, base, name)))
         return;
-    tellValue(Severity::Warning, "language-file"_L1,
+    tellValue(Warning, "language-file"_L1, subject,
               "there is no language file "_L1
                   + (isByLocale ? excerpt(base + "/zentaro_*.qm"_L1)
-                                : excerpt(base + name) + ": labels stay in English"_L1),
-              subject);
+                                : excerpt(base + name) + ": labels stay in English"_L1));
 }
 
-void Checker::tell(Severity severity, QLatin1StringView code, const QString &text,
-                   qsizetype subject)
+void Checker::tell(Severity severity, QLatin1StringView code, qsizetype subject,
+                   const QString &text)
 {
     findings.push_back({severity, code, text, entry(subject).at, subject});
 }
 
 /// As tell(), at the setting's value.
-void Checker::tellValue(Severity severity, QLatin1StringView code, const QString &text,
-                        qsizetype subject)
+void Checker::tellValue(Severity severity, QLatin1StringView code, qsizetype subject,
+                        const QString &text)
 {
     findings.push_back({severity, code, text, entry(subject).valueAt, subject});
 }
