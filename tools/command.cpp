@@ -32,7 +32,7 @@ int dispatch(const Call &call, const CommandGroup &group)
     CommandLine line(call, group.description);
     for (const QCommandLineOption &option : group.common)
         line.addOption(option);
-    if (!group.version.isEmpty())
+    if (group.version)
         line.addOption({u"version"_s, u"Shows the version."_s});
     line.addArgument(u"COMMAND"_s, u"What to do, see below."_s, u"COMMAND ..."_s);
     line.stopAtFirstArgument();
@@ -44,8 +44,8 @@ int dispatch(const Call &call, const CommandGroup &group)
         return Trouble;
     if (line.isSet(u"help"_s))
         return printOut(helpOn(line, call, group));
-    if (!group.version.isEmpty() && line.isSet(u"version"_s))
-        return printOut(group.version + u'\n');
+    if (group.version && line.isSet(u"version"_s))
+        return printOut(group.version());
     const QStringList arguments = line.arguments();
     if (arguments.isEmpty())
         return line.wrongUsage(u"a command is missing"_s);

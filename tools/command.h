@@ -48,7 +48,7 @@ struct CommandGroup
     QString description;
     std::span<const Command> commands;
     QList<QCommandLineOption> common; ///< options of all of them, which may stand before the name
-    QString version;                  ///< what `--version` prints; empty for no such option
+    QString (*version)() = nullptr;   ///< what `--version` prints; null for no such option
 };
 
 /// Calls the command that the first argument names; `--help` lists the commands.

@@ -29,6 +29,17 @@ constexpr std::array<Command, 5> commands = {{
     {"schema"_L1, "writes the schema of print requests, for editors"_L1, schema::run},
 }};
 
+/// A line for this program, and one for the print compiler beside it, which may be another's.
+QString versions()
+{
+    QString lines = u"zentaro " ZENTARO_VERSION "\n"_s;
+    QFile compiler(programFolder() + "/zentaro-print"_L1);
+    const QByteArray bytes = compiler.open(QIODevice::ReadOnly) ? compiler.readAll() : QByteArray();
+    if (const qsizetype mark = bytes.indexOf("@(#) zentaro-print "); mark >= 0)
+        lines += QString::fromLatin1(bytes.constData() + mark + 5) + u'\n';
+    return lines;
+}
+
 } // namespace
 
 int runCompanion(int argc, char **argv, const Desktop *desktop)
@@ -44,9 +55,8 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
             return Trouble;
         }
     }
-    return dispatch(
-        {u"zentaro"_s, words, argc, argv, desktop},
-        {u"The companion of zentaro-print."_s, commands, {}, u"zentaro " ZENTARO_VERSION ""_s});
+    return dispatch({u"zentaro"_s, words, argc, argv, desktop},
+                    {u"The companion of zentaro-print."_s, commands, {}, versions});
 }
 
 QString programFolder()
