@@ -125,7 +125,9 @@ tools::Finding finding(Code code, const QString &text, const Range &at, const QS
 {
     return {code.severity,
             code.name,
-            suggestion.isEmpty() ? text : text + " (did you mean `"_L1 + suggestion + "`?)"_L1,
+            suggestion.isEmpty()
+                ? text
+                : text + " (did you mean "_L1 + tools::excerpt(suggestion) + "?)"_L1,
             at.begin,
             -1,
             at.end,
