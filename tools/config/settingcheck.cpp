@@ -60,10 +60,11 @@ private:
     const Outline &outline;
     const qsizetype top; // where lookups begin
     std::vector<Finding> findings;
-    QHash<QString, qsizetype> groups;    // of the top group, the first of each name
-    QHash<Name, qsizetype> settings;     // the last of each name in a group
-    QHash<QString, qsizetype> effective; // by "group.word": the entry that a lookup finds
-    int unknownKeys = 0;                 // a way out is looked for only of those that are listed
+    QHash<QString, qsizetype> groups; // of the top group, the first of each name
+    QHash<Name, qsizetype> settings;  // the last of each name in a group
+    // By group and word: the entry that a lookup finds.
+    QHash<std::pair<QString, QString>, qsizetype> effective;
+    int unknownKeys = 0; // a way out is looked for only of those that are listed
 };
 
 std::vector<Finding> Checker::check()
@@ -71,6 +72,8 @@ std::vector<Finding> Checker::check()
     if (top < 0)
         tell(Warning, "no-settings"_L1, 0, u"the file has no group: every setting is empty"_s);
     const auto count = qsizetype(outline.entries.size());
+    settings.reserve(count);
+    effective.reserve(count);
     for (qsizetype i = 1; i < count; ++i) {
         if (entry(i).kind == Entry::Kind::Setting)
             settings.insert({entry(i).parent, entry(i).name}, i);
@@ -167,7 +170,7 @@ void Checker::checkReadSetting(qsizetype index)
     const Entry &setting = entry(index);
     const QString &group = entry(setting.parent).name;
     const Setting *const known = tools::findSetting(group, setting.name);
-    qsizetype &found = effective[group + u'.' + setting.name];
+    qsizetype &found = effective[{group, setting.name}];
     if (!known) {
         tell(Warning, "unknown-key"_L1, index,
              "nothing reads the key "_L1 + shown(index)
@@ -221,7 +224,7 @@ void Checker::checkValue(qsizetype index, const Setting &setting)
 /// The number that a document reads; 0 for one that is not there or is none.
 int Checker::number(const QString &group, QLatin1StringView word) const
 {
-    return entry(effective.value(group + u'.' + word)).value.toInt(); // the file has no value
+    return entry(effective.value({group, word})).value.toInt(); // the file has no value
 }
 
 void Checker::checkColumns()
@@ -238,7 +241,7 @@ void Checker::checkColumns()
                                + number(group, "totalPriceFieldWidth"_L1) + Separators;
         if (columns < paper)
             continue;
-        const qsizetype width = effective.value(group + ".paperWidth"_L1);
+        const qsizetype width = effective.value({group, u"paperWidth"_s});
         tell(Error, "columns"_L1, width > 0 ? width : first,
              shown(first)
                  + u": quantity, price and total take %1 characters with what stands between them, "
@@ -249,8 +252,8 @@ void Checker::checkColumns()
 
 void Checker::checkLanguage()
 {
-    const qsizetype file = effective.value(u"language.file"_s);
-    const qsizetype folder = effective.value(u"language.basedir"_s);
+    const qsizetype file = effective.value({u"language"_s, u"file"_s});
+    const qsizetype folder = effective.value({u"language"_s, u"basedir"_s});
     const QString &base = entry(folder).value;
     const QString &name = entry(file).value;
     const qsizetype subject = name.isEmpty() ? folder : file;
