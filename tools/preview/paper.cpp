@@ -2,7 +2,6 @@
 #include "tools/preview/paper.h"
 
 #include <algorithm>
-#include <span>
 #include <utility>
 
 namespace preview {
@@ -65,168 +64,130 @@ class Paper
 public:
     Paper(const Document &document, int columns, const std::function<bool(Row)> &take)
         : document(document)
-        , columns(columns)
+        , columns(columns > 0 || !document.origins.empty()
+                      ? columns
+                      : widthOf(document.printFile, document.codec))
         , take(take)
     {
-        if (columns == 0 && document.origins.empty())
-            this->columns = widthOf(document.printFile, document.codec);
     }
 
     void draw()
     {
-        while (next < document.printFile.size() && wanted) {
-            offset = next;
-            PrintLine line = lineAt(document.printFile, offset, document.codec);
-            next = line.next;
-            draw(std::move(line));
+        for (qsizetype at = 0; at < document.printFile.size() && wanted;) {
+            PrintLine line = lineAt(document.printFile, at, document.codec);
+            draw(std::move(line), std::exchange(at, line.next));
         }
         tearOff();
     }
 
 private:
-    enum class Section { None, Listing, Fiscal };
+    enum class Section { None, Torn, Listing, Fiscal };
 
-    void draw(PrintLine line);
-    void drawEmpty(PrintLine line);
+    void draw(PrintLine line, qsizetype offset);
+    void locate(qsizetype offset);
     void open(Section kind, const PrintLine &line);
     void close(Section kind, const PrintLine &line);
     void tearOff();
     void print(PrintLine line);
     void printFiscal(const PrintLine &line);
-    void beginOutside();
-    Row row(Row::Kind kind);
-    void add(Row row) { wanted = wanted && take(std::move(row)); }
+    void add(Row::Kind kind, const QString &mark, const QString &note, Cells text = {});
 
     const Document &document;
-    int columns; // 0: as the origins say
+    const int columns; // 0: as the origins say
     const std::function<bool(Row)> &take;
-    qsizetype offset = 0; // of the line that is drawn
-    qsizetype next = 0;
     Section section = Section::None;
-    int lastWidth = 0; // of the row before
-    bool torn = false; // paper is open, without a section
+    int width = 0; // of the paper
+    qint64 requestLine = 0;
     bool wanted = true;
 };
 
-void Paper::draw(PrintLine line)
-{
-    switch (line.kind) {
-    case LineKind::Empty:
-        return drawEmpty(std::move(line));
-    case LineKind::SectionStart:
-        return open(Section::Listing, line);
-    case LineKind::SectionEnd:
-        return close(Section::Listing, line);
-    case LineKind::FiscalEnd:
-        return close(Section::Fiscal, line);
-    case LineKind::Fiscal:
-        return printFiscal(line);
-    case LineKind::Printed:
-    case LineKind::Unframed:
-        return print(std::move(line));
-    }
-}
-
 /// An empty line opens a section: with the `j` after it, or alone where fiscal lines follow.
-void Paper::drawEmpty(PrintLine line)
+void Paper::draw(PrintLine line, qsizetype offset)
 {
-    const LineKind following = next < document.printFile.size()
-                                   ? lineAt(document.printFile, next, document.codec).kind
-                                   : LineKind::Empty;
+    const bool isBefore = line.kind == LineKind::Empty && line.next < document.printFile.size();
+    const LineKind following =
+        isBefore ? lineAt(document.printFile, line.next, document.codec).kind : LineKind::Empty;
     if (following == LineKind::SectionStart && line.end == LineEnd::LineFeed)
         return;
-    if (following == LineKind::Fiscal || following == LineKind::FiscalEnd)
-        open(Section::Fiscal, line);
+    const bool opensFiscal = following == LineKind::Fiscal || following == LineKind::FiscalEnd;
+    if (opensFiscal || line.kind == LineKind::SectionStart)
+        tearOff();
+    locate(offset);
+    if (opensFiscal || line.kind == LineKind::SectionStart)
+        open(opensFiscal ? Section::Fiscal : Section::Listing, line);
+    else if (line.kind == LineKind::SectionEnd || line.kind == LineKind::FiscalEnd)
+        close(line.kind == LineKind::FiscalEnd ? Section::Fiscal : Section::Listing, line);
     else
         print(std::move(line));
 }
 
+/// Looks up what is known of the place in the file.
+void Paper::locate(qsizetype offset)
+{
+    const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
+    const bool isKnown = origin != document.origins.end();
+    requestLine = isKnown ? origin->requestLine : 0;
+    width = std::clamp(columns > 0 ? columns
+                       : isKnown   ? origin->paperWidth
+                                   : DevicePaperWidth,
+                       1, MostPaperWidth);
+}
+
 void Paper::open(Section kind, const PrintLine &line)
 {
-    tearOff();
     section = kind;
-    Row top = row(Row::Kind::TopEdge);
-    top.mark = kind == Section::Listing ? u"j"_s : QString();
-    top.note = joined(kind == Section::Fiscal ? u"fiscal"_s : QString(), faultOfEnd(line));
-    add(std::move(top));
+    const bool isFiscal = kind == Section::Fiscal;
+    add(Row::Kind::TopEdge, isFiscal ? u""_s : u"j"_s,
+        joined(isFiscal ? u"fiscal"_s : u""_s, faultOfEnd(line)));
 }
 
 void Paper::close(Section kind, const PrintLine &line)
 {
-    const bool matches = section == kind;
-    if (section == Section::None && !torn)
-        add(row(Row::Kind::TornTop));
-    section = Section::None;
-    torn = false;
-    Row bottom = row(Row::Kind::BottomEdge);
-    bottom.mark = kind == Section::Listing ? u"J"_s : u"1T"_s;
-    bottom.note = joined(matches ? QString() : u"closes what was not opened"_s, faultOfEnd(line));
-    add(std::move(bottom));
+    const Section closed = std::exchange(section, Section::None);
+    if (closed == Section::None)
+        add(Row::Kind::TornTop, {}, {});
+    add(Row::Kind::BottomEdge, kind == Section::Listing ? u"J"_s : u"1T"_s,
+        joined(closed == kind ? u""_s : u"closes what was not opened"_s, faultOfEnd(line)));
 }
 
 /// Ends the paper where a section is not closed.
 void Paper::tearOff()
 {
-    if (section == Section::None && !torn)
-        return;
-    Row bottom;
-    bottom.kind = Row::Kind::TornBottom;
-    bottom.width = lastWidth;
-    bottom.note = section == Section::None ? QString() : u"the section is not closed"_s;
-    section = Section::None;
-    torn = false;
-    add(std::move(bottom));
+    requestLine = 0;
+    const Section closed = std::exchange(section, Section::None);
+    if (closed != Section::None)
+        add(Row::Kind::TornBottom, {},
+            closed == Section::Torn ? u""_s : u"the section is not closed"_s);
 }
 
 void Paper::print(PrintLine line)
 {
-    beginOutside();
-    Row printed = row(Row::Kind::Line);
-    printed.note =
+    if (section == Section::None) {
+        section = Section::Torn;
+        add(Row::Kind::TornTop, {}, u"outside of a section"_s);
+    }
+    if (line.kind == LineKind::Fiscal)
+        return printFiscal(line);
+    const QString fault =
         joined(faultOf(line), line.kind == LineKind::Empty ? QString() : faultOfEnd(line));
-    printed.mark = printed.note.isEmpty() ? QString() : u"!"_s;
-    printed.text = std::move(line.text);
-    while (!printed.beyond().empty() && printed.text.back() == U' ')
-        printed.text.pop_back();
-    add(std::move(printed));
+    Cells text = std::move(line.text);
+    while (text.size() > size_t(width) && text.back() == U' ')
+        text.pop_back();
+    add(Row::Kind::Line, fault.isEmpty() ? u""_s : u"!"_s, fault, std::move(text));
 }
 
 void Paper::printFiscal(const PrintLine &line)
 {
-    beginOutside();
-    Row first = row(Row::Kind::Line);
-    FiscalReceipt receipt = fiscalReceipt(line.text, first.width);
-    first.text = std::move(receipt.lines.front());
-    first.mark = receipt.fault.isEmpty() ? QString() : u"!"_s;
-    first.note = joined(joined(escaped(line.text), receipt.fault), faultOfEnd(line));
-    add(std::move(first));
-    for (Cells &text : std::span(receipt.lines).subspan(1)) {
-        Row further = row(Row::Kind::Line);
-        further.text = std::move(text);
-        add(std::move(further));
-    }
+    FiscalReceipt receipt = fiscalReceipt(line.text, width);
+    QString mark = receipt.fault.isEmpty() ? u""_s : u"!"_s;
+    QString note = joined(joined(escaped(line.text), receipt.fault), faultOfEnd(line));
+    for (Cells &text : receipt.lines)
+        add(Row::Kind::Line, std::exchange(mark, {}), std::exchange(note, {}), std::move(text));
 }
 
-void Paper::beginOutside()
+void Paper::add(Row::Kind kind, const QString &mark, const QString &note, Cells text)
 {
-    if (section != Section::None || std::exchange(torn, true))
-        return;
-    Row top = row(Row::Kind::TornTop);
-    top.note = u"outside of a section"_s;
-    add(std::move(top));
-}
-
-Row Paper::row(Row::Kind kind)
-{
-    Row row;
-    row.kind = kind;
-    const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
-    const bool isKnown = origin != document.origins.end();
-    row.requestLine = isKnown ? origin->requestLine : 0;
-    row.width = columns > 0 ? columns : isKnown ? origin->paperWidth : DevicePaperWidth;
-    row.width = std::clamp(row.width, 1, MostPaperWidth);
-    lastWidth = row.width;
-    return row;
+    wanted = wanted && take({kind, mark, std::move(text), width, note, requestLine});
 }
 
 } // namespace

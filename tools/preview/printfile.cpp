@@ -10,7 +10,7 @@
 #include <array>
 #include <cwchar>
 #include <locale.h>
-#include <optional>
+#include <utility>
 
 namespace preview {
 
@@ -20,23 +20,50 @@ namespace {
 
 constexpr bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
-/// The columns that a UTF-8 terminal gives a character, whatever the process's own locale is.
-int terminalColumns(char32_t c)
+/// Adds one text at the left and one at the right, on two lines where they do not fit on one.
+void addLine(std::vector<Cells> &lines, CellsView left, const Cells &right, int width)
 {
-    static const locale_t utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    if (!utf8)
-        return 1;
-    const locale_t present = uselocale(utf8);
-    const int columns = wcwidth(wchar_t(c));
-    uselocale(present);
-    return columns;
+    const size_t room = size_t(width);
+    if (left.size() + 1 + right.size() > room)
+        lines.emplace_back(std::exchange(left, {}));
+    const size_t blanks = room - std::min(room, left.size() + right.size());
+    lines.push_back(Cells(left).append(blanks, U' ') + right);
 }
 
-/// `"name"quantity*priceHdepartmentR`, and after it an adjustment, as `-1,50*5M` or `2*1M`.
-struct FiscalItem
+/// Reads `"name"quantity*priceHdepartmentR`, and after it an adjustment, as `-1,50*5M` or `2*1M`.
+/// The name may hold quotes of its own: it ends at the last one.
+FiscalReceipt itemOf(CellsView command, int width)
 {
-    CellsView name, quantity, price, department, adjustment;
-};
+    const size_t quote = command.rfind(U'"');
+    if (!command.starts_with(U'"') || quote == 0)
+        return {};
+    const CellsView name = command.substr(1, quote - 1);
+    CellsView rest = command.substr(quote + 1);
+    std::array<CellsView, 3> parts;
+    for (size_t i = 0; i < parts.size(); ++i) {
+        const size_t mark = rest.find(U"*HR"[i]);
+        if (mark == CellsView::npos)
+            return {};
+        parts[i] = rest.substr(0, mark);
+        rest.remove_prefix(mark + 1);
+    }
+    if (!rest.empty() && !rest.ends_with(U"*1M") && !rest.ends_with(U"*5M"))
+        return {};
+    const auto &[quantity, price, department] = parts;
+    FiscalReceipt receipt;
+    addLine(receipt.lines, name,
+            Cells(quantity).append(U" x ").append(price).append(U" dep. ").append(department),
+            width);
+    if (rest.size() > 3)
+        addLine(receipt.lines, U"  Adjustment", Cells(rest.substr(0, rest.size() - 3)), width);
+    if (name.find(U'"') != CellsView::npos)
+        receipt.fault = u"a double quote ends the name early"_s;
+    else if (!tools::isFiscalNumber(quantity, U'.') || !tools::isFiscalNumber(price, U','))
+        receipt.fault = u"quantity and price take digits and at most one point"_s;
+    else if (!tools::isFiscalNumber(department))
+        receipt.fault = u"the department is no number"_s;
+    return receipt;
+}
 
 /// A discount or payment: what stands before and after its value, and its title on the receipt.
 struct FiscalValue
@@ -52,67 +79,6 @@ constexpr std::array<FiscalValue, 5> values = {{
     {U"", U"H5T", U"Ticket", U""},
 }};
 
-/// Cuts `text` at the first `mark`: answers what stands before it and leaves what follows.
-std::optional<CellsView> upTo(char32_t mark, CellsView &text)
-{
-    const size_t at = text.find(mark);
-    if (at == CellsView::npos)
-        return std::nullopt;
-    const CellsView before = text.substr(0, at);
-    text.remove_prefix(at + 1);
-    return before;
-}
-
-/// The name may hold quotes of its own: it ends at the last one.
-std::optional<FiscalItem> fiscalItem(CellsView line)
-{
-    const size_t quote = line.rfind(U'"');
-    if (!line.starts_with(U'"') || quote == 0)
-        return std::nullopt;
-    CellsView rest = line.substr(quote + 1);
-    const auto quantity = upTo(U'*', rest);
-    const auto price = quantity ? upTo(U'H', rest) : std::nullopt;
-    const auto department = price ? upTo(U'R', rest) : std::nullopt;
-    if (!department || !(rest.empty() || rest.ends_with(U"*1M") || rest.ends_with(U"*5M")))
-        return std::nullopt;
-    return FiscalItem{line.substr(1, quote - 1), *quantity, *price, *department,
-                      rest.substr(0, rest.size() - std::min<size_t>(rest.size(), 3))};
-}
-
-const FiscalValue *fiscalValue(CellsView line)
-{
-    const auto *const found = std::ranges::find_if(values, [line](const FiscalValue &value) {
-        return line.size() > value.before.size() + value.after.size()
-               && line.starts_with(value.before) && line.ends_with(value.after)
-               && line.find_first_not_of(U"0123456789,.+-eE", value.before.size())
-                      == line.size() - value.after.size();
-    });
-    return found == values.end() ? nullptr : found;
-}
-
-QString faultOf(const FiscalItem &item)
-{
-    if (item.name.find(U'"') != CellsView::npos)
-        return u"a double quote ends the name early"_s;
-    if (!tools::isFiscalNumber(item.quantity, U'.') || !tools::isFiscalNumber(item.price, U','))
-        return u"quantity and price take digits and at most one point"_s;
-    if (!tools::isFiscalNumber(item.department))
-        return u"the department is no number"_s;
-    return {};
-}
-
-/// One text at the left and one at the right, on two lines where they do not fit on one.
-void addRow(std::vector<Cells> &lines, CellsView left, CellsView right, int width)
-{
-    const size_t room = size_t(std::max(width, 0));
-    const bool fits = left.size() + 1 + right.size() <= room;
-    if (!fits)
-        lines.emplace_back(left);
-    Cells line(fits ? left : CellsView());
-    const size_t blanks = room - std::min(room, line.size() + right.size());
-    lines.push_back(line.append(blanks, U' ').append(right));
-}
-
 LineKind kindOf(CellsView line)
 {
     constexpr size_t FrameSize = 3;
@@ -126,7 +92,7 @@ LineKind kindOf(CellsView line)
         return LineKind::FiscalEnd;
     if (line.size() >= FrameSize && line.starts_with(U'"') && line.ends_with(U"\"@"))
         return LineKind::Printed;
-    return fiscalItem(line) || fiscalValue(line) ? LineKind::Fiscal : LineKind::Unframed;
+    return fiscalReceipt(line, 0).lines.empty() ? LineKind::Unframed : LineKind::Fiscal;
 }
 
 /// Adds the character that `bytes` begin with, or their first byte where none does; answers its
@@ -201,8 +167,15 @@ bool fillsOneColumn(char32_t c)
     if (c >= 0x20 && c < 0x7F)
         return true;
     const QChar::Direction direction = QChar::direction(c);
-    return drawable(c) == c && direction != QChar::DirR && direction != QChar::DirAL
-           && direction != QChar::DirAN && terminalColumns(c) == 1;
+    if (drawable(c) != c || direction == QChar::DirR || direction == QChar::DirAL
+        || direction == QChar::DirAN)
+        return false;
+    // As a terminal of UTF-8 has it, whatever the process's own locale is.
+    static const locale_t utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    const locale_t present = uselocale(utf8);
+    const int columns = wcwidth(wchar_t(c));
+    uselocale(present);
+    return columns == 1;
 }
 
 QString numberOf(char32_t c)
@@ -240,18 +213,15 @@ PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec)
 
 FiscalReceipt fiscalReceipt(CellsView command, int width)
 {
-    FiscalReceipt receipt;
-    if (const auto item = fiscalItem(command)) {
-        Cells amounts(item->quantity);
-        amounts.append(U" x ").append(item->price).append(U" dep. ").append(item->department);
-        addRow(receipt.lines, item->name, amounts, width);
-        if (!item->adjustment.empty())
-            addRow(receipt.lines, U"  Adjustment", item->adjustment, width);
-        receipt.fault = faultOf(*item);
-    } else if (const FiscalValue *const value = fiscalValue(command)) {
-        command.remove_prefix(value->before.size());
-        command.remove_suffix(value->after.size());
-        addRow(receipt.lines, value->title, Cells(command).append(value->unit), width);
+    FiscalReceipt receipt = itemOf(command, width);
+    for (const auto &[before, after, title, unit] : values) {
+        if (command.size() <= before.size() + after.size() || !command.starts_with(before)
+            || !command.ends_with(after))
+            continue;
+        const CellsView value =
+            command.substr(before.size(), command.size() - before.size() - after.size());
+        if (value.find_first_not_of(U"0123456789,.+-eE") == CellsView::npos)
+            addLine(receipt.lines, title, Cells(value).append(unit), width);
     }
     return receipt;
 }
