@@ -442,7 +442,12 @@ TEST(EditorWindow, SpeaksEveryLanguageWithKeysOfItsOwn)
         const bool isForeign = texts.load(u":/i18n/window_"_s + QLatin1StringView(language));
         EXPECT_EQ(isForeign, QLatin1StringView(language) != "en"_L1);
         QCoreApplication::installTranslator(&texts);
+        QLocale::setDefault(QLocale(QLatin1StringView(language)));
         const ConfigEditor editor;
+        bool namesDocuments = false;
+        for (const QComboBox *const box : editor.findChildren<QComboBox *>())
+            namesDocuments |= box->findText(u"The items sold in a period"_s) >= 0;
+        EXPECT_EQ(namesDocuments, !isForeign) << language;
         QStringList shortcuts;
         for (const QAction *const action : editor.findChildren<QAction *>())
             shortcuts.append(action->shortcut().toString());

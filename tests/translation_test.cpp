@@ -59,10 +59,8 @@ void expectComplete(const QString &kind, const QStringList &sources, qsizetype l
 
 TEST(Translation, IsCompleteInEveryLanguage)
 {
-    expectComplete(u"zentaro"_s, {u"render"_s, u"util"_s}, 40);
-    expectComplete(u"window"_s,
-                   {u"tools/window"_s, u"tools/check/elementtable.cpp"_s, u"render/settings.h"_s},
-                   100);
+    expectComplete(u"zentaro"_s, {u"render"_s, u"util"_s, u"tools/check/elementtable.cpp"_s}, 50);
+    expectComplete(u"window"_s, {u"tools/window"_s, u"render/settings.h"_s}, 90);
 }
 
 /// The characters that each label has, where it stands in more than one column in the narrowest, on
@@ -97,7 +95,6 @@ QHash<QString, int> roomOn(const QString &configuration)
         {u"TAX"_s, 10},
         {u"AMOUNT"_s, 10},
         {u"SERIAL"_s, 9},
-        {u"Insert a new sheet"_s, INT_MAX}, // is not printed
     };
     for (const auto title :
          {"CUSTOMER"_L1, "SUMMARIES"_L1, "PREFISCAL SUMMARY"_L1, "RECEIPTS SUMMARY"_L1,
@@ -115,7 +112,8 @@ TEST(Translation, FitsItsColumnOnEveryPaper)
     for (const QString &paper : {u"samples/zentaro-32.conf"_s, u"samples/zentaro-40.conf"_s}) {
         const QHash<QString, int> room = roomOn(paper);
         for (const QString &name : catalogues(u"zentaro"_s)) {
-            const QByteArray catalogue = support::readFile(root.filePath(u"i18n/"_s + name));
+            QByteArray catalogue = support::readFile(root.filePath(u"i18n/"_s + name));
+            catalogue.remove(0, catalogue.indexOf("<name>PrinterDriver<")); // which are printed
             QStringList labels;
             for (const auto &match : message.globalMatch(QString::fromUtf8(catalogue))) {
                 const QString comment = match.captured(2);

@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QXmlStreamReader>
@@ -137,14 +138,17 @@ PaperPane::PaperPane(ConfigTree &tree)
     chooseDocument();
 }
 
-/// The samples, in the order of the methods.
+/// The samples, in the order of the methods. What they are is translated beside the labels, whose
+/// catalogue is not installed here: it would reach the paper.
 void PaperPane::addSamples()
 {
+    QTranslator translated;
+    (void)translated.load(QLocale(), u"zentaro"_s, u"_"_s, u":/i18n"_s);
     for (size_t i = 0; i < documentMethods.size(); ++i) {
         const QLatin1StringView method = documentMethods[i].name;
-        const char *const summary = requestcheck::summaryOf(qsizetype(i)).data();
-        documents->addItem(QCoreApplication::translate("Document", summary),
-                           SamplesFolder + method + ".xml"_L1);
+        const QString summary = requestcheck::summaryOf(qsizetype(i));
+        const QString text = translated.translate("Document", summary.toLatin1().data());
+        documents->addItem(text.isEmpty() ? summary : text, SamplesFolder + method + ".xml"_L1);
         documents->setItemData(int(i), QString(method), Qt::ToolTipRole);
     }
     documents->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
