@@ -23,7 +23,6 @@
 #include <fcntl.h>
 #include <sys/ioctl.h>
 #include <sys/mman.h>
-#include <sys/sendfile.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -191,8 +190,9 @@ public:
     /// Writes what is on its way to the print file.
     void end()
     {
-        stream->flush();
-        if (stream->status() != QTextStream::Ok)
+        if (stream)
+            stream->flush();
+        if (!stream || stream->status() != QTextStream::Ok)
             refusal = "its print file cannot be written: "_L1 + file->errorString();
     }
 
@@ -231,14 +231,19 @@ bool send(int descriptor, int copies)
 {
     // What a pipe holds is printed even when the job is cancelled: no more than a page of memory.
     fcntl(STDOUT_FILENO, F_SETPIPE_SZ, 4'096);
-    const off_t size = lseek(descriptor, 0, SEEK_END);
-    for (int i = 0; i < copies; ++i) {
-        for (off_t at = 0; at < size;) {
-            if (sendfile(STDOUT_FILENO, descriptor, &at, size_t(size - at)) <= 0)
+    QFile file;
+    file.open(descriptor, QIODevice::ReadOnly);
+    const qint64 size = file.size();
+    const uchar *const bytes = file.map(0, size);
+    for (int i = 0; bytes && i < copies; ++i) {
+        for (qint64 at = 0; at < size;) {
+            const ssize_t taken = write(STDOUT_FILENO, bytes + at, size_t(size - at));
+            if (taken <= 0)
                 return false;
+            at += taken;
         }
     }
-    return true;
+    return bytes != nullptr;
 }
 
 /// Shows in the state of the printer whether its last request was faulty.
@@ -267,8 +272,10 @@ int printJob(int argc, char **argv)
     if (isFaulty)
         tell("ERROR", "Printed as far as the request goes: "_L1 + outcome.fault);
     const int copies = qMax(1, atoi(argv[4]));
-    if (!send(descriptor, copies))
-        return EXIT_FAILURE; // of which the scheduler knows
+    if (!send(descriptor, copies)) {
+        tell("ERROR", "The printer takes no more: "_L1 + qt_error_string());
+        return EXIT_FAILURE;
+    }
     std::fprintf(stderr, "PAGE: 1 %d\n", copies);
     return EXIT_SUCCESS;
 }

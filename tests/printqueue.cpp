@@ -17,10 +17,7 @@ namespace support {
 
 using namespace std::chrono_literals;
 
-Printer::Printer()
-{
-    open();
-}
+Printer::Printer() { open(); }
 
 Printer::~Printer()
 {
@@ -49,10 +46,7 @@ void Printer::open()
     port = ntohs(address.sin_port);
 }
 
-QString Printer::uri() const
-{
-    return u"socket://127.0.0.1:%1"_s.arg(port);
-}
+QString Printer::uri() const { return u"socket://127.0.0.1:%1"_s.arg(port); }
 
 void Printer::switchOn()
 {
