@@ -4,32 +4,21 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace libconfig {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The white space of ISO 8859-1; the toolkit's own trimming would also take other characters.
-bool isSpace(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r') || c == '\xA0';
-}
-
-/// A name or a value as it is kept: up to the first NUL, without the white space at its ends.
 std::string_view trimmed(std::string_view text)
 {
+    // Of ISO 8859-1; the toolkit's own trimming would also take other characters.
+    const auto isSpace = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r') || c == '\xA0'; };
     text = text.substr(0, text.find('\0'));
-    while (!text.empty() && isSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
+    const auto begin = std::find_if_not(text.begin(), text.end(), isSpace);
+    return {begin, std::find_if_not(text.rbegin(), std::reverse_iterator(begin), isSpace).base()};
 }
-
-} // namespace
 
 QByteArray limitedContent(QIODevice &file)
 {
@@ -39,11 +28,6 @@ QByteArray limitedContent(QIODevice &file)
          !piece.isEmpty() && content.size() <= CfgScanner::MaxBytes; piece = file.read(PieceBytes))
         content += piece;
     return content;
-}
-
-CfgScanner::CfgScanner(std::string_view text)
-    : text(text.substr(0, size_t(MaxBytes)))
-{
 }
 
 CfgScanner::Statement CfgScanner::next()
@@ -67,31 +51,6 @@ CfgScanner::Statement CfgScanner::next()
                          : Statement::GroupEnd;
 }
 
-std::string_view CfgScanner::trimmedName() const
-{
-    return trimmed(nameText);
-}
-
-std::string_view CfgScanner::trimmedValue() const
-{
-    return trimmed(valueText);
-}
-
-QString CfgScanner::name() const
-{
-    return latin1(trimmedName());
-}
-
-QString CfgScanner::value() const
-{
-    return withoutQuotes(trimmedValue());
-}
-
-QString CfgScanner::withoutQuotes(std::string_view value)
-{
-    return QString(latin1(value)).remove(u'"');
-}
-
 CfgContent::CfgContent(QByteArray content)
     : text(std::move(content))
 {
@@ -105,10 +64,8 @@ CfgContent::CfgContent(QByteArray content)
             entries.pop_back();
         open.pop_back();
     };
-    while (!open.empty()) {
-        const Statement read = scanner.next();
-        if (read == Statement::EndOfFile)
-            break;
+    Statement read{};
+    while (!open.empty() && (read = scanner.next()) != Statement::EndOfFile) {
         if (read == Statement::GroupEnd) {
             closeGroup();
             continue;
@@ -116,11 +73,11 @@ CfgContent::CfgContent(QByteArray content)
         entries[open.back()].hasMember = true; // also where the nested group turns out empty
         const bool isGroup = read == Statement::GroupBegin;
         const auto index = quint32(entries.size());
-        entries.push_back({scanner.trimmedName(), {}, index + 1, isGroup, false});
+        entries.push_back({trimmed(scanner.rawName()),
+                           isGroup ? std::string_view() : trimmed(scanner.rawValue()), index + 1,
+                           quint32(open.size() - 1), isGroup, false});
         if (isGroup)
             open.push_back(index);
-        else
-            entries.back().value = scanner.trimmedValue();
     }
     length = scanner.end();
     closed = open.empty();
@@ -130,35 +87,29 @@ CfgContent::CfgContent(QByteArray content)
 
 QString CfgContent::lookup(const KeyPath &path) const
 {
-    quint32 i = 1;
+    size_t i = 1;
     while (i < entries.size() && !entries[i].isGroup)
         ++i;
-    const quint32 end = i < entries.size() ? entries[i].end : i;
-    QVarLengthArray<quint32, 8> ends; // of the groups that the path has led into
+    const size_t end = i < entries.size() ? entries[i].end : i;
     while (i < end) {
-        while (!ends.isEmpty() && ends.back() == i)
-            ends.pop_back();
         const Entry &entry = entries[i];
-        const bool isNamed = entry.isGroup && latin1(entry.name) == path.groups[ends.size()];
-        if (isNamed && ends.size() + 1 < path.groups.size()) {
-            ends.append(entry.end);
+        const bool isNamed = entry.isGroup && latin1(entry.name) == path.groups[entry.depth];
+        if (isNamed && entry.depth + 1 < path.groups.size()) {
             ++i;
             continue;
         }
-        if (isNamed) {
-            if (QString value = valueIn(i, path.setting); !value.isEmpty())
-                return value;
-        }
+        if (QString value = isNamed ? valueIn(i, path.setting) : QString(); !value.isEmpty())
+            return value;
         i = entry.end;
     }
     return u""_s;
 }
 
 /// The value of a group's own setting; of two of one name the later counts.
-QString CfgContent::valueIn(quint32 group, QStringView setting) const
+QString CfgContent::valueIn(size_t group, QStringView setting) const
 {
-    quint32 found = group; // which has no value
-    for (quint32 i = group + 1; i < entries[group].end; i = entries[i].end) {
+    size_t found = group; // which has no value
+    for (size_t i = group + 1; i < entries[group].end; i = entries[i].end) {
         if (!entries[i].isGroup && latin1(entries[i].name) == setting)
             found = i;
     }

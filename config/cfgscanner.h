@@ -18,6 +18,9 @@ inline QLatin1StringView latin1(std::string_view bytes)
     return {bytes.data(), qsizetype(bytes.size())};
 }
 
+/// A name or a value as it is kept: up to the first NUL, without the white space at its ends.
+std::string_view trimmed(std::string_view text);
+
 /// The grammar of the "cfg" form: takes a text apart, statement by statement. The store's reader
 /// stands on it, and so does whoever tells a person where a file goes wrong.
 ///
@@ -38,25 +41,27 @@ public:
     };
 
     /// The text is borrowed. What is behind its first MaxBytes is not read.
-    explicit CfgScanner(std::string_view text);
+    explicit CfgScanner(std::string_view text)
+        : text(text.substr(0, size_t(MaxBytes)))
+    {
+    }
 
     /// Goes on to the end of the next statement.
     Statement next();
 
     // Of the statement that next() answered last.
 
-    /// The name of a group or a setting: up to its first NUL, without white space at its ends.
-    QString name() const;
-    /// The value of a setting, the same way and without its double quotes, wherever they stand.
-    QString value() const;
-    /// Their bytes; those of a value still with its quotes.
-    std::string_view trimmedName() const;
-    std::string_view trimmedValue() const;
-    /// What is kept of the bytes of a value: all but the double quotes.
-    static QString withoutQuotes(std::string_view value);
     /// The bytes before the structural character, and those between it and what ends the statement.
     std::string_view rawName() const { return nameText; }
     std::string_view rawValue() const { return valueText; }
+    /// The name of a group or a setting, and the value of a setting, as they are kept.
+    QString name() const { return latin1(trimmed(nameText)); }
+    QString value() const { return withoutQuotes(trimmed(valueText)); }
+    /// What is kept of the bytes of a value: all but the double quotes, wherever they stand.
+    static QString withoutQuotes(std::string_view value)
+    {
+        return QString(latin1(value)).remove(u'"');
+    }
 
     // Where it stands, in bytes from the text's first.
 
@@ -125,18 +130,20 @@ public:
     template <typename BeginGroup, typename Setting, typename EndGroup>
     void visit(BeginGroup beginGroup, Setting setting, EndGroup endGroup) const
     {
-        std::vector<quint32> ends; // of the groups that are open
-        for (quint32 i = 1; i < entries.size(); ++i) {
+        quint32 open = 0; // groups
+        for (size_t i = 1; i < entries.size(); ++i) {
             const Entry &entry = entries[i];
+            for (; open > entry.depth; --open)
+                endGroup();
             if (entry.isGroup) {
                 beginGroup(QString(latin1(entry.name)));
-                ends.push_back(entry.end);
+                ++open;
             } else {
                 setting(QString(latin1(entry.name)), CfgScanner::withoutQuotes(entry.value));
             }
-            for (; !ends.empty() && ends.back() == i + 1; ends.pop_back())
-                endGroup();
         }
+        for (; open > 0; --open)
+            endGroup();
     }
 
 private:
@@ -145,11 +152,12 @@ private:
         std::string_view name;  // in `text`
         std::string_view value; // of a setting, with its quotes
         quint32 end = 0;        // the index behind it and all that it holds
+        quint32 depth = 0;      // the groups around it
         bool isGroup = false;
         bool hasMember = false;
     };
 
-    QString valueIn(quint32 group, QStringView setting) const;
+    QString valueIn(size_t group, QStringView setting) const;
 
     QByteArray text;                                    // ISO 8859-1
     std::vector<Entry> entries = std::vector<Entry>(1); // the body itself first

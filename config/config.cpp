@@ -18,8 +18,6 @@ Config::Config() = default;
 
 Config::~Config() = default;
 
-bool Config::openFile() { return openFile(fileName); }
-
 bool Config::openFile(QString const &name)
 {
     stream = std::make_unique<std::ifstream>(QFile::encodeName(name).constData(),
@@ -33,8 +31,6 @@ bool Config::openFile(QString const &name)
     tellUnreadable(name);
     return false;
 }
-
-void Config::closeFile() { stream.reset(); }
 
 bool Config::jump(char c)
 {

@@ -44,7 +44,11 @@ public:
     /// An object without a document: every lookup answers empty text.
     Config();
     /// As `readFile(fileName, fileType)` on an empty object.
-    Config(QString const &fileName, QString const &fileType);
+    Config(QString const &fileName, QString const &fileType)
+        : Config()
+    {
+        constructor(fileName, fileType);
+    }
     Config(const Config &) = delete;
     Config &operator=(const Config &) = delete;
     ~Config();
@@ -52,7 +56,10 @@ public:
     /// Forgets the present tree and reads the file. Any format word but "cfg" and "xml" loads
     /// nothing. A "cfg" file that cannot be read is told on standard output; nothing else is ever
     /// reported, and what cannot be read leaves an empty tree.
-    void readFile(QString const &fileName, QString const &fileType);
+    void readFile(QString const &fileName, QString const &fileType)
+    {
+        constructor(fileName, fileType);
+    }
     /// The same with the content of the file at hand.
     void readContent(const QByteArray &content, QString const &fileName, QString const &fileType);
     /// What readFile does.
@@ -61,9 +68,9 @@ public:
     /// Opens `stream` on `fileName`, or on `name`; whatever it was used for before is forgotten. A
     /// file that cannot be read (a folder cannot) is told in one line on standard output and
     /// answers false.
-    bool openFile();
+    bool openFile() { return openFile(fileName); }
     bool openFile(QString const &name);
-    void closeFile();
+    void closeFile() { stream.reset(); }
 
     /// Reads the whole "cfg" file `fileName`, which joins what was read before. The stream is open
     /// then where a `}` at the top level ended the reading, behind its `;`.
@@ -127,7 +134,7 @@ public:
     /// those of the nested groups. Without a tree it has no items.
     QTreeWidget *buildConfigListView();
     /// As buildConfigListView().
-    QTreeWidget *newConfigListView();
+    QTreeWidget *newConfigListView() { return buildConfigListView(); }
     /// Adds the items of `node` and everything below it to the view, or to an item.
     void buildConfigListView(QDomNode node, QTreeWidget *view);
     void buildConfigListView(QDomNode node, QTreeWidgetItem *item);
@@ -154,17 +161,11 @@ public:
 protected:
     /// A pointer to the tree, which the files that were read join when it is first used. From then
     /// on lookups walk the tree.
-    class Document
+    struct Document
     {
-    public:
-        explicit Document(Config &config)
-            : owner(config)
-        {
-        }
-        operator QDomDocument *() const { return owner.takenDocument(); }
-        QDomDocument *operator->() const { return owner.takenDocument(); }
+        operator QDomDocument *() const;
+        QDomDocument *operator->() const { return *this; }
 
-    private:
         Config &owner;
     };
 
@@ -182,9 +183,8 @@ private:
     void loadXml(const QByteArray &content);
     const ConfigTree &grownTree() const;
     ConfigTree &takenTree();
-    QDomDocument *takenDocument();
-    void newDocument();
-    bool replaceFile(QString path, const char *operation, const QString &format) const;
+    ConfigTree &newTree();
+    bool save(const QString &name, const QString &format, const char *operation) const;
 
     /// What lookups are answered from, until someone takes the tree.
     std::vector<CfgContent> files;
@@ -193,5 +193,12 @@ private:
     mutable QMutex growing;
     mutable std::unique_ptr<Tree> tree; ///< a ConfigTree
 };
+
+/// Writes a file anew, all at once; answers what hindered it, in the system's words, or empty text.
+/// One that exists is replaced as a whole where the new one can have its owner, group, mode and
+/// links, so that a process that dies leaves no half of it. Otherwise it is written where it
+/// stands, after its room is made sure of: one of another owner or with several names, one in a
+/// folder that takes no new file, a device or a pipe.
+QString replaceFile(const QString &path, const QByteArray &content);
 
 } // namespace libconfig

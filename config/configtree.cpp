@@ -82,11 +82,6 @@ ConfigTree::~ConfigTree()
     }
 }
 
-void ConfigTree::append(const CfgContent &file, const QString &name)
-{
-    append(file, name, document);
-}
-
 /// Elements join the tree when they are complete: the toolkit walks up to the root of the tree for
 /// every node that joins it.
 void ConfigTree::append(const CfgContent &body, const QString &name, QDomNode &parent)
@@ -113,12 +108,12 @@ QDomElement ConfigTree::newElement(QDomDocument &document, const QString &name)
 void ConfigTree::set(QDomElement &element, const QString &name, const QString &value)
 {
     element.setAttribute(name, value);
-    note(element, name);
+    note(element, {name});
 }
 
-void ConfigTree::note(const QDomElement &element, const QString &name)
+void ConfigTree::note(const QDomElement &element, const QStringList &attributes)
 {
-    names[identity(element)].append(name);
+    names[identity(element)] += attributes;
 }
 
 std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &element) const
@@ -136,11 +131,6 @@ std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &e
             result.push_back({name, present.namedItem(name).nodeValue()});
     }
     return result;
-}
-
-QString ConfigTree::lookup(const KeyPath &path) const
-{
-    return lookup(document.firstChildElement().firstChild(), path);
 }
 
 QString ConfigTree::lookup(const QDomNode &node, const KeyPath &path)
@@ -180,35 +170,24 @@ ConfigTree &Config::takenTree()
 {
     grownTree();
     files.clear();
-    if (!tree)
-        tree = std::make_unique<ConfigTree>();
-    return static_cast<ConfigTree &>(*tree);
+    return tree ? static_cast<ConfigTree &>(*tree) : newTree();
 }
 
-QDomDocument *Config::takenDocument()
-{
-    return files.empty() && !tree ? nullptr : &takenTree().document;
-}
-
-void Config::newDocument()
+ConfigTree &Config::newTree()
 {
     files.clear();
     tree = std::make_unique<ConfigTree>();
+    return static_cast<ConfigTree &>(*tree);
+}
+
+Config::Document::operator QDomDocument *() const
+{
+    return owner.files.empty() && !owner.tree ? nullptr : &owner.takenTree().document;
 }
 
 QString Config::lookup(QDomNode node, QString const &key) const
 {
     return ConfigTree::lookup(node, KeyPath(key));
-}
-
-Config::Config(QString const &fileName, QString const &fileType)
-{
-    constructor(fileName, fileType);
-}
-
-void Config::readFile(QString const &fileName, QString const &fileType)
-{
-    constructor(fileName, fileType);
 }
 
 void Config::constructor(QString const &name, QString const &type)
@@ -231,12 +210,11 @@ void Config::readContent(const QByteArray &content, QString const &name, QString
 
 void Config::startAnew(QString const &name, QString const &type)
 {
+    newTree();
+    if (type == "cfg"_L1)
+        tree.reset(); // until it is wanted
     fileName = name;
     fileType = type;
-    files.clear();
-    tree.reset();
-    if (fileType != "cfg"_L1)
-        newDocument();
 }
 
 void Config::loadFile(QString const &name, QDomNode parent)
@@ -260,31 +238,26 @@ void Config::loadXmlFile()
 
 void Config::loadXml(const QByteArray &content)
 {
+    ConfigTree &loaded = newTree();
     const auto names =
         content.size() <= CfgScanner::MaxBytes ? attributeNames(content) : std::nullopt;
-    newDocument();
     QDomDocument read;
     if (!names || !read.setContent(content, false))
         return; // without what was read before a fault
     // The root element moves under a file element, the shape of a "cfg" tree. A declaration or a
     // comment before it stays where it is.
-    ConfigTree &loaded = takenTree();
     loaded.document = read;
     QDomElement file = ConfigTree::newElement(read, fileName);
     file.appendChild(read.documentElement());
     read.appendChild(file);
     // The elements of the tree stand in the order of their start tags.
     auto next = names->begin();
-    walkElements(
-        file.firstChild(),
-        [&](const QDomElement &element) {
-            if (next == names->end())
-                return Walk::End;
-            for (const QString &name : *next++)
-                loaded.note(element, name);
-            return Walk::Into;
-        },
-        [](const QDomElement &) {});
+    walkElements(file.firstChild(), [&](const QDomElement &element) {
+        if (next == names->end())
+            return Walk::End;
+        loaded.note(element, *next++);
+        return Walk::Into;
+    });
 }
 
 } // namespace libconfig

@@ -18,8 +18,8 @@ enum class Walk { Into, Over, End };
 /// Visits `node` and the elements below it in document order: `enter(element)` tells how to go on,
 /// and `leave(element)` follows the walk into it. Nodes that are not elements are passed over. No
 /// recursion: groups nest to any depth.
-template <typename Enter, typename Leave>
-void walkElements(QDomNode node, Enter enter, Leave leave)
+template <typename Enter, typename Leave = decltype([](const QDomElement &) {})>
+void walkElements(QDomNode node, Enter enter, Leave leave = {})
 {
     const QDomNode first = node;
     while (node.isElement()) {
@@ -56,24 +56,30 @@ public:
     ConfigTree &operator=(const ConfigTree &) = delete;
     ~ConfigTree() override;
 
-    QString lookup(const KeyPath &path) const override;
-    void append(const CfgContent &file, const QString &name) override;
+    QString lookup(const KeyPath &path) const override
+    {
+        return lookup(document.firstChildElement().firstChild(), path);
+    }
+    void append(const CfgContent &file, const QString &name) override
+    {
+        append(file, name, document);
+    }
 
+    /// The setting of a key whose first field is the tag name of `node`, as Config::lookup.
+    static QString lookup(const QDomNode &node, const KeyPath &path);
     /// Adds a group element to `parent`, if the body of the group has a member.
     void append(const CfgContent &body, const QString &name, QDomNode &parent);
     /// Sets an attribute, which came after those that the element has. One that is set twice keeps
     /// its first place.
     void set(QDomElement &element, const QString &name, const QString &value);
     /// Notes the order alone.
-    void note(const QDomElement &element, const QString &name);
+    void note(const QDomElement &element, const QStringList &attributes);
     /// The attributes of `element` in their order; those never noted follow by name.
     std::vector<Attribute> attributesOf(const QDomElement &element) const;
 
     /// An element of any name: the toolkit creates none without a name, but holds one. A new
     /// document comes to life with its first element, and is a null node before.
     static QDomElement newElement(QDomDocument &document, const QString &name);
-    /// The setting of a key whose first field is the tag name of `node`, as Config::lookup.
-    static QString lookup(const QDomNode &node, const KeyPath &path);
 
     QDomDocument document;
 

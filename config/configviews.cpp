@@ -71,16 +71,12 @@ bool isGroupItem(const QTreeWidgetItem &item)
     return item.childCount() > 0 || !item.text(0).contains(u'=');
 }
 
-QString settingText(const QString &key, const QString &value)
-{
-    return key + " = "_L1 + value;
-}
+QString settingText(const QString &key, const QString &value) { return key + " = "_L1 + value; }
 
 std::pair<QString, QString> settingOf(const QString &text)
 {
-    const qsizetype equals = text.indexOf(u'=');
-    QString key = equals < 0 ? text : text.first(equals);
-    QString value = equals < 0 ? QString() : text.sliced(equals + 1);
+    QString key = text.section(u'=', 0, 0);
+    QString value = text.section(u'=', 1);
     while (key.startsWith(u' '))
         key.remove(0, 1);
     while (key.endsWith(u' '))
@@ -90,19 +86,11 @@ std::pair<QString, QString> settingOf(const QString &text)
     return {key, value};
 }
 
-QTreeWidgetItem *newGroupItem(const QString &name)
-{
-    return newItem(GroupItem, name);
-}
+QTreeWidgetItem *newGroupItem(const QString &name) { return newItem(GroupItem, name); }
 
 QTreeWidgetItem *newSettingItem(const QString &key, const QString &value)
 {
     return newItem(SettingItem, settingText(key, value));
-}
-
-QTreeWidget *Config::newConfigListView()
-{
-    return buildConfigListView();
 }
 
 QTreeWidget *Config::buildConfigListView()
@@ -154,7 +142,7 @@ bool Config::loadListView(QTreeWidget *view)
 {
     if (!view)
         return false;
-    newDocument();
+    newTree();
     for (int i = 0; i < view->topLevelItemCount(); ++i)
         loadListView(view->topLevelItem(i), document);
     if (fileType == "cfg"_L1)

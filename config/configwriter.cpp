@@ -3,15 +3,21 @@
 
 #include "config/cfgscanner.h"
 #include "config/configtree.h"
-#include "config/newfile.h"
+#include "text/filename.h"
+#include "text/localeencoding.h"
 #include "text/standardoutput.h"
 
 #include <QBuffer>
 #include <QFile>
+#include <QSaveFile>
 #include <QTextStream>
 
+#include <cerrno>
 #include <cstdio>
-#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace libconfig {
 
@@ -31,11 +37,11 @@ protected:
     }
 };
 
-void writeCfgSettings(const std::vector<ConfigTree::Attribute> &settings,
-                      const QString &indentation, QTextStream &ts)
+void writeSettings(const std::vector<ConfigTree::Attribute> &settings, const QString &before,
+                   QLatin1StringView after, QTextStream &ts)
 {
     for (const auto &[name, value] : settings)
-        ts << indentation << name << " = \"" << value << "\";\n";
+        ts << before << name << " = \"" << value << after;
 }
 
 void printText(const QString &text)
@@ -45,32 +51,71 @@ void printText(const QString &text)
     std::fflush(stdout);
 }
 
+/// Gives a new file what a present one has of owner, group and mode; false where it may not.
+bool takeAfter(int descriptor, const struct stat &present)
+{
+    struct stat own = {};
+    if (fstat(descriptor, &own) != 0)
+        return false;
+    const bool isAlike = own.st_uid == present.st_uid && own.st_gid == present.st_gid;
+    return (isAlike || fchown(descriptor, present.st_uid, present.st_gid) == 0)
+           && fchmod(descriptor, present.st_mode & 07777) == 0;
+}
+
+/// Writes a file that is there where it stands, after its room is made sure of; what hinders it.
+QString writeInPlace(const QByteArray &name, const QByteArray &content)
+{
+    const int descriptor = open(name.constData(), O_WRONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return text::systemMessage(errno);
+    QFile file;
+    file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered,
+              QFileDevice::AutoCloseHandle);
+    struct stat now = {};
+    const bool isFile = fstat(descriptor, &now) == 0 && S_ISREG(now.st_mode);
+    if (const int reason = isFile && now.st_size < content.size()
+                               ? posix_fallocate(descriptor, 0, content.size())
+                               : 0) {
+        file.resize(now.st_size); // part of the room may have been found
+        return text::systemMessage(reason);
+    }
+    if (file.write(content) != content.size() || (isFile && !file.resize(content.size())))
+        return file.errorString();
+    return isFile && fsync(descriptor) != 0 ? text::systemMessage(errno) : QString();
+}
+
 } // namespace
 
-bool Config::buildConfigFile(QString name)
+QString replaceFile(const QString &path, const QByteArray &content)
 {
-    return replaceFile(std::move(name), "buildConfigFile", u"cfg"_s);
+    const QByteArray name = QFile::encodeName(path);
+    struct stat now = {};
+    const bool exists = stat(name.constData(), &now) == 0;
+    if (!exists || (S_ISREG(now.st_mode) && now.st_nlink == 1)) {
+        QSaveFile file(path);
+        if (!name.isEmpty() && file.open(QIODevice::WriteOnly)
+            && (!exists || takeAfter(file.handle(), now)) && file.write(content) == content.size()
+            && file.commit())
+            return {};
+        if (!exists)
+            return name.isEmpty() ? text::systemMessage(ENOENT) : file.errorString();
+    }
+    return writeInPlace(name, content); // also one that is mounted alone, which cannot be replaced
 }
 
-bool Config::buildConfigXmlFile(QString name)
-{
-    return replaceFile(std::move(name), "buildConfigXmlFile", u"xml"_s);
-}
+bool Config::buildConfigFile(QString name) { return save(name, u"cfg"_s, "buildConfigFile"); }
 
-bool Config::replaceFile(QString path, const char *operation, const QString &format) const
+bool Config::buildConfigXmlFile(QString name) { return save(name, u"xml"_s, "buildConfigXmlFile"); }
+
+bool Config::save(const QString &name, const QString &format, const char *operation) const
 {
-    if (path.isEmpty())
-        path = fileName;
-    const auto fails = [&](const char *fault) {
-        text::printLine(QByteArray("Error in the method Config::") + operation + "( "
-                        + QFile::encodeName(path) + " ): " + fault);
-        return false;
-    };
-    NewFile file(path);
-    if (!file.open())
-        return fails("Unable To Open File");
+    const QString &path = name.isEmpty() ? fileName : name;
     const std::optional<QByteArray> content = writtenAs(format);
-    return (content && file.write(*content)) || fails("Unable To Write File");
+    const QString fault = content ? replaceFile(path, *content) : text::systemMessage(EFBIG);
+    if (!fault.isEmpty())
+        text::printLine(QByteArray("Error in the method Config::") + operation + "( "
+                        + text::bytesOfName(path) + " ): " + text::toLocale(fault));
+    return fault.isEmpty();
 }
 
 std::optional<QByteArray> Config::writtenAs(const QString &format) const
@@ -83,7 +128,7 @@ std::optional<QByteArray> Config::writtenAs(const QString &format) const
     const ConfigTree &tree = grownTree();
     const QDomElement file = tree.document.firstChildElement();
     // Also before XML, which it is not; a tree read from an XML file has none.
-    writeCfgSettings(tree.attributesOf(file), {}, ts);
+    writeSettings(tree.attributesOf(file), {}, "\";\n"_L1, ts);
     if (isXml)
         buildConfigXmlFile(file.firstChildElement(), ts);
     else
@@ -102,7 +147,7 @@ void Config::buildConfigFile(QDomNode node, QTextStream &ts) const
             // The blank after the colon and the empty line after a group belong to the form.
             ts << indentation << group.tagName() << ": \n" << indentation << "{\n";
             indentation.resize(indentation.size() + Indent, u' ');
-            writeCfgSettings(tree.attributesOf(group), indentation, ts);
+            writeSettings(tree.attributesOf(group), indentation, "\";\n"_L1, ts);
             return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
         },
         [&](const QDomElement &) {
@@ -114,20 +159,19 @@ void Config::buildConfigFile(QDomNode node, QTextStream &ts) const
 void Config::buildConfigXmlFile(QDomNode node, QTextStream &ts) const
 {
     const ConfigTree &tree = grownTree();
-    QString indentation;
+    QString indentation = u"\n"_s; // each of its lines follows a line end
     walkElements(
         node,
         [&](const QDomElement &group) {
-            ts << '\n' << indentation << '<' << group.tagName();
+            ts << indentation << '<' << group.tagName();
             indentation.resize(indentation.size() + Indent, u' ');
-            for (const auto &[name, value] : tree.attributesOf(group))
-                ts << '\n' << indentation << name << " = \"" << value << '"';
+            writeSettings(tree.attributesOf(group), indentation, "\""_L1, ts);
             ts << ">\n";
             return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
         },
         [&](const QDomElement &group) {
             indentation.chop(Indent);
-            ts << indentation << "</" << group.tagName() << ">\n";
+            ts << QStringView(indentation).sliced(1) << "</" << group.tagName() << ">\n";
         });
 }
 
@@ -147,8 +191,7 @@ void Config::forEachSetting(
             return Walk::Into;
         },
         [&](const QDomElement &group) {
-            if (group != file)
-                prefix.chop(group.tagName().size() + 1);
+            prefix.chop(group.tagName().size() + 1); // of the file's own there is none
         });
 }
 
@@ -161,15 +204,12 @@ QString Config::configTreeText(QDomNode node) const
 {
     const ConfigTree &tree = grownTree();
     QString text;
-    walkElements(
-        node,
-        [&](const QDomElement &group) {
-            text += group.tagName() + u'\n';
-            for (const auto &[name, value] : tree.attributesOf(group))
-                text += name + " = "_L1 + value + u'\n';
-            return Walk::Into;
-        },
-        [](const QDomElement &) {});
+    walkElements(node, [&](const QDomElement &group) {
+        text += group.tagName() + u'\n';
+        for (const auto &[name, value] : tree.attributesOf(group))
+            text += name + " = "_L1 + value + u'\n';
+        return Walk::Into;
+    });
     return text;
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "config/newfile.h"
 #include "tests/configfiles.h"
 
 #include <csignal>
@@ -49,7 +48,7 @@ TEST(ConfigWriter, NeedsAName)
     testing::internal::CaptureStdout();
     EXPECT_FALSE(Config().buildConfigFile({}));
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "Error in the method Config::buildConfigFile(  ): Unable To Open File\n");
+              "Error in the method Config::buildConfigFile(  ): No such file or directory\n");
 }
 
 class NewFile : public testing::Test
@@ -69,8 +68,7 @@ protected:
     }
     bool write(const QByteArray &content) const
     {
-        libconfig::NewFile file(path);
-        return file.open() && file.write(content);
+        return libconfig::replaceFile(path, content).isEmpty();
     }
 
     static constexpr uid_t Other = 1;

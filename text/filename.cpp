@@ -19,10 +19,7 @@ namespace {
 constexpr mode_t NewFileMode = 0666;
 constexpr QLatin1StringView DescriptorFolder = "/dev/fd/"_L1;
 
-QString nameOfDescriptor(int descriptor)
-{
-    return DescriptorFolder + QString::number(descriptor);
-}
+QString nameOfDescriptor(int descriptor) { return DescriptorFolder + QString::number(descriptor); }
 
 /// The name that opens the file, or none for one whose bytes the toolkit cannot say and that is not
 /// there. The descriptor is of the place alone: the file is opened once, by whoever asked for its

@@ -23,10 +23,7 @@ QString nameInFolder(const QByteArray &bytes);
 QByteArray bytesOfName(const QString &name);
 
 /// The bytes that a setting has in the configuration file: each is one ISO 8859-1 character.
-inline QByteArray bytesOf(const QString &setting)
-{
-    return setting.toLatin1();
-}
+inline QByteArray bytesOf(const QString &setting) { return setting.toLatin1(); }
 
 /// The user's home folder: `HOME`, or the user database's where that is not set; "/" without both.
 QByteArray homeFolder();

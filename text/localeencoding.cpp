@@ -22,28 +22,18 @@ bool asksForUtf8()
     return false;
 }
 
-/// The codeset name of the locale that the environment asks for; empty when it is not installed.
-/// A locale object of its own: the process's locale is the toolkit's, which makes it UTF-8.
-QByteArray environmentCodeset()
-{
-    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
-    if (!locale)
-        return {};
-    QByteArray codeset(nl_langinfo_l(CODESET, locale));
-    freelocale(locale);
-    return codeset;
-}
-
 QTextCodec *codecOfEnvironment()
 {
-    constexpr int Utf8Mib = 106;
     if (asksForUtf8())
         return nullptr;
-    const QByteArray codeset = environmentCodeset();
-    const bool plainAscii = codeset == "ANSI_X3.4-1968"; // the "C" locale
-    if (codeset.isEmpty() || plainAscii || codeset.compare("UTF-8", Qt::CaseInsensitive) == 0)
-        return nullptr;
-    QTextCodec *const codec = QTextCodec::codecForName(codeset);
+    // A locale object of its own: the process's locale is the toolkit's, which makes it UTF-8.
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+    const QByteArray codeset(locale ? nl_langinfo_l(CODESET, locale) : "UTF-8");
+    if (locale)
+        freelocale(locale);
+    constexpr int Utf8Mib = 106;
+    const bool isPlainAscii = codeset == "ANSI_X3.4-1968"; // the "C" locale
+    QTextCodec *const codec = isPlainAscii ? nullptr : QTextCodec::codecForName(codeset);
     return codec && codec->mibEnum() != Utf8Mib ? codec : nullptr;
 }
 
@@ -64,79 +54,41 @@ QString systemMessage(int error)
     return localeCodec() ? localeCodec()->toUnicode(message) : QString::fromUtf8(message);
 }
 
-QByteArray toLocale(QStringView text)
-{
-    return encoded(text, localeCodec());
-}
-
-QByteArray encoded(QStringView text, QTextCodec *codec)
-{
-    return Encoder(codec).encode(text);
-}
-
-Encoder::Encoder(QTextCodec *codec)
-    : codec(codec)
-{
-}
-
 QByteArray Encoder::encode(QStringView text)
 {
     if (!codec)
         return text.toUtf8();
+    // The toolkit's codecs write a `?` for each half of a surrogate pair that they lack, and drop
+    // invisible characters without a trace.
+    QString encodable;
+    encodable.reserve(text.size());
+    for (const char32_t character : text.toUcs4()) {
+        if (isKnown(character))
+            encodable += QChar::fromUcs4(character);
+        else
+            encodable += u'?';
+    }
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString encodable = withoutUnknown(text);
     return codec->fromUnicode(encodable.constData(), int(encodable.size()), &state);
 }
 
-/// The text with a `?` for each character that the codec lacks. The toolkit's codecs write one for
-/// each half of a surrogate pair, and drop invisible characters without a trace.
-QString Encoder::withoutUnknown(QStringView text)
+bool Encoder::isKnown(char32_t character)
 {
-    QString result;
-    result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool pair =
-            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-        const QStringView character = text.sliced(i, pair ? 2 : 1);
-        i += pair ? 1 : 0;
-        if (isKnown(character))
-            result += character;
-        else
-            result += u'?';
-    }
-    return result;
-}
-
-bool Encoder::isKnown(QStringView character)
-{
-    const QChar first = character.front();
-    if (first.unicode() < 0x80)
+    if (character < 0x80)
         return true;
-    const char32_t code = character.size() == 1 ? char32_t(first.unicode())
-                                                : QChar::surrogateToUcs4(first, character.back());
-    const auto seen = known.constFind(code);
-    if (seen != known.cend())
+    if (const auto seen = known.constFind(character); seen != known.cend())
         return *seen;
-    const bool has = codec->canEncode(character) && !codec->fromUnicode(character).isEmpty();
-    known.insert(code, has);
-    return has;
-}
-
-LocaleFile::LocaleFile(const QString &name, QTextCodec *codec)
-    : QFile(name)
-    , isUtf8(codec == nullptr)
-    , decoder(QStringDecoder::Utf8,
-              QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom)
-    , encoder(codec)
-{
+    const auto text = QChar::fromUcs4(character);
+    return *known.insert(character, codec->canEncode(text) && !codec->fromUnicode(text).isEmpty());
 }
 
 qint64 LocaleFile::writeData(const char *data, qint64 length)
 {
-    if (isUtf8)
-        return writeWhole({data, length}) ? length : -1;
-    const QString text = decoder(QByteArrayView(data, length));
-    return writeWhole(encoder.encode(text)) ? length : -1;
+    const bool isWritten =
+        encoder.isUtf8()
+            ? writeWhole({data, length})
+            : writeWhole(encoder.encode(QString(decoder(QByteArrayView(data, length)))));
+    return isWritten ? length : -1;
 }
 
 /// A disk that fills up takes a part; only the write after it tells the reason.

@@ -23,28 +23,32 @@ QTextCodec *localeCodec();
 /// process is in.
 QString systemMessage(int error);
 
-/// `text` in the encoding of the user's locale. A character that the encoding lacks becomes one
-/// `?`, also where the character is a surrogate pair.
-QByteArray toLocale(QStringView text);
-
-/// As toLocale(text), with `codec` in place of the locale's; null means UTF-8.
-QByteArray encoded(QStringView text, QTextCodec *codec);
-
-/// The same for one text after the other: remembers which characters the codec has, which takes it
-/// a microsecond to tell of each.
+/// Encodes one text after the other with `codec`; null means UTF-8. A character that the codec
+/// lacks becomes one `?`, also where it is a surrogate pair. Which characters it has is remembered:
+/// it takes a microsecond to tell of each.
 class Encoder
 {
 public:
-    explicit Encoder(QTextCodec *codec);
+    explicit Encoder(QTextCodec *codec)
+        : codec(codec)
+    {
+    }
     QByteArray encode(QStringView text);
+    bool isUtf8() const { return !codec; }
 
 private:
-    QString withoutUnknown(QStringView text);
-    bool isKnown(QStringView character);
+    bool isKnown(char32_t character);
 
     QTextCodec *const codec;
     QHash<char32_t, bool> known;
 };
+
+/// One text, with `codec` or in the encoding of the user's locale.
+inline QByteArray encoded(QStringView text, QTextCodec *codec)
+{
+    return Encoder(codec).encode(text);
+}
+inline QByteArray toLocale(QStringView text) { return encoded(text, localeCodec()); }
 
 /// A file that is written through a QTextStream and holds its text in the encoding of `codec`, that
 /// of the user's locale unless given; null means UTF-8. It may be opened by its name, or on an open
@@ -54,7 +58,11 @@ private:
 class LocaleFile : public QFile
 {
 public:
-    explicit LocaleFile(const QString &name = {}, QTextCodec *codec = localeCodec());
+    explicit LocaleFile(const QString &name = {}, QTextCodec *codec = localeCodec())
+        : QFile(name)
+        , encoder(codec)
+    {
+    }
     /// From now on, what leads the bytes written beyond `bytes` fails as it does on a full disk.
     void limitTo(qint64 bytes) { room = bytes; }
     void close() override;
@@ -66,8 +74,8 @@ private:
     bool writeWhole(QByteArrayView bytes);
 
     qint64 room = std::numeric_limits<qint64>::max(); // bytes that may still be written
-    const bool isUtf8;                                // bytes pass as they are
-    QStringDecoder decoder;
+    QStringDecoder decoder{QStringDecoder::Utf8, QStringDecoder::Flag::Stateless
+                                                     | QStringDecoder::Flag::ConvertInitialBom};
     Encoder encoder;
 };
 

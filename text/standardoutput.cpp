@@ -22,25 +22,16 @@ constinit LineSink::Take sink = nullptr; // standard output
 
 } // namespace
 
-void printLine(QByteArrayView line)
-{
-    sink ? sink(line) : writeLine(line, stdout);
-}
+void printLine(QByteArrayView line) { sink ? sink(line) : writeLine(line, stdout); }
 
 LineSink::LineSink(Take take)
     : before(std::exchange(sink, take))
 {
 }
 
-LineSink::~LineSink()
-{
-    sink = before;
-}
+LineSink::~LineSink() { sink = before; }
 
-void LineSink::toErrors(QByteArrayView line)
-{
-    writeLine(line, stderr);
-}
+void LineSink::toErrors(QByteArrayView line) { writeLine(line, stderr); }
 
 void reserveStandardStreams()
 {

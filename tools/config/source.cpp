@@ -2,7 +2,7 @@
 #include "tools/config/source.h"
 
 #include "app/ztconfiguration.h"
-#include "config/newfile.h"
+#include "config/config.h"
 
 #include <QFile>
 
@@ -67,14 +67,9 @@ bool isMissing(const QString &path)
 
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
 {
-    constexpr qint64 Portion = 65'536; // bytes read at once
     QFile file(source.path);
-    QByteArray content;
-    if (file.open(QIODevice::ReadOnly)) {
-        for (QByteArray read = file.read(Portion);
-             !read.isEmpty() && content.size() <= MaxContentBytes; read = file.read(Portion))
-            content += read;
-    }
+    const QByteArray content =
+        file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
     if (isMissing(source.path))
         tools::tellTrouble(call, source.path,
                            file.errorString() + "; `zentaro config init` writes one"_L1);
@@ -89,10 +84,8 @@ std::optional<QByteArray> contentOf(const tools::Call &call, const Source &sourc
 
 int writeContent(const tools::Call &call, const QString &path, const QByteArray &content)
 {
-    libconfig::NewFile file(path);
-    if (file.open() && file.write(content))
-        return tools::Fine;
-    return tools::tellTrouble(call, path, file.errorString());
+    const QString fault = libconfig::replaceFile(path, content);
+    return fault.isEmpty() ? int(tools::Fine) : tools::tellTrouble(call, path, fault);
 }
 
 } // namespace configtool
