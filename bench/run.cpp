@@ -33,6 +33,11 @@ public:
         row(what, text, spread.median / base, goal);
     }
 
+    void count(const char *what, double value, double goal)
+    {
+        row(what, QByteArray::number(value, 'f', 0), value, goal);
+    }
+
     void row(const char *what, const QByteArray &text, double value, double goal)
     {
         row(what, text, value, goal, value <= goal);
@@ -61,12 +66,9 @@ QByteArray contentOf(const QByteArray &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray megabytes(double kib)
-{
-    return QByteArray::number(kib / 1024, 'f', 2) + " MiB";
-}
+QByteArray megabytes(double kib) { return QByteArray::number(kib / 1024, 'f', 2) + " MiB"; }
 
-QJsonObject commandsAsJson(std::initializer_list<const Command *> commands)
+QJsonObject commandsAsJson(const std::vector<Command *> &commands)
 {
     QJsonObject all;
     for (const Command *command : commands) {
@@ -91,57 +93,105 @@ void writeSmallInputs(const QString &folder)
     inputs::writeReceipt(folder + u"/10k.xml"_s, 100);
 }
 
+const QByteArray bin = ZENTARO_BIN_DIR "/";
+const QByteArray source = ZENTARO_SOURCE_DIR "/";
+
+/// What is run, with its files in the folder `in`.
+struct Commands
+{
+    explicit Commands(const QByteArray &in)
+        : in(in)
+    {
+        // The script makes the locale where the system has none.
+        QList<QByteArray> italian{"LC_ALL=it_IT.UTF-8"};
+        if (qEnvironmentVariableIsSet("BENCH_LOCPATH"))
+            italian += "LOCPATH=" + qgetenv("BENCH_LOCPATH");
+        coreItalian.variables = ticketItalian.variables = italian;
+    }
+
+    const QByteArray in;
+    const QByteArray out = in + "out";
+    const QByteArray sample = source + "samples/printFullOrderReceipt.xml";
+    const QByteArray printer = bin + "zentaro-print";
+    const QByteArray companion = bin + "zentaro";
+
+    Command copy{"copy, static", {bin + "bench-copy", in + "3k.xml", out}};
+    Command core{"empty, Core", {bin + "bench-empty-core"}};
+    Command coreItalian{"empty, Core, it_IT", {bin + "bench-empty-core"}};
+    Command all{"empty, all libraries", {bin + "bench-empty-all"}};
+    Command ticket{"3 KB ticket", {printer, in + "3k.xml", out}};
+    Command ticketItalian{"3 KB ticket, it_IT", {printer, in + "3k.xml", out}};
+    Command longTicket{"10 KB ticket", {printer, in + "10k.xml", out}};
+    Command sold{"2,000 items", {printer, in + "sold.xml", in + "sold.out"}};
+    Command xslt{
+        "2,000 items, xsltproc",
+        {"/usr/bin/xsltproc", "-o", in + "sold.xslt", source + "bench/sold.xsl", in + "sold.xml"}};
+    Command get{"config get", {companion, "config", "get", "zentaro.doc.paperWidth"}};
+    Command check{"check", {companion, "check", sample}};
+    Command preview{"preview", {companion, "preview", sample}};
+    Command large{"40 MB request", {printer, in + "40m.xml", out}};
+    Command reader{"40 MB, reader alone", {bin + "bench-reader", in + "40m.xml"}};
+    Command png{"PNG of 900 lines", {companion, "preview", "-o", in + "900.png", in + "900.xml"}};
+
+    const std::vector<Command *> small{&copy,   &core,          &coreItalian, &all,
+                                       &ticket, &ticketItalian, &longTicket,  &sold,
+                                       &xslt,   &get,           &check,       &preview};
+    const std::vector<Command *> slow{&large, &reader, &png};
+};
+
+/// The rows of what was measured, beside the goals.
+QJsonArray goals(const Commands &run)
+{
+    Table table;
+    table.ratio("3 KB ticket / empty, all libraries", run.ticket, run.all, 1.08);
+    table.ratio("3 KB ticket / empty, Core", run.ticket, run.core, 1.12);
+    table.ratio("10 KB ticket / empty, Core", run.longTicket, run.core, 1.16);
+    table.ratio("3 KB ticket, it_IT / empty, Core, it_IT", run.ticketItalian, run.coreItalian,
+                1.15);
+    table.ratio("40 MB request / reader alone", run.large, run.reader, 0.97);
+    table.ratio("2,000 items / xsltproc", run.sold, run.xslt, 0.70);
+    table.ratio("config get / empty, Core", run.get, run.core, 1.20);
+    table.ratio("check of a sample / empty, Core", run.check, run.core, 1.40);
+    table.ratio("preview of a sample / empty, Core", run.preview, run.core, 1.70);
+    table.ratio("PNG of 900 lines / empty, Core", run.png, run.core, 50);
+    const double grown = double(run.large.peakKiB - run.ticket.peakKiB);
+    const double peak = double(qMax(run.large.peakKiB, run.ticket.peakKiB));
+    table.row("peak memory, MiB", megabytes(peak), peak / 1024, 9.5);
+    table.row("40 MB over 3 KB, MiB", megabytes(grown), grown / 1024, 1);
+    const double drawn = double(run.png.peakKiB);
+    table.row("PNG of 900 lines, MiB", megabytes(drawn), drawn / 1024, 48);
+    table.count("system calls of the 3 KB ticket", measure::systemCalls(run.ticket), 235);
+    table.count(
+        "pages of the 3 KB ticket beyond empty, Core",
+        measure::spreadOf(run.ticket.pages).median - measure::spreadOf(run.core.pages).median, 30);
+    const QList<QByteArray> libraries = measure::neededToolkitLibraries(run.printer);
+    table.row("needed toolkit libraries", libraries.join(' '), double(libraries.size()), 2,
+              libraries == QList<QByteArray>{"Core", "Core5Compat"});
+    return table.json();
+}
+
 /// Runs everything in `folder` and writes the figures to `jsonName`.
 void measureAll(const QString &folder, const QString &jsonName, int smallRounds, int largeRounds)
 {
-    const QByteArray in = folder.toLocal8Bit() + '/';
-    const QByteArray bin = ZENTARO_BIN_DIR "/";
-    const QByteArray out = in + "out";
-    const QByteArray printer = bin + "zentaro-print";
     writeSmallInputs(folder);
     inputs::writeReceipt(folder + u"/40m.xml"_s, 380'000);
     inputs::writeSoldList(folder + u"/sold.xml"_s, 2'000);
+    inputs::writeSoldList(folder + u"/900.xml"_s, 896); // with the marks of the section
     qputenv("HOME", folder.toLocal8Bit());
     qputenv("LC_ALL", "C.UTF-8");
 
-    Command copy{"copy, static", {bin + "bench-copy", in + "3k.xml", out}, {}, 0};
-    Command core{"empty, Core", {bin + "bench-empty-core"}, {}, 0};
-    Command all{"empty, all libraries", {bin + "bench-empty-all"}, {}, 0};
-    Command ticket{"3 KB ticket", {printer, in + "3k.xml", out}, {}, 0};
-    Command longTicket{"10 KB ticket", {printer, in + "10k.xml", out}, {}, 0};
-    Command sold{"2,000 items", {printer, in + "sold.xml", in + "sold.out"}, {}, 0};
-    Command xslt{"2,000 items, xsltproc",
-                 {"/usr/bin/xsltproc", "-o", in + "sold.xslt", ZENTARO_SOURCE_DIR "/bench/sold.xsl",
-                  in + "sold.xml"},
-                 {},
-                 0};
-    Command large{"40 MB request", {printer, in + "40m.xml", out}, {}, 0};
-    Command reader{"40 MB, reader alone", {bin + "bench-reader", in + "40m.xml"}, {}, 0};
-    measure::interleave({&copy, &core, &all, &ticket, &longTicket, &sold, &xslt}, smallRounds);
-    measure::interleave({&large, &reader}, largeRounds);
-    if (contentOf(in + "sold.out") != contentOf(in + "sold.xslt")) {
+    Commands run(folder.toLocal8Bit() + '/');
+    measure::interleave(run.small, smallRounds);
+    measure::interleave(run.slow, largeRounds);
+    if (contentOf(run.in + "sold.out") != contentOf(run.in + "sold.xslt")) {
         std::fprintf(stderr, "bench: the stylesheet prints other lines\n");
         std::exit(2);
     }
-
-    Table table;
-    table.ratio("3 KB ticket / empty, all libraries", ticket, all, 1.08);
-    table.ratio("3 KB ticket / empty, Core", ticket, core, 1.15);
-    table.ratio("10 KB ticket / empty, Core", longTicket, core, 1.22);
-    table.ratio("40 MB request / reader alone", large, reader, 1.00);
-    table.ratio("2,000 items / xsltproc", sold, xslt, 0.70);
-    const double grown = double(large.peakKiB - ticket.peakKiB);
-    const double peak = double(qMax(large.peakKiB, ticket.peakKiB));
-    table.row("peak memory, MiB", megabytes(peak), peak / 1024, 12);
-    table.row("40 MB over 3 KB, MiB", megabytes(grown), grown / 1024, 1);
-    const QList<QByteArray> libraries = measure::neededToolkitLibraries(printer);
-    table.row("needed toolkit libraries", libraries.join(' '), double(libraries.size()), 3,
-              libraries == QList<QByteArray>{"Core", "Core5Compat", "Xml"});
+    const QJsonArray rows = goals(run);
     std::printf("\n");
-    const QJsonObject report{
-        {u"goals"_s, table.json()},
-        {u"commands"_s, commandsAsJson({&copy, &core, &all, &ticket, &longTicket, &sold, &xslt,
-                                        &large, &reader})}};
+    std::vector<Command *> commands = run.small;
+    commands.insert(commands.end(), run.slow.begin(), run.slow.end());
+    const QJsonObject report{{u"goals"_s, rows}, {u"commands"_s, commandsAsJson(commands)}};
     QFile json(jsonName);
     inputs::openFor(json, QIODevice::WriteOnly);
     json.write(QJsonDocument(report).toJson());
