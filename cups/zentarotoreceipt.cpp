@@ -135,11 +135,7 @@ public:
         for (const QChar c : text) {
             lastLine = line;
             lastColumn = column;
-            column += utf8 ? sizeInUtf8(c) : 1;
-            if (c == u'\n') {
-                ++line;
-                column = 1;
-            }
+            requestreader::pass(line, column, c, utf8);
         }
     }
     void stopped(requestreader::Stop why, const QString &word) override
@@ -148,23 +144,17 @@ public:
         fault = limit.isEmpty() ? word : limit;
     }
 
-    /// The last character that was read; columns count bytes in UTF-8, else characters.
+    /// The last character that was read.
     QString place() const { return u"line %1, column %2"_s.arg(lastLine).arg(lastColumn); }
     bool isAtStart() const { return lastLine == 0; }
 
     QString fault; ///< empty when the request was read to its end
 
 private:
-    /// Each half of a surrogate pair has half of its four bytes.
-    static int sizeInUtf8(QChar c)
-    {
-        return c.unicode() < 0x80 ? 1 : c.unicode() < 0x800 || c.isSurrogate() ? 2 : 3;
-    }
-
-    int line = 1;
-    int column = 1;
-    int lastLine = 0;
-    int lastColumn = 0;
+    qint64 line = 1;
+    qint64 column = 1;
+    qint64 lastLine = 0;
+    qint64 lastColumn = 0;
 };
 
 /// The printer, which learns what is not printed and why.

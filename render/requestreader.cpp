@@ -137,6 +137,21 @@ QString exceededLimit(Stop why)
     return {};
 }
 
+void pass(qint64 &line, qint64 &column, QChar c, bool utf8)
+{
+    const char16_t code = c.unicode();
+    if (code == u'\n') {
+        ++line;
+        column = 1;
+    } else if (!utf8) {
+        column += c.isLowSurrogate() ? 0 : 1;
+    } else if (code < 0x80 || code == QChar::ReplacementCharacter) {
+        ++column; // the replacement character stands for one byte that could not be read
+    } else {
+        column += code < 0x800 || c.isSurrogate() ? 2 : 3; // half of four for half of a pair
+    }
+}
+
 bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer)
 {
     RequestSource source(request, observer);

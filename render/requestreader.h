@@ -45,6 +45,10 @@ enum class Stop {
 /// What a request exceeds, for a person; empty for a reason that is no limit.
 QString exceededLimit(Stop why);
 
+/// Moves a place of the request, which begins at line 1 and column 1, behind a character. Columns
+/// count bytes where the request is in UTF-8, otherwise characters.
+void pass(qint64 &line, qint64 &column, QChar c, bool utf8);
+
 /// Follows a reading through the text of the request, of which nothing is kept.
 class Observer
 {

@@ -9,16 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The bytes that a character has in UTF-8; half of four for each half of a surrogate pair. The
-/// replacement character stands for one byte that could not be read.
-int utf8Size(QChar c)
-{
-    const char16_t code = c.unicode();
-    if (code < 0x80 || code == QChar::ReplacementCharacter)
-        return 1;
-    return code < 0x800 || c.isSurrogate() ? 2 : 3;
-}
-
 bool isBlank(QChar c) { return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r'; }
 
 } // namespace
@@ -33,10 +23,7 @@ void TagPlaces::taken(QStringView text, bool utf8)
         two[0] = std::exchange(two[1], c);
         step(c);
         lastPlace = here;
-        if (c == u'\n')
-            here = {here.line + 1, 1};
-        else
-            here.column += utf8 ? utf8Size(c) : (c.isLowSurrogate() ? 0 : 1);
+        requestreader::pass(here.line, here.column, c, utf8);
     }
 }
 
