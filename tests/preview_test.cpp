@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support.h"
-#include "tools/preview/difference.h"
 #include "tools/preview/document.h"
+#include "tools/preview/terminaldrawing.h"
 
 #include <QDir>
 #include <QRegularExpression>

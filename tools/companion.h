@@ -20,8 +20,8 @@ struct Desktop
 {
     /// The window in which a configuration is edited; answers an exit status.
     int (*edit)(const Call &call, const configtool::Source &source);
-    /// An application object that draws without a display.
-    std::unique_ptr<QCoreApplication> (*pictureApplication)(int &argc, char **argv);
+    /// An application object that draws without a display, and minds no words but the program's.
+    std::unique_ptr<QCoreApplication> (*pictureApplication)(char **argv);
     /// Writes the file, which is replaced when the new one is complete. Answers why it could not be
     /// written, and an empty text when it was.
     QString (*writePicture)(const std::vector<preview::Sheet> &sheets,

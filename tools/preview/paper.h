@@ -85,6 +85,9 @@ constexpr int DevicePaperWidth = 32;
 /// The most characters in a line of a paper that is drawn; a wider one is drawn so.
 constexpr int MostPaperWidth = 500;
 
+/// The most rows of a document that are compared, or drawn in a picture.
+constexpr size_t MostRows = 4'000;
+
 /// Draws a document row by row, until `take` answers false. The paper is `columns` cells wide;
 /// where that is 0, as the origins say; without them as wide as the first rule of `=` in the file,
 /// else as its longest line, at least the device's.
@@ -92,5 +95,19 @@ void drawRows(const Document &document, int columns, const std::function<bool(Ro
 
 /// The first rows of a document, `most` of them.
 std::vector<Row> rowsOf(const Document &document, int columns, size_t most);
+
+/// A row that both of two sheets have, or one of them: its place in each, -1 where it has none.
+struct RowPair
+{
+    qsizetype before = -1;
+    qsizetype after = -1;
+};
+
+/// The rows of two sheets in order, at most MostRows of each, with as many in both as there can be;
+/// what differs between those is first all that goes, then all that comes.
+std::vector<RowPair> comparedRows(const std::vector<Row> &before, const std::vector<Row> &after);
+
+/// Marks the rows that only one of the sheets has.
+void markChanges(Sheet &before, Sheet &after);
 
 } // namespace preview

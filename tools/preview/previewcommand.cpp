@@ -5,14 +5,15 @@
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
 #include "tools/companion.h"
-#include "tools/preview/difference.h"
 #include "tools/preview/document.h"
+#include "tools/preview/terminaldrawing.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
 #include <QFileInfo>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <array>
 #include <unistd.h>
 
@@ -59,12 +60,12 @@ void addOptions(tools::CommandLine &line)
 QString readNumber(const tools::CommandLine &line, const QString &option, int least, int most,
                    int &number)
 {
-    bool isNumber = true;
-    if (line.isSet(option))
-        number = line.value(option).toInt(&isNumber);
-    if (isNumber && (!line.isSet(option) || (number >= least && number <= most)))
+    if (!line.isSet(option))
         return {};
-    return u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most);
+    number = line.value(option).toInt(); // 0 for what is none
+    return number >= least && number <= most
+               ? QString()
+               : u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most);
 }
 
 /// Reads all options. Answers what is wrong with them, and an empty text when nothing is.
@@ -79,11 +80,14 @@ QString readOptions(const tools::CommandLine &line, Options &options)
         if (!options.codec)
             return "unknown encoding `"_L1 + line.value(u"encoding"_s) + u'`';
     }
+    options.picture.fileName = line.value(u"output"_s);
     if (line.isSet(u"against"_s) && options.other.isEmpty())
         return u"--against takes the name of a configuration"_s;
+    if (line.isSet(u"output"_s) && options.picture.fileName.isEmpty())
+        return u"--output takes the name of a picture"_s;
     if (options.annotate && !options.other.isEmpty())
         return u"--annotate and --against do not go together"_s;
-    options.picture.fileName = line.value(u"output"_s);
+    options.picture.inPairs = !options.other.isEmpty(); // before and after
     const QString width = line.value(u"width-mm"_s);
     if (line.isSet(u"width-mm"_s) && width != "58"_L1 && width != "80"_L1)
         return u"--width-mm is 58 or 80"_s;
@@ -93,234 +97,164 @@ QString readOptions(const tools::CommandLine &line, Options &options)
                              : mistake;
 }
 
-/// The print runs of a call: one with each configuration.
-class Runs
-{
-public:
-    Runs(const tools::Call &call, const Options &options)
-        : call(call)
-        , options(options)
-    {
-    }
-
-    /// The exit status so far.
-    int status = tools::Fine;
-
-    /// The document of a print file, or of a request with the first configuration, which is loaded
-    /// when the first request comes. What cannot be printed to its end, or prints nothing, is told.
-    /// Nothing for a configuration that cannot be read, which is told.
-    std::optional<Document> documentOf(const Input &input)
-    {
-        if (!input.isRequest)
-            return checked(input, {input.bytes, options.codec, {}, {}});
-        if (!std::exchange(configured, true) && !useFirst())
-            return std::nullopt;
-        const text::LineSink errors(text::LineSink::toErrors);
-        return checked(input, render(input.bytes, options.annotate));
-    }
-    /// From now on, requests are printed with the second configuration; false when it cannot be
-    /// read, which is told.
-    bool useSecond() { return configuration.use(call, options.other); }
-    QString nameOfFirst() const
-    {
-        return options.configuration.isEmpty() ? ZTConfiguration::userFile()
-                                               : options.configuration;
-    }
-
-private:
-    bool useFirst()
-    {
-        if (!configuration.use(call, options.configuration))
-            return false;
-        if (configuration.isMissing())
-            tools::tellTrouble(call, nameOfFirst(),
-                               u"no such file: every setting has its default; `zentaro config "
-                               "init` writes one"_s);
-        return true;
-    }
-
-    Document checked(const Input &input, Document document)
-    {
-        if (!document.fault.isEmpty()) {
-            tools::tellTrouble(call, input.name, document.fault);
-            status = tools::Findings;
-        }
-        if (document.printFile.isEmpty())
-            tools::tellTrouble(call, input.name, u"nothing is printed"_s);
-        return document;
-    }
-
-    const tools::Call &call;
-    const Options &options;
-    tools::ConfigurationInUse configuration;
-    bool configured = false; // print files need no configuration
-};
-
-int drawOnTerminal(const Document &document, const Options &options)
-{
-    constexpr qsizetype PieceSize = 65'536; // characters that are written at once
-    const TerminalDrawing drawing(
-        text::localeCodec(), document.origins.empty() ? 0 : document.origins.back().requestLine);
-    QString text;
-    int status = tools::Fine;
-    drawRows(document, options.columns, [&](const Row &row) {
-        text += drawing.drawn(row) + u'\n';
-        if (text.size() > PieceSize)
-            status = tools::printOut(std::exchange(text, {}));
-        return status == tools::Fine;
-    });
-    return status == tools::Fine ? tools::printOut(text) : status;
-}
-
-/// The rows that a picture may have, and one more where there are too many.
-std::vector<Row> rowsOf(const Document &document, const Options &options)
-{
-    return rowsOf(document, options.columns, MostRows + 1);
-}
-
-/// Draws the sheets into the file that the options name, unless there is none; Fine, or Trouble,
-/// which is told.
-int drawPicture(const tools::Call &call, const Options &options, const std::vector<Sheet> &sheets)
-{
-    if (options.picture.fileName.isEmpty() || sheets.empty())
-        return tools::Fine;
-    const auto isTooLong = [](const Sheet &sheet) { return sheet.rows.size() > MostRows; };
-    const QString fault =
-        std::ranges::any_of(sheets, isTooLong)
-            ? u"a document has more than %1 lines, the most of a picture"_s.arg(MostRows)
-            : call.desktop->writePicture(sheets, options.picture);
-    return fault.isEmpty() ? tools::Fine
-                           : tools::tellTrouble(call, options.picture.fileName, fault);
-}
-
-int previewAll(const tools::Call &call, const Options &options, const QStringList &names)
-{
-    Runs runs(call, options);
-    std::vector<Sheet> sheets;
-    for (const QString &name : names) {
-        const std::optional<Input> input = readInput(call, name);
-        if (!input)
-            return tools::Trouble;
-        if (!input->isRequest && options.annotate)
-            return tools::tellTrouble(call, name,
-                                      u"a print file does not tell the lines of its request"_s);
-        const std::optional<Document> document = runs.documentOf(*input);
-        if (!document)
-            return tools::Trouble;
-        if (!options.picture.fileName.isEmpty()) {
-            sheets.push_back({QFileInfo(name).fileName(), rowsOf(*document, options), {}});
-            continue;
-        }
-        if ((names.size() > 1 && tools::printOut(tools::inOneLine(name) + ":\n"_L1) != tools::Fine)
-            || drawOnTerminal(*document, options) != tools::Fine)
-            return tools::Trouble;
-    }
-    return drawPicture(call, options, sheets) == tools::Fine ? runs.status : tools::Trouble;
-}
-
 bool isColoured()
 {
     return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR")
            && qgetenv("TERM") != "dumb";
 }
 
-/// Reads all requests; nothing when one is none or cannot be read, which is told.
-std::optional<std::vector<Input>> readRequests(const tools::Call &call, const QStringList &names)
+/// One call of the command. What answers a bool or nothing has told why it is false or missing.
+class Preview
 {
-    std::vector<Input> requests;
+public:
+    Preview(const tools::Call &call, const Options &options, const QStringList &names)
+        : call(call)
+        , options(options)
+        , names(names)
+    {
+    }
+
+    bool draw();
+    int status = tools::Fine; ///< so far
+
+private:
+    std::optional<Document> documentOf(const Input &input);
+    bool useFirst();
+    bool show(const QString &name, const Document &document);
+    bool compare();
+    bool showChange(const QString &name, const Document &before, const Document &after);
+    std::vector<Row> rowsOf(const Document &document) const
+    {
+        return preview::rowsOf(document, options.columns, MostRows + 1); // one where too many
+    }
+    bool tell(const QString &name, const QString &trouble) const
+    {
+        return tools::tellTrouble(call, name, trouble) == tools::Fine;
+    }
+
+    const tools::Call &call;
+    const Options &options;
+    const QStringList &names;
+    tools::ConfigurationInUse configuration;
+    bool isConfigured = false;                        // print files need no configuration
+    std::vector<std::pair<Input, Document>> compared; // with the first configuration
+    std::vector<Sheet> sheets;                        // of a picture
+};
+
+bool Preview::draw()
+{
+    const bool compares = !options.other.isEmpty();
     for (const QString &name : names) {
         std::optional<Input> input = readInput(call, name);
         if (!input)
-            return std::nullopt;
-        if (!input->isRequest) {
-            tools::tellTrouble(call, name, u"not a print request, which --against renders anew"_s);
-            return std::nullopt;
-        }
-        requests.push_back(*std::move(input));
-    }
-    return requests;
-}
-
-/// Shows a document that changes, as text; adds both sheets for a picture.
-int showChange(const QString &name, const std::array<QString, 2> &configurations,
-               std::array<Sheet, 2> pair, std::vector<Sheet> &sheets)
-{
-    auto &[before, after] = pair;
-    const TerminalDrawing drawing(text::localeCodec(), 0);
-    QString text;
-    for (const size_t i : {0, 1}) {
-        text += (i == 0 ? "--- "_L1 : "+++ "_L1) + tools::inOneLine(name) + u'\t'
-                + tools::inOneLine(configurations[i]) + u'\n';
-        pair[i].title =
-            QFileInfo(name).fileName() + ", "_L1 + QFileInfo(configurations[i]).fileName();
-    }
-    text += unifiedDifference(before.rows, after.rows, drawing, isColoured());
-    if (std::max(before.rows.size(), after.rows.size()) > MostRows)
-        text += u"... only the first %1 lines are shown\n"_s.arg(MostRows);
-    markChanges(before, after);
-    sheets.insert(sheets.end(), {std::move(before), std::move(after)});
-    return tools::printOut(text);
-}
-
-/// Renders the requests under both configurations and shows those that change.
-int compareAll(const tools::Call &call, Options options, const QStringList &names)
-{
-    options.picture.inPairs = true; // before and after
-    const std::optional<std::vector<Input>> requests = readRequests(call, names);
-    if (!requests)
-        return tools::Trouble;
-    Runs runs(call, options);
-    std::vector<Document> documents;
-    for (const Input &request : *requests) {
-        std::optional<Document> document = runs.documentOf(request);
+            return false;
+        if (!input->isRequest && compares)
+            return tell(name, u"not a print request, which --against renders anew"_s);
+        if (!input->isRequest && options.annotate)
+            return tell(name, u"a print file does not tell the lines of its request"_s);
+        std::optional<Document> document = documentOf(*input);
         if (!document)
-            return tools::Trouble;
-        documents.push_back(*std::move(document));
+            return false;
+        if (compares)
+            compared.emplace_back(*std::move(input), *std::move(document));
+        else if (!show(name, *document))
+            return false;
     }
-    if (!runs.useSecond())
-        return tools::Trouble;
-    std::vector<Sheet> sheets;
+    if (compares && !compare())
+        return false;
+    if (options.picture.fileName.isEmpty() || sheets.empty())
+        return true;
+    const QString fault = call.desktop->writePicture(sheets, options.picture);
+    return fault.isEmpty() || tell(options.picture.fileName, fault);
+}
+
+/// The document of a print file, or of a request with the configuration that is in use, which is
+/// loaded when the first request comes. What cannot be printed to its end, or prints nothing, is
+/// told. Nothing for a configuration that cannot be read.
+std::optional<Document> Preview::documentOf(const Input &input)
+{
+    if (input.isRequest && !std::exchange(isConfigured, true) && !useFirst())
+        return std::nullopt;
+    const text::LineSink errors(text::LineSink::toErrors);
+    Document document = input.isRequest ? render(input.bytes, options.annotate)
+                                        : Document{input.bytes, options.codec, {}, {}};
+    if (!document.fault.isEmpty()) {
+        tell(input.name, document.fault);
+        status = tools::Findings;
+    }
+    if (document.printFile.isEmpty())
+        tell(input.name, u"nothing is printed"_s);
+    return document;
+}
+
+bool Preview::useFirst()
+{
+    if (!configuration.use(call, options.configuration))
+        return false;
+    if (configuration.isMissing())
+        tell(ZTConfiguration::userFile(),
+             u"no such file: every setting has its default; `zentaro config init` writes one"_s);
+    return true;
+}
+
+/// On the terminal, or as a sheet of the picture.
+bool Preview::show(const QString &name, const Document &document)
+{
+    constexpr qsizetype PieceSize = 65'536; // characters that are written at once
+    if (!options.picture.fileName.isEmpty()) {
+        sheets.push_back({QFileInfo(name).fileName(), rowsOf(document), {}});
+        return true;
+    }
+    QString text = names.size() > 1 ? tools::inOneLine(name) + ":\n"_L1 : QString();
+    const TerminalDrawing drawing(
+        text::localeCodec(), document.origins.empty() ? 0 : document.origins.back().requestLine);
+    bool isWritten = true;
+    drawRows(document, options.columns, [&](const Row &row) {
+        text += drawing.drawn(row) + u'\n';
+        if (text.size() > PieceSize)
+            isWritten = tools::printOut(std::exchange(text, {})) == tools::Fine;
+        return isWritten;
+    });
+    return isWritten && tools::printOut(text) == tools::Fine;
+}
+
+/// Renders the requests with the second configuration too, and shows those that change.
+bool Preview::compare()
+{
+    if (!configuration.use(call, options.other))
+        return false;
     int changes = 0;
-    for (size_t i = 0; i < documents.size(); ++i) {
-        const std::optional<Document> after = runs.documentOf((*requests)[i]);
-        if (!after)
-            return tools::Trouble;
-        if (after->printFile == documents[i].printFile)
+    for (const auto &[request, before] : compared) {
+        const Document after = documentOf(request).value();
+        if (after.printFile == before.printFile)
             continue;
         ++changes;
-        if (showChange(
-                (*requests)[i].name, {runs.nameOfFirst(), options.other},
-                {{{{}, rowsOf(documents[i], options), {}}, {{}, rowsOf(*after, options), {}}}},
-                sheets)
-            != tools::Fine)
-            return tools::Trouble;
+        status = tools::Findings;
+        if (!showChange(request.name, before, after))
+            return false;
     }
-    if (tools::printOut(u"%1 of %2 documents change\n"_s.arg(changes).arg(documents.size()))
-            != tools::Fine
-        || drawPicture(call, options, sheets) != tools::Fine)
-        return tools::Trouble;
-    return changes > 0 ? tools::Findings : runs.status;
+    return tools::printOut(u"%1 of %2 documents change\n"_s.arg(changes).arg(compared.size()))
+           == tools::Fine;
 }
 
-/// The toolkit's remarks about the machine are not the user's affair; why it gives up is, and then
-/// the process ends in the usual way.
-void tellWhenFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
+/// As text, and as two sheets of the picture.
+bool Preview::showChange(const QString &name, const Document &before, const Document &after)
 {
-    if (type != QtFatalMsg)
-        return;
-    tools::printError("zentaro preview: "_L1 + message + u'\n');
-    _exit(tools::Trouble);
-}
-
-/// An application object for the translation, and for pictures one that draws. It gets no words of
-/// the command line: they are this program's.
-std::unique_ptr<QCoreApplication> application(const tools::Call &call)
-{
-    static int count = 1;
-    qInstallMessageHandler(tellWhenFatal);
-    if (call.desktop)
-        return call.desktop->pictureApplication(count, call.argv);
-    return std::make_unique<QCoreApplication>(count, call.argv);
+    const QString title = QFileInfo(name).fileName() + ", "_L1;
+    const QString first =
+        options.configuration.isEmpty() ? ZTConfiguration::userFile() : options.configuration;
+    std::array<Sheet, 2> pair{{{title + QFileInfo(first).fileName(), rowsOf(before), {}},
+                               {title + QFileInfo(options.other).fileName(), rowsOf(after), {}}}};
+    QString text = "--- "_L1 + tools::inOneLine(name) + u'\t' + tools::inOneLine(first)
+                   + "\n+++ "_L1 + tools::inOneLine(name) + u'\t' + tools::inOneLine(options.other)
+                   + u'\n'
+                   + unifiedDifference(pair[0].rows, pair[1].rows,
+                                       TerminalDrawing(text::localeCodec(), 0), isColoured());
+    if (std::max(pair[0].rows.size(), pair[1].rows.size()) > MostRows)
+        text += u"... only the first %1 lines are shown\n"_s.arg(MostRows);
+    markChanges(pair[0], pair[1]);
+    std::ranges::move(pair, std::back_inserter(sheets));
+    return tools::printOut(text) == tools::Fine;
 }
 
 } // namespace
@@ -343,9 +277,12 @@ int run(const tools::Call &call)
         return tools::Trouble;
     if (!options.picture.fileName.isEmpty() && !call.desktop)
         return tools::startDesktop(call);
-    const auto theApplication = application(call);
-    return options.other.isEmpty() ? previewAll(call, options, names)
-                                   : compareAll(call, options, names);
+    // For the translation; for pictures one that draws.
+    const auto application = options.picture.fileName.isEmpty()
+                                 ? std::make_unique<QCoreApplication>(call.argc, call.argv)
+                                 : call.desktop->pictureApplication(call.argv);
+    Preview preview(call, options, names);
+    return preview.draw() ? preview.status : tools::Trouble;
 }
 
 } // namespace preview

@@ -4,19 +4,33 @@
 #include <QStringList>
 #include <QTextCodec>
 
+#include <algorithm>
+#include <array>
+#include <span>
+
 namespace preview {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype MarkWidth = 3; // the longest is `1T`
-
-QString withoutTrailingBlanks(QString text)
+/// `begin,count` of one sheet's rows in a hunk, counted from 1.
+QString rangeOf(std::span<const RowPair> above, std::span<const RowPair> hunk,
+                qsizetype RowPair::*member)
 {
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text;
+    const auto has = [member](const RowPair &pair) { return pair.*member >= 0; };
+    const auto count = std::ranges::count_if(hunk, has);
+    return QString::number(std::ranges::count_if(above, has) + (count > 0 ? 1 : 0)) + u','
+           + QString::number(count);
+}
+
+QString coloured(const QString &line)
+{
+    const QLatin1StringView colour = line.startsWith(u'-')   ? "\x1b[31m"_L1 // red
+                                     : line.startsWith(u'+') ? "\x1b[32m"_L1 // green
+                                     : line.startsWith(u'@') ? "\x1b[36m"_L1 // cyan
+                                                             : ""_L1;
+    return colour.isEmpty() ? line : colour + line + "\x1b[0m"_L1;
 }
 
 } // namespace
@@ -30,35 +44,28 @@ TerminalDrawing::TerminalDrawing(QTextCodec *codec, qint64 lastRequestLine)
 
 QString TerminalDrawing::drawn(const Row &row) const
 {
-    QString number;
-    if (numberWidth > 0) {
-        number = row.requestLine > 0 ? QString::number(row.requestLine) : QString();
-        number = number.rightJustified(numberWidth - 1) + u' ';
-    }
-    const QString notes = notesOn(row);
-    return withoutTrailingBlanks(number + row.mark.leftJustified(MarkWidth) + paperOf(row)
-                                 + (notes.isEmpty() ? QString() : "  "_L1 + notes));
-}
-
-QString TerminalDrawing::paperOf(const Row &row) const
-{
-    const auto edge = [&](QStringView signs) { // the left end, the middle and the right end
-        return signs[0] + QString(row.width, signs[1]) + signs[2];
-    };
-    switch (row.kind) {
-    case Row::Kind::TopEdge:
-        return edge(frames ? u"┌─┐" : u"+-+");
-    case Row::Kind::BottomEdge:
-        return edge(frames ? u"└─┘" : u"+-+");
-    case Row::Kind::TornTop:
-    case Row::Kind::TornBottom:
-        return edge(frames ? u"┄┄┄" : u"~~~");
-    case Row::Kind::Line:
-        break;
-    }
-    const QChar upright = frames ? u'│' : u'|';
-    const QString blanks(row.width - qsizetype(row.onPaper().size()), u' ');
-    return upright + cellsOf(row.onPaper()) + blanks + upright + cellsOf(row.beyond());
+    // By Row::Kind: the left end, the middle and the right end, in frames and in ASCII.
+    constexpr std::array<std::array<QStringView, 2>, 5> rows = {{
+        {u"┌─┐", u"+-+"},
+        {u"┄┄┄", u"~~~"},
+        {u"│ │", u"| |"},
+        {u"└─┘", u"+-+"},
+        {u"┄┄┄", u"~~~"},
+    }};
+    constexpr qsizetype MarkWidth = 3; // the longest is `1T`
+    const QStringView signs = rows[size_t(row.kind)][frames ? 0 : 1];
+    QString line = row.mark.leftJustified(MarkWidth) + signs[0] + cellsOf(row.onPaper())
+                   + QString(row.width - qsizetype(row.onPaper().size()), signs[1]) + signs[2]
+                   + cellsOf(row.beyond());
+    if (numberWidth > 0)
+        line.prepend((row.requestLine > 0 ? QString::number(row.requestLine) : QString())
+                         .rightJustified(numberWidth - 1)
+                     + u' ');
+    if (const QString notes = notesOn(row); !notes.isEmpty())
+        line += "  "_L1 + notes;
+    while (line.endsWith(u' '))
+        line.chop(1);
+    return line;
 }
 
 bool TerminalDrawing::isShown(char32_t c) const
@@ -84,12 +91,6 @@ QString TerminalDrawing::cellsOf(CellsView cells) const
 QString TerminalDrawing::notesOn(const Row &row) const
 {
     constexpr qsizetype MostNumbers = 8;
-    QStringList notes;
-    if (row.overrun() > 0)
-        notes.append((frames ? u"← "_s : u"<- "_s) + QString::number(row.overrun())
-                     + " beyond the edge"_L1);
-    if (!row.note.isEmpty())
-        notes.append(row.note);
     QStringList numbers;
     qsizetype more = 0;
     for (const char32_t c : row.text) {
@@ -101,10 +102,47 @@ QString TerminalDrawing::notesOn(const Row &row) const
             ++more;
     }
     if (more > 0)
-        numbers.append("and "_L1 + QString::number(more) + " more"_L1);
-    if (!numbers.isEmpty())
-        notes.append(numbers.join(u' '));
+        numbers.append(u"and %1 more"_s.arg(more));
+    QStringList notes{row.note, numbers.join(u' ')};
+    if (row.overrun() > 0)
+        notes.prepend(
+            (frames ? u"← %1 beyond the edge"_s : u"<- %1 beyond the edge"_s).arg(row.overrun()));
+    notes.removeAll(QString());
     return notes.join("; "_L1);
+}
+
+QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row> &after,
+                          const TerminalDrawing &drawing, bool inColours)
+{
+    constexpr ptrdiff_t Context = 3;
+    const std::vector<RowPair> pairs = comparedRows(before, after);
+    const auto isChange = [](const RowPair &pair) { return pair.before < 0 || pair.after < 0; };
+    QString text;
+    const auto addLine = [&](const QString &line) {
+        text += (inColours ? coloured(line) : line) + u'\n';
+    };
+    auto end = pairs.begin(); // of the hunk before
+    while (true) {
+        auto last = std::find_if(end, pairs.end(), isChange);
+        if (last == pairs.end())
+            return text;
+        const auto begin = last - std::min(last - end, Context);
+        // Changes with at most twice the context between them share a hunk.
+        for (auto next = last; next != pairs.end() && next - last <= 2 * Context + 1;
+             next = std::find_if(next + 1, pairs.end(), isChange))
+            last = next;
+        end = last + std::min(pairs.end() - last, Context + 1);
+        const std::span<const RowPair> above(pairs.begin(), begin);
+        const std::span<const RowPair> hunk(begin, end);
+        addLine("@@ -"_L1 + rangeOf(above, hunk, &RowPair::before) + " +"_L1
+                + rangeOf(above, hunk, &RowPair::after) + " @@"_L1);
+        for (const RowPair &pair : hunk) {
+            const QChar sign = pair.after < 0 ? u'-' : pair.before < 0 ? u'+' : u' ';
+            addLine(sign
+                    + drawing.drawn(pair.before >= 0 ? before[size_t(pair.before)]
+                                                     : after[size_t(pair.after)]));
+        }
+    }
 }
 
 } // namespace preview

@@ -18,7 +18,6 @@ public:
     QString drawn(const Row &row) const;
 
 private:
-    QString paperOf(const Row &row) const;
     QString cellsOf(CellsView cells) const;
     QString notesOn(const Row &row) const;
     bool isShown(char32_t c) const;
@@ -27,5 +26,10 @@ private:
     const bool frames;
     const qsizetype numberWidth; // 0: no line numbers
 };
+
+/// The difference as `diff -u` prints it, with three rows around each change: `-` before what only
+/// the first sheet has, `+` before what only the second has; in colours for a terminal.
+QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row> &after,
+                          const TerminalDrawing &drawing, bool coloured);
 
 } // namespace preview

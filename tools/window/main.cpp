@@ -23,7 +23,7 @@ void endWhenFatal(QtMsgType type, const QMessageLogContext &, const QString &mes
 {
     if (type != QtFatalMsg)
         return;
-    tools::printError("zentaro config edit: "_L1 + message + u'\n');
+    tools::printError("zentaro: "_L1 + message + u'\n');
     _exit(tools::Trouble);
 }
 
@@ -47,8 +47,10 @@ int edit(const tools::Call &call, const configtool::Source &source)
     return QApplication::exec();
 }
 
-std::unique_ptr<QCoreApplication> pictureApplication(int &argc, char **argv)
+std::unique_ptr<QCoreApplication> pictureApplication(char **argv)
 {
+    static int argc = 1;
+    qInstallMessageHandler(endWhenFatal);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication::setDesktopSettingsAware(false);
     return std::make_unique<QGuiApplication>(argc, argv);

@@ -7,7 +7,6 @@
 #include "render/vocabulary.h"
 #include "text/standardoutput.h"
 #include "tools/check/elementtable.h"
-#include "tools/preview/difference.h"
 #include "tools/preview/document.h"
 
 #include <QBoxLayout>

@@ -89,10 +89,7 @@ private:
 };
 
 /// Sheets beside each other, where a picture holds all of them.
-size_t perRow(const PictureOptions &options)
-{
-    return options.inPairs ? 2 : 5;
-}
+size_t perRow(const PictureOptions &options) { return options.inPairs ? 2 : 5; }
 
 SheetPainter::Frame frameOf(const std::vector<Sheet> &sheets)
 {
@@ -231,6 +228,9 @@ QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &opt
         return u"the name of a picture ends in .png, .svg or .pdf"_s;
     if (monospacedFamily().isEmpty())
         return u"there is no monospaced font (Debian has fonts-dejavu-core)"_s;
+    if (std::ranges::any_of(sheets,
+                            [](const Sheet &sheet) { return sheet.rows.size() > MostRows; }))
+        return u"a document has more than %1 lines, the most of a picture"_s.arg(MostRows);
     QSaveFile file(options.fileName);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();

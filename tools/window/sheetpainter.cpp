@@ -33,10 +33,7 @@ int printedWidth(const PaperSize &paper)
 }
 
 /// The cells of a row beyond the paper that are shown: as many as are on it.
-CellsView shownBeyond(const Row &row)
-{
-    return row.beyond().substr(0, size_t(row.width));
-}
+CellsView shownBeyond(const Row &row) { return row.beyond().substr(0, size_t(row.width)); }
 
 /// The font whose characters are as wide as the cell, and spaced to fill it.
 QFont fontOf(int cell)
