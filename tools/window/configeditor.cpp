@@ -148,7 +148,7 @@ void ConfigEditor::chooseRequest()
 
 bool ConfigEditor::saveTo(const Source &target)
 {
-    tree->setFocus(); // what is being typed is entered
+    tree->finishTyping();
     if (!confirmSaving(target))
         return false;
     QDir().mkpath(QFileInfo(target.path).path());
@@ -186,7 +186,7 @@ bool ConfigEditor::confirmSaving(const Source &target)
 /// Whether the present file may be left, saved or not.
 bool ConfigEditor::confirmLeaving()
 {
-    tree->setFocus();
+    tree->finishTyping();
     if (tree->changes.isClean())
         return true;
     const auto answer =

@@ -38,6 +38,8 @@ public:
     /// The first group `zentaro.NAME`; null where there is none.
     QTreeWidgetItem *groupOf(const QString &name) const;
 
+    /// Enters what is being typed; the other edits do so first.
+    void finishTyping();
     /// Adds a setting or a group to the current group, and begins to type its text.
     void addSetting();
     void addGroup();

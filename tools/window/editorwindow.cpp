@@ -118,11 +118,10 @@ void ConfigEditor::buildEditMenu()
 {
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
     QUndoStack &changes = tree->changes;
-    // What is being typed is entered first.
     QAction *const undo = addEntry(edit, tr("&Undo"), QStyle::SP_ArrowBack, QKeySequence::Undo,
-                                   [this, &changes] { tree->setFocus(), changes.undo(); });
+                                   [this, &changes] { tree->finishTyping(), changes.undo(); });
     QAction *const redo = addEntry(edit, tr("&Redo"), QStyle::SP_ArrowForward, QKeySequence::Redo,
-                                   [this, &changes] { tree->setFocus(), changes.redo(); });
+                                   [this, &changes] { tree->finishTyping(), changes.redo(); });
     undo->setEnabled(false);
     redo->setEnabled(false);
     connect(&changes, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
@@ -130,9 +129,9 @@ void ConfigEditor::buildEditMenu()
     edit->addSeparator();
     const QList<QAction *> ofItems = {
         addEntry(edit, tr("Add &Setting"), QStyle::SP_FileIcon, QKeySequence(u"Ins"_s),
-                 [this] { tree->addSetting(); }),
+                 [this] { searchLine->clear(), tree->addSetting(); }),
         addEntry(edit, tr("Add &Group"), QStyle::SP_FileDialogNewFolder, QKeySequence(u"Ctrl+G"_s),
-                 [this] { tree->addGroup(); }),
+                 [this] { searchLine->clear(), tree->addGroup(); }),
         addEntry(edit, tr("Ren&ame"), QStyle::SP_FileDialogDetailedView, QKeySequence(u"F2"_s),
                  [this] { tree->editItem(tree->currentItem()); }),
         addEntry(edit, tr("Change &Value"), QStyle::SP_FileDialogContentsView,

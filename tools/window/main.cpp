@@ -17,13 +17,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The toolkit aborts without a display; this ends the process in the usual way instead. Its
-/// remarks about the machine are not the user's affair.
-void endWhenFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
+/// The toolkit aborts without a display; this ends the process in the usual way instead, with the
+/// cause. Its other remarks about the machine are not the user's affair.
+void endWhenFatal(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    static QString cause; // what the display said first
+    if (cause.isEmpty() && QLatin1StringView(context.category).startsWith("qt.qpa"_L1))
+        cause = message;
     if (type != QtFatalMsg)
         return;
-    tools::printError("zentaro: "_L1 + message + u'\n');
+    tools::printError("zentaro: "_L1
+                      + tools::inOneLine((cause.isEmpty() ? message : cause).trimmed()) + u'\n');
     _exit(tools::Trouble);
 }
 

@@ -165,7 +165,7 @@ void PaperPane::chooseDocument()
 
 QString PaperPane::openRequest(const QString &path)
 {
-    constexpr qint64 MostBytes = 1'024 * 1'024; // it is printed at every key stroke
+    constexpr qint64 MostBytes = qint64(1'024) * 1'024; // it is printed at every key stroke
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();

@@ -104,7 +104,7 @@ QTreeWidgetItem *ConfigTree::currentGroup() const
 
 void ConfigTree::addSetting()
 {
-    setFocus(); // what is being typed is entered
+    finishTyping();
     const QTreeWidgetItem *const group = currentGroup();
     QTreeWidgetItem *const current = currentItem();
     int index = 0; // behind the current setting, or the last one; groups come after settings
@@ -119,7 +119,7 @@ void ConfigTree::addSetting()
 
 void ConfigTree::addGroup()
 {
-    setFocus();
+    finishTyping();
     addAndEdit(libconfig::newGroupItem({}), currentGroup()->childCount());
 }
 
@@ -128,7 +128,9 @@ void ConfigTree::addAndEdit(QTreeWidgetItem *item, int index)
     currentGroup()->insertChild(index, item);
     showItem(item);
     editItem(item);
-    isNew = true;
+    isNew = typed == item;
+    if (!isNew)
+        delete item;
 }
 
 /// The text that has been typed is entered; a new item without one goes again.
@@ -158,9 +160,19 @@ void ConfigTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint
         delete item;
 }
 
-void ConfigTree::removeSelected()
+void ConfigTree::finishTyping()
 {
     setFocus();
+    QWidget *const line = typed ? indexWidget(indexFromItem(typed)) : nullptr;
+    if (!line)
+        return; // it has lost the focus by that
+    commitData(line);
+    closeEditor(line, QAbstractItemDelegate::NoHint);
+}
+
+void ConfigTree::removeSelected()
+{
+    finishTyping();
     QList<QTreeWidgetItem *> chosen = selectedItems();
     chosen.removeIf([this](const QTreeWidgetItem *item) { // it goes with another
         const QTreeWidgetItem *above = item->parent();
