@@ -138,18 +138,6 @@ TEST(Readme, SetsUpAShop)
         << ticket.toStdString();
 }
 
-TEST(FuzzDictionary, HasEveryMethodAndKey)
-{
-    const QByteArray words = support::readFile(support::sourceDir() + u"/fuzz/zentaro.dict"_s);
-    QStringList wanted = tools::knownGroups();
-    for (const QString &group : tools::knownGroups())
-        wanted += tools::knownWords(group);
-    for (const DocumentMethod &method : documentMethods)
-        wanted += method.name;
-    for (const QString &word : wanted)
-        EXPECT_TRUE(words.contains('"' + word.toUtf8() + "\"\n")) << word.toStdString();
-}
-
 /// What the page says of a setting, a line for each sentence.
 QString described(const Setting &setting, const QString &key)
 {
