@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "render/requestreader.h"
-#include "render/vocabulary.h"
 #include "tests/recordingdevice.h"
 
 #include <QDir>
@@ -92,28 +91,6 @@ TEST(Golden, HasNoReferenceWithoutARequest)
         EXPECT_GE(namesIn(folder.requests, u"xml"_s).size(), 13);
         EXPECT_EQ(namesIn(folder.references, folder.suffix), namesIn(folder.requests, u"xml"_s));
     }
-}
-
-/// The samples' page shows the elements of every document and what its sample prints on 40 columns:
-/// as text, without the fiscal carriage returns, which the print files of 32 columns hold.
-TEST(Golden, IsTheSamplesPage)
-{
-    const support::Home home(support::readFile(root.filePath(u"samples/zentaro-40.conf"_s)));
-    const support::Outcome outcome =
-        support::run(QStringLiteral(ZENTARO_REQUEST_PAGES), {root.filePath(u"samples"_s)}, home);
-    QByteArray page = outcome.output;
-    for (const DocumentMethod &method : documentMethods) {
-        const QByteArray request =
-            support::readFile(root.filePath(u"samples/"_s + method.name + u".xml"_s));
-        EXPECT_TRUE(request.contains("<method name=\"" + QByteArray(method.name.data()) + "\"/>"));
-        const qsizetype section = page.indexOf("\n## " + QByteArray(method.name.data()) + "\n");
-        const qsizetype begin = page.indexOf("```\n", section) + 4;
-        const qsizetype end = page.indexOf("```", begin);
-        ASSERT_TRUE(section >= 0 && section < begin) << method.name.data();
-        page.replace(begin, end - begin,
-                     support::printed(request, home).replace("\r", QByteArray()));
-    }
-    support::expectReference(root.filePath(u"samples/README.md"_s), page);
 }
 
 } // namespace
