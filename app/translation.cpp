@@ -7,19 +7,14 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <climits>
+
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// No path is longer. The toolkit looks for a file by each shorter form of the name.
-constexpr qsizetype MaxNameBytes = 4'096;
-
-} // namespace
 
 bool loadTranslation(QTranslator &translator, const QString &base, const QString &file)
 {
-    if (base.size() + file.size() > MaxNameBytes)
-        return false;
+    if (base.size() + file.size() > PATH_MAX)
+        return false; // the toolkit would look for a file by each shorter form of the name
     if (file == "/"_L1)
         return translator.load(text::nameOfFile(text::bytesOf(base)) + "/zentaro_"_L1
                                    + QLocale::system().name(),

@@ -6,6 +6,7 @@
 #include <QStringView>
 #include <QVarLengthArray>
 
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -126,37 +127,19 @@ public:
     /// first group of the body. Empty, non-null text when there is none.
     QString lookup(const KeyPath &path) const;
 
-    /// Tells everything in file order: `beginGroup(name)`, `setting(name, value)`, `endGroup()`.
-    template <typename BeginGroup, typename Setting, typename EndGroup>
-    void visit(BeginGroup beginGroup, Setting setting, EndGroup endGroup) const
-    {
-        quint32 open = 0; // groups
-        for (size_t i = 1; i < entries.size(); ++i) {
-            const Entry &entry = entries[i];
-            for (; open > entry.depth; --open)
-                endGroup();
-            if (entry.isGroup) {
-                beginGroup(QString(latin1(entry.name)));
-                ++open;
-            } else {
-                setting(QString(latin1(entry.name)), CfgScanner::withoutQuotes(entry.value));
-            }
-        }
-        for (; open > 0; --open)
-            endGroup();
-    }
-
-private:
     struct Entry
     {
-        std::string_view name;  // in `text`
+        std::string_view name;
         std::string_view value; // of a setting, with its quotes
         quint32 end = 0;        // the index behind it and all that it holds
         quint32 depth = 0;      // the groups around it
         bool isGroup = false;
         bool hasMember = false;
     };
+    /// All that the body holds, in file order: a group, then what is in it.
+    std::span<const Entry> members() const { return std::span(entries).subspan(1); }
 
+private:
     QString valueIn(size_t group, QStringView setting) const;
 
     QByteArray text;                                    // ISO 8859-1

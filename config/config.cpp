@@ -14,6 +14,16 @@ namespace libconfig {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+void tellUnreadable(const QString &name)
+{
+    text::printLine("Error in the method FileReader::open( " + text::bytesOfName(name)
+                    + " ): File Not Found");
+}
+
+} // namespace
+
 Config::Config() = default;
 
 Config::~Config() = default;
@@ -52,12 +62,6 @@ void Config::loadFile()
     if (content.isClosed() && !file.isSequential() && openFile()) // a pipe would be waited for
         stream->seekg(content.size());
     addFile(std::move(content));
-}
-
-void Config::tellUnreadable(const QString &name)
-{
-    text::printLine("Error in the method FileReader::open( " + text::bytesOfName(name)
-                    + " ): File Not Found");
 }
 
 void Config::addFile(CfgContent file)

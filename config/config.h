@@ -43,14 +43,12 @@ class Config
 public:
     /// An object without a document: every lookup answers empty text.
     Config();
-    /// As `readFile(fileName, fileType)` on an empty object.
     Config(QString const &fileName, QString const &fileType)
         : Config()
     {
         constructor(fileName, fileType);
     }
-    Config(const Config &) = delete;
-    Config &operator=(const Config &) = delete;
+    Q_DISABLE_COPY_MOVE(Config)
     ~Config();
 
     /// Forgets the present tree and reads the file. Any format word but "cfg" and "xml" loads
@@ -60,10 +58,9 @@ public:
     {
         constructor(fileName, fileType);
     }
+    void constructor(QString const &fileName, QString const &fileType);
     /// The same with the content of the file at hand.
     void readContent(const QByteArray &content, QString const &fileName, QString const &fileType);
-    /// What readFile does.
-    void constructor(QString const &fileName, QString const &fileType);
 
     /// Opens `stream` on `fileName`, or on `name`; whatever it was used for before is forgotten. A
     /// file that cannot be read (a folder cannot) is told in one line on standard output and
@@ -122,10 +119,9 @@ public:
     void printConfigTree() const;
     /// Prints one group and everything below it.
     void printConfigTree(QDomNode node) const;
-    /// What printConfigTree(node) prints.
-    QString configTreeText(QDomNode node) const;
-    /// What printConfigTree() prints.
+    /// What they print.
     QString configTreeText() const;
+    QString configTreeText(QDomNode node) const;
 
     // The tree views; who calls these links zentaro_config_views.
 
@@ -133,7 +129,6 @@ public:
     /// per group, beginning with the file's, and in it an item `key = value` per setting before
     /// those of the nested groups. Without a tree it has no items.
     QTreeWidget *buildConfigListView();
-    /// As buildConfigListView().
     QTreeWidget *newConfigListView() { return buildConfigListView(); }
     /// Adds the items of `node` and everything below it to the view, or to an item.
     void buildConfigListView(QDomNode node, QTreeWidget *view);
@@ -177,7 +172,6 @@ protected:
     Document document{*this}; ///< the tree, owned; null until a file is read
 
 private:
-    static void tellUnreadable(const QString &name);
     void addFile(CfgContent file);
     void startAnew(QString const &name, QString const &type);
     void loadXml(const QByteArray &content);

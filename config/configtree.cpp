@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "config/configtree.h"
 
-#include "config/cfgscanner.h"
-
 #include <QFile>
 #include <QXmlStreamReader>
 
@@ -15,22 +13,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What handles of the same node share.
-const void *identity(const QDomNode &node)
+struct Identity : QDomNode
 {
-    struct Node : QDomNode
-    {
-        explicit Node(const QDomNode &node)
-            : QDomNode(node)
-        {
-        }
-        const void *shared() const { return impl; }
-    };
-    return Node(node).shared();
-}
+    static const void *of(const QDomNode &node) { return node.*&Identity::impl; }
+};
 
-/// The names of the attributes of each element, in document order; none of a text that nests too
-/// deep. The tree, which does not keep the order of attributes, is read from the same text.
-std::optional<std::vector<QStringList>> attributeNames(const QByteArray &content)
+/// The names of the attributes of each element, in document order; nothing for a text that nests
+/// too deep. The tree, which does not keep the order of attributes, is read from the same text.
+std::vector<QStringList> attributeNames(const QByteArray &content)
 {
     QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
@@ -42,7 +32,7 @@ std::optional<std::vector<QStringList>> attributeNames(const QByteArray &content
         if (token != QXmlStreamReader::StartElement)
             continue;
         if (++depth > Config::MaxXmlDepth)
-            return std::nullopt;
+            return {};
         QStringList &element = names.emplace_back();
         for (const QXmlStreamAttribute &attribute : reader.attributes())
             element.append(attribute.qualifiedName().toString());
@@ -67,18 +57,12 @@ QByteArray restOf(std::ifstream &stream)
 /// nest its groups deeper than the stack reaches.
 ConfigTree::~ConfigTree()
 {
-    std::vector<QDomNode> loose;
-    const auto loosen = [&loose](QDomNode &parent, const QDomNode &child) {
-        loose.push_back(parent.removeChild(child));
-    };
-    for (QDomNode top = document.firstChildElement(); !top.isNull();
-         top = document.firstChildElement()) // a file that was loaded again has a second
-        loosen(document, top);
+    std::vector<QDomNode> loose{document};
     while (!loose.empty()) {
         QDomNode node = loose.back();
         loose.pop_back();
         for (QDomNode child = node.firstChild(); !child.isNull(); child = node.firstChild())
-            loosen(node, child);
+            loose.push_back(node.removeChild(child));
     }
 }
 
@@ -87,13 +71,18 @@ ConfigTree::~ConfigTree()
 void ConfigTree::append(const CfgContent &body, const QString &name, QDomNode &parent)
 {
     std::vector<QDomElement> open{newElement(document, name)};
-    body.visit([&](const QString &group) { open.push_back(newElement(document, group)); },
-               [&](const QString &key, const QString &value) { set(open.back(), key, value); },
-               [&] {
-                   const QDomElement complete = open.back();
-                   open.pop_back();
-                   open.back().appendChild(complete);
-               });
+    const auto closeTo = [&open](size_t depth) {
+        for (; open.size() > depth + 1; open.pop_back())
+            open[open.size() - 2].appendChild(open.back());
+    };
+    for (const CfgContent::Entry &entry : body.members()) {
+        closeTo(entry.depth);
+        if (entry.isGroup)
+            open.push_back(newElement(document, latin1(entry.name)));
+        else
+            set(open.back(), latin1(entry.name), CfgScanner::withoutQuotes(entry.value));
+    }
+    closeTo(0);
     if (body.hasMember())
         parent.appendChild(open.front());
 }
@@ -113,7 +102,7 @@ void ConfigTree::set(QDomElement &element, const QString &name, const QString &v
 
 void ConfigTree::note(const QDomElement &element, const QStringList &attributes)
 {
-    names[identity(element)] += attributes;
+    names[Identity::of(element)] += attributes;
 }
 
 std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &element) const
@@ -123,7 +112,7 @@ std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &e
     for (int i = 0; i < present.length(); ++i)
         others.append(present.item(i).nodeName());
     others.sort();
-    QStringList order = names.value(identity(element)) + others;
+    QStringList order = names.value(Identity::of(element)) + others;
     order.removeDuplicates();
     std::vector<Attribute> result;
     for (const QString &name : std::as_const(order)) {
@@ -239,10 +228,11 @@ void Config::loadXmlFile()
 void Config::loadXml(const QByteArray &content)
 {
     ConfigTree &loaded = newTree();
-    const auto names =
-        content.size() <= CfgScanner::MaxBytes ? attributeNames(content) : std::nullopt;
+    if (content.size() > CfgScanner::MaxBytes)
+        return;
+    const std::vector<QStringList> names = attributeNames(content);
     QDomDocument read;
-    if (!names || !read.setContent(content, false))
+    if (names.empty() || !read.setContent(content, false))
         return; // without what was read before a fault
     // The root element moves under a file element, the shape of a "cfg" tree. A declaration or a
     // comment before it stays where it is.
@@ -251,9 +241,9 @@ void Config::loadXml(const QByteArray &content)
     file.appendChild(read.documentElement());
     read.appendChild(file);
     // The elements of the tree stand in the order of their start tags.
-    auto next = names->begin();
+    auto next = names.begin();
     walkElements(file.firstChild(), [&](const QDomElement &element) {
-        if (next == names->end())
+        if (next == names.end())
             return Walk::End;
         loaded.note(element, *next++);
         return Walk::Into;

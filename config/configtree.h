@@ -52,8 +52,7 @@ public:
     };
 
     ConfigTree() = default;
-    ConfigTree(const ConfigTree &) = delete;
-    ConfigTree &operator=(const ConfigTree &) = delete;
+    Q_DISABLE_COPY_MOVE(ConfigTree)
     ~ConfigTree() override;
 
     QString lookup(const KeyPath &path) const override

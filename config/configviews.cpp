@@ -1,34 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "config/configviews.h"
 
-#include "config/config.h"
 #include "config/configtree.h"
 
 #include <QTreeWidget>
-
-#include <utility>
-#include <vector>
 
 namespace libconfig {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Deletes an item that stands in no view, leaf by leaf: the toolkit deletes nested items by
-/// recursion.
-void takeApart(QTreeWidgetItem *item)
-{
-    while (item) {
-        QTreeWidgetItem *const parent = item->parent();
-        if (const int children = item->childCount()) {
-            item = item->child(children - 1);
-        } else {
-            delete (parent ? parent->takeChild(parent->childCount() - 1) : item);
-            item = parent;
-        }
-    }
-}
 
 class ConfigListView : public QTreeWidget
 {
@@ -38,12 +19,20 @@ public:
         setColumnCount(1);
         setHeaderLabel(u"ConfigurationFile"_s);
     }
-    ConfigListView(const ConfigListView &) = delete;
-    ConfigListView &operator=(const ConfigListView &) = delete;
+    Q_DISABLE_COPY_MOVE(ConfigListView)
+    /// Leaf by leaf, outside the view: the toolkit deletes nested items by recursion.
     ~ConfigListView() override
     {
-        while (topLevelItemCount() > 0)
-            takeApart(takeTopLevelItem(topLevelItemCount() - 1));
+        QTreeWidgetItem *item = nullptr;
+        while (item || (item = takeTopLevelItem(0))) {
+            QTreeWidgetItem *const parent = item->parent();
+            if (const int children = item->childCount()) {
+                item = item->child(children - 1);
+            } else {
+                delete (parent ? parent->takeChild(parent->childCount() - 1) : item);
+                item = parent;
+            }
+        }
     }
 };
 

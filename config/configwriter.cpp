@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "config/config.h"
-
-#include "config/cfgscanner.h"
 #include "config/configtree.h"
 #include "text/filename.h"
 #include "text/localeencoding.h"
@@ -51,17 +48,6 @@ void printText(const QString &text)
     std::fflush(stdout);
 }
 
-/// Gives a new file what a present one has of owner, group and mode; false where it may not.
-bool takeAfter(int descriptor, const struct stat &present)
-{
-    struct stat own = {};
-    if (fstat(descriptor, &own) != 0)
-        return false;
-    const bool isAlike = own.st_uid == present.st_uid && own.st_gid == present.st_gid;
-    return (isAlike || fchown(descriptor, present.st_uid, present.st_gid) == 0)
-           && fchmod(descriptor, present.st_mode & 07777) == 0;
-}
-
 /// Writes a file that is there where it stands, after its room is made sure of; what hinders it.
 QString writeInPlace(const QByteArray &name, const QByteArray &content)
 {
@@ -94,8 +80,10 @@ QString replaceFile(const QString &path, const QByteArray &content)
     if (!exists || (S_ISREG(now.st_mode) && now.st_nlink == 1)) {
         QSaveFile file(path);
         if (!name.isEmpty() && file.open(QIODevice::WriteOnly)
-            && (!exists || takeAfter(file.handle(), now)) && file.write(content) == content.size()
-            && file.commit())
+            && (!exists
+                || (fchown(file.handle(), now.st_uid, now.st_gid) == 0
+                    && fchmod(file.handle(), now.st_mode & 07777) == 0))
+            && file.write(content) == content.size() && file.commit())
             return {};
         if (!exists)
             return name.isEmpty() ? text::systemMessage(ENOENT) : file.errorString();

@@ -17,8 +17,7 @@ public:
     using Take = void (*)(QByteArrayView line);
 
     explicit LineSink(Take take);
-    LineSink(const LineSink &) = delete;
-    LineSink &operator=(const LineSink &) = delete;
+    Q_DISABLE_COPY_MOVE(LineSink)
     ~LineSink();
 
     // Ways to take them.
