@@ -128,6 +128,7 @@ TEST(Preview, TellsWhatIsWrong)
     } rows[] = {
         {{}, 2, "an argument is missing"},
         {{request, u"-o"_s, u"a.gif"_s}, 2, "the name of a picture ends in .png, .svg or .pdf"},
+        {{request, u"-o"_s, u""_s}, 2, "--output takes the name of a picture"},
         {{request, u"--columns"_s, u"0"_s}, 2, "--columns takes a number from 1 to 500"},
         {{request, u"--dpi"_s, u"9999"_s}, 2, "--dpi takes a number from 50 to 1200"},
         {{request, u"--width-mm"_s, u"70"_s}, 2, "--width-mm is 58 or 80"},

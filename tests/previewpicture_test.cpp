@@ -127,6 +127,15 @@ TEST(SvgPicture, ShowsWhatThePixelsShow)
     EXPECT_GT(differing(greyOfCells(image, Cell, 1), cells), 30) << "too tolerant";
 }
 
+TEST(SvgPicture, NamesWhatWouldNotBeSeen)
+{
+    const support::Folder folder;
+    support::writeFile(folder.path(u"p"_s), "\nj\n\"e\xCC\x81\xE2\x80\xAE\"@\nJ\n");
+    ASSERT_EQ(draw({folder.path(u"p"_s), u"-o"_s, folder.path(u"p.svg"_s)}).exitStatus, 0);
+    const QByteArray svg = support::readFile(folder.path(u"p.svg"_s));
+    EXPECT_TRUE(svg.contains(">U+0301</text>") && svg.contains(">U+202E</text>"));
+}
+
 TEST(PdfPicture, HasAPageOfThePaperForEachDocument)
 {
     const support::Folder folder;

@@ -45,6 +45,8 @@ struct Row
     QString note;           ///< stands behind the paper, in one line
     qint64 requestLine = 0; ///< where it comes from; 0 where that is unknown
 
+    bool begins() const { return kind < Kind::Line; }
+    bool ends() const { return kind > Kind::Line; }
     CellsView onPaper() const { return CellsView(text).substr(0, size_t(width)); }
     CellsView beyond() const { return CellsView(text).substr(onPaper().size()); }
     /// The cells beyond the paper's edge that should not be there.

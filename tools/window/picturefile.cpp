@@ -29,16 +29,21 @@ constexpr int VectorDpi = 1'016;
 constexpr double VectorDotsOfMm = 40;
 constexpr int LongestPageMm = 5'000; // readers of PDF show no longer one
 
-/// Sheets in rows of `perRow`.
+/// Sheets in rows: two that are before and after, else five.
 class Picture
 {
 public:
-    Picture(std::span<const Sheet> sheets, const PaperSize &paper, size_t perRow,
-            SheetPainter::Frame frame)
-        : perRow(perRow)
+    /// As a page of its own a single sheet is as large as the paper.
+    Picture(std::span<const Sheet> sheets, const PictureOptions &options, int dpi,
+            bool isPage = false)
+        : perRow(options.inPairs ? 2 : 5)
         , columns(std::min(perRow, sheets.size()))
         , rows((sheets.size() + perRow - 1) / perRow)
     {
+        const auto frame = sheets.size() > 1 ? SheetPainter::Frame::Title
+                           : isPage          ? SheetPainter::Frame::Bare
+                                             : SheetPainter::Frame::Notes;
+        const PaperSize paper{dpi, options.paper.widthMm};
         constexpr int TooHigh = 1'000'000'000; // and no higher, for the sum to remain a number
         painters.reserve(sheets.size());
         for (size_t i = 0; i < sheets.size(); ++i) {
@@ -58,13 +63,14 @@ public:
             return painter.cellWidth() < LeastCellWidth;
         });
     }
-
-    void paint(QPaintDevice &device, const Colours &colours) const
+    QString faultOfPage() const
     {
-        QPainter painter(&device);
-        paint(painter, colours);
+        return std::max(size.width(), size.height()) > LongestPageMm * VectorDotsOfMm
+                   ? u"a side of the picture would be longer than %1 mm"_s.arg(LongestPageMm)
+                   : QString();
     }
-    void paint(QPainter &painter, const Colours &colours) const
+
+    void paint(auto &&painter, const Colours &colours) const
     {
         painter.fillRect(QRect(QPoint(), size), colours.desk.ground);
         QPoint corner;
@@ -87,14 +93,6 @@ private:
     std::vector<int> columns; // the width of each column of sheets, in pixels
     std::vector<int> rows;    // the height of each row
 };
-
-/// Sheets beside each other, where a picture holds all of them.
-size_t perRow(const PictureOptions &options) { return options.inPairs ? 2 : 5; }
-
-SheetPainter::Frame frameOf(const std::vector<Sheet> &sheets)
-{
-    return sheets.size() > 1 ? SheetPainter::Frame::Title : SheetPainter::Frame::Notes;
-}
 
 QString titleOf(const std::vector<Sheet> &sheets)
 {
@@ -137,8 +135,7 @@ struct Palette
 
 QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
 {
-    constexpr double InchesOfMetre = 39.37;
-    const Picture picture(sheets, options.paper, perRow(options), frameOf(sheets));
+    const Picture picture(sheets, options, options.paper.dpi);
     if (picture.isTooSmall())
         return u"the characters would be too small to be read: raise --dpi"_s;
     if (std::max(picture.size.width(), picture.size.height()) > MostPixelsOfSide
@@ -152,27 +149,20 @@ QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options
     if (image.isNull())
         return u"there is no memory for the picture"_s;
     const Palette palette;
-    picture.paint(image, palette.shades);
+    picture.paint(QPainter(&image), palette.shades);
     image.reinterpretAsFormat(QImage::Format_Indexed8); // a quarter of what colours would take
     image.setColorTable(palette.table);
-    image.setDotsPerMeterX(int(options.paper.dpi * InchesOfMetre));
-    image.setDotsPerMeterY(int(options.paper.dpi * InchesOfMetre));
+    const int dotsPerMetre = int(options.paper.dpi * 39.37); // inches
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
     constexpr int Quality = 50; // saves half the time, for a file a sixth larger
     return image.save(&file, "PNG", Quality) ? QString() : file.errorString();
 }
 
-QString faultOfPage(const QSize &dots)
-{
-    return std::max(dots.width(), dots.height()) > LongestPageMm * VectorDotsOfMm
-               ? u"a side of the picture would be longer than %1 mm"_s.arg(LongestPageMm)
-               : QString();
-}
-
 QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
 {
-    const Picture picture(sheets, {VectorDpi, options.paper.widthMm}, perRow(options),
-                          frameOf(sheets));
-    if (QString fault = faultOfPage(picture.size); !fault.isEmpty())
+    const Picture picture(sheets, options, VectorDpi);
+    if (QString fault = picture.faultOfPage(); !fault.isEmpty())
         return fault;
     QBuffer svg;
     QSvgGenerator generator;
@@ -181,7 +171,7 @@ QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options
     generator.setSize(picture.size);
     generator.setViewBox(QRect(QPoint(), picture.size));
     generator.setTitle(titleOf(sheets));
-    picture.paint(generator, {});
+    picture.paint(QPainter(&generator), {});
     const QByteArray family = monospacedFamily().toUtf8(); // the generator names no other
     svg.buffer().replace('"' + family + '"', '"' + family + ", monospace\"");
     return file.write(svg.data()) == svg.size() ? QString() : file.errorString();
@@ -191,7 +181,6 @@ QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options
 QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
 {
     const size_t perPage = options.inPairs ? 2 : 1;
-    const auto frame = options.inPairs ? SheetPainter::Frame::Title : SheetPainter::Frame::Bare;
     QPdfWriter writer(&file);
     writer.setResolution(VectorDpi);
     writer.setTitle(titleOf(sheets));
@@ -201,8 +190,8 @@ QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options
     QPainter painter;
     for (size_t i = 0; i < sheets.size(); i += perPage) {
         const auto row = std::span(sheets).subspan(i, std::min(perPage, sheets.size() - i));
-        const Picture picture(row, {VectorDpi, options.paper.widthMm}, perPage, frame);
-        if (QString fault = faultOfPage(picture.size); !fault.isEmpty())
+        const Picture picture(row, options, VectorDpi, true);
+        if (QString fault = picture.faultOfPage(); !fault.isEmpty())
             return fault;
         writer.setPageSize(QPageSize(QSizeF(picture.size) / VectorDotsOfMm, QPageSize::Millimeter));
         if (i == 0)

@@ -25,13 +25,6 @@ int pixels(double millimetres, int dpi)
     return int(millimetres * dpi / MillimetresOfInch);
 }
 
-/// What the printer reaches of the paper's width: 72 mm of 80, 48 mm of 58.
-int printedWidth(const PaperSize &paper)
-{
-    constexpr int WideMm = 80;
-    return pixels(paper.widthMm - (paper.widthMm >= WideMm ? 8 : 10), paper.dpi);
-}
-
 /// The cells of a row beyond the paper that are shown: as many as are on it.
 CellsView shownBeyond(const Row &row) { return row.beyond().substr(0, size_t(row.width)); }
 
@@ -49,21 +42,6 @@ QFont fontOf(int cell)
     font.setLetterSpacing(QFont::PercentageSpacing,
                           100 * cell / QFontMetricsF(font).horizontalAdvance(u'0'));
     return font;
-}
-
-bool begins(const Row &row)
-{
-    return row.kind == Row::Kind::TopEdge || row.kind == Row::Kind::TornTop;
-}
-
-bool ends(const Row &row)
-{
-    return row.kind == Row::Kind::BottomEdge || row.kind == Row::Kind::TornBottom;
-}
-
-bool isTorn(const Row &row)
-{
-    return row.kind == Row::Kind::TornTop || row.kind == Row::Kind::TornBottom;
 }
 
 } // namespace
@@ -90,7 +68,9 @@ SheetPainter::SheetPainter(const Sheet &sheet, const PaperSize &paper, Frame fra
     int columns = sheet.rows.empty() ? DevicePaperWidth : 1;
     for (const Row &row : sheet.rows)
         columns = std::max(columns, row.width);
-    cell = std::max(printedWidth(paper) / columns, 1);
+    constexpr int WideMm = 80;
+    const int printed = pixels(paper.widthMm - (paper.widthMm >= WideMm ? 8 : 10), paper.dpi);
+    cell = std::max(printed / columns, 1);
     margin = (paperWidth - columns * cell) / 2;
     font = fontOf(cell);
     metrics = QFontMetricsF(font);
@@ -126,10 +106,12 @@ qsizetype SheetPainter::rowAt(int y) const
 
 Cells SheetPainter::markOf(const Row &row) const
 {
-    const bool isShown = frame != Frame::Bare || row.kind == Row::Kind::Line;
-    const QString number = row.requestLine > 0 ? QString::number(row.requestLine) : QString();
-    const QString mark = isShown ? row.mark : QString();
-    return cellsOf(number + (number.isEmpty() || mark.isEmpty() ? u""_s : u" "_s) + mark);
+    QStringList parts;
+    if (row.requestLine > 0)
+        parts.append(QString::number(row.requestLine));
+    if (!row.mark.isEmpty() && (frame != Frame::Bare || row.kind == Row::Kind::Line))
+        parts.append(row.mark);
+    return cellsOf(parts.join(u' '));
 }
 
 Cells SheetPainter::noteOf(const Row &row) const
@@ -159,13 +141,13 @@ SheetPainter::Glyph SheetPainter::glyphOf(char32_t c) const
 {
     if (const auto known = glyphs.constFind(c); known != glyphs.constEnd())
         return *known;
-    Glyph glyph{Glyph::Kind::Missing, {}};
     const QString text = textOf({&c, 1});
-    if (metrics.inFontUcs4(drawable(c))) {
-        const bool fills = std::abs(metrics.horizontalAdvance(text) - cell) < 0.1;
-        glyph = fillsOneColumn(drawable(c)) && fills
-                    ? Glyph{Glyph::Kind::Plain, {}}
-                    : Glyph{Glyph::Kind::Odd, metrics.tightBoundingRect(text)};
+    const double advance = metrics.horizontalAdvance(text);
+    Glyph glyph{Glyph::Kind::Missing, {}};
+    // Alone, a combining mark or an invisible command of the script would not be seen.
+    if (metrics.inFontUcs4(drawable(c)) && advance > 0) {
+        const bool fills = fillsOneColumn(drawable(c)) && std::abs(advance - cell) < 0.1;
+        glyph = {fills ? Glyph::Kind::Plain : Glyph::Kind::Odd, metrics.tightBoundingRect(text)};
     }
     return *glyphs.insert(c, glyph);
 }
@@ -178,7 +160,7 @@ void SheetPainter::paint(QPainter &painter, const Colours &colours) const
         write(painter, QPointF(left, 2 * cell), shortened(cellsOf(sheet.title)), colours.desk.ink);
     const std::vector<Row> &rows = sheet.rows;
     for (size_t first = 0, end = 0; first < rows.size(); first = end) {
-        for (end = first + 1; end < rows.size() && !begins(rows[end]);)
+        for (end = first + 1; end < rows.size() && !rows[end].begins();)
             ++end;
         paintPaper(painter, colours, first, end);
     }
@@ -195,8 +177,8 @@ void SheetPainter::paintPaper(QPainter &painter, const Colours &colours, size_t 
                               size_t end) const
 {
     const Row &lastRow = sheet.rows[end - 1];
-    const int above = top(first) + (begins(sheet.rows[first]) ? cell : 0);
-    const int below = top(end) - (ends(lastRow) ? cell : 0);
+    const int above = top(first) + (sheet.rows[first].begins() ? cell : 0);
+    const int below = top(end) - (lastRow.ends() ? cell : 0);
     painter.fillRect(left, above, paperWidth, below - above, colours.paper.ground);
     if (frame == Frame::Bare && left == 0 && right == 0)
         return; // the page's own edges are the paper's
@@ -205,12 +187,10 @@ void SheetPainter::paintPaper(QPainter &painter, const Colours &colours, size_t 
     const int tooth = std::max(cell / 2, 2);
     for (const auto &[row, y, height] :
          {std::tuple(&sheet.rows[first], above, tooth), std::tuple(&lastRow, below, -tooth)}) {
-        if (!isTorn(*row)) {
-            if (begins(*row) || ends(*row))
-                painter.fillRect(left, height > 0 ? y : y - line, paperWidth, line, colours.edge);
-            continue;
-        }
-        for (int x = 0; x + tooth <= paperWidth; x += 2 * tooth)
+        if (row->kind == Row::Kind::TopEdge || row->kind == Row::Kind::BottomEdge)
+            painter.fillRect(left, height > 0 ? y : y - line, paperWidth, line, colours.edge);
+        const bool isTorn = row->kind == Row::Kind::TornTop || row->kind == Row::Kind::TornBottom;
+        for (int x = 0; isTorn && x + tooth <= paperWidth; x += 2 * tooth)
             painter.fillRect(left + x, std::min(y, y + height), tooth, tooth, colours.desk.ground);
     }
 }

@@ -52,7 +52,7 @@ private:
     {
         enum class Kind { Plain, Odd, Missing };
         Kind kind;
-        QRectF ink; ///< of Odd, around its origin
+        QRectF ink; ///< around its origin
     };
 
     Cells markOf(const Row &row) const;
