@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QLatin1StringView command = "zentaro preview"_L1; // which runs
+
 /// The toolkit aborts without a display; this ends the process in the usual way instead, with the
 /// cause. Its other remarks about the machine are not the user's affair.
 void endWhenFatal(QtMsgType type, const QMessageLogContext &context, const QString &message)
@@ -26,13 +28,14 @@ void endWhenFatal(QtMsgType type, const QMessageLogContext &context, const QStri
         cause = message;
     if (type != QtFatalMsg)
         return;
-    tools::printError("zentaro: "_L1
+    tools::printError(command + ": "_L1
                       + tools::inOneLine((cause.isEmpty() ? message : cause).trimmed()) + u'\n');
     _exit(tools::Trouble);
 }
 
 int edit(const tools::Call &call, const configtool::Source &source)
 {
+    command = "zentaro config edit"_L1;
     qInstallMessageHandler(endWhenFatal);
     const QApplication application(call.argc, call.argv);
     QGuiApplication::setDesktopFileName(u"zentaro-config-edit"_s);
