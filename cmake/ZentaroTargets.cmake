@@ -24,6 +24,9 @@ endfunction()
 function(zentaro_library name)
     add_library(${name} STATIC ${ARGN})
     zentaro_common(${name})
+    if(ZENTARO_BUILD_FUZZERS) # which see what an input reaches, and try as many as they can
+        target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link -O1)
+    endif()
 endfunction()
 
 # zentaro_program(<name> <sources...>): one program, in bin/.
