@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "log/logger.h"
+#include "log/hlogmanager.h"
 
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
@@ -24,6 +24,8 @@ QLatin1StringView nameOf(Logger::Level level)
     const bool known = level >= Logger::DEBUG && level <= Logger::FATAL;
     return known ? levelNames[size_t(level)] : QLatin1StringView();
 }
+
+constexpr auto DefaultKey = "default"_L1;
 
 bool isWord(const QString &text, QLatin1StringView word)
 {
@@ -79,4 +81,21 @@ void Logger::write(Logger::Level lvl, QString const &text)
     while (file->bytesToWrite() > 0 && file->flush()) {
         // What a full disk has held up goes out in pieces.
     }
+}
+
+HLogManager::~HLogManager() { qDeleteAll(loggers); }
+
+void HLogManager::set(QString const &name, QString const &key)
+{
+    auto logger = std::make_unique<Logger>(name);
+    Logger *&entry = loggers[key.isEmpty() ? QString(DefaultKey) : key];
+    if (entry)
+        replaced.emplace_back(entry);
+    entry = logger.release();
+}
+
+Logger *HLogManager::getLog(QString const &key)
+{
+    // The empty key leaves its entry behind, also where that holds nothing yet.
+    return key.isEmpty() ? loggers[DefaultKey] : loggers.value(key);
 }

@@ -40,18 +40,6 @@ QString fiscalItem(const QString &department, const QString &quantity, const QSt
 
 } // namespace
 
-CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName)
-    : PrinterDriver(fileName, false)
-    , line(u""_s)
-{
-}
-
-CompanyPrinterDriver::CompanyPrinterDriver(std::unique_ptr<QFile> printFile)
-    : PrinterDriver(std::move(printFile))
-    , line(u""_s)
-{
-}
-
 bool CompanyPrinterDriver::isFiscal() const
 {
     return currentMethod == "printAbstractOrderFiscal"_L1

@@ -14,10 +14,12 @@ public:
     /// four characters, and the rest of it moves the text to the right.
     static constexpr int CentringSlack = 7;
 
+    using PrinterDriver::PrinterDriver;
     /// Opens the print file and truncates it.
-    explicit CompanyPrinterDriver(const QString &fileName);
-    /// Prints into an open file, as PrinterDriver has it.
-    explicit CompanyPrinterDriver(std::unique_ptr<QFile> printFile);
+    explicit CompanyPrinterDriver(const QString &fileName)
+        : PrinterDriver(fileName, false)
+    {
+    }
 
     unsigned int getPaperWidth() override { return DevicePaperWidth; }
     void setBold() override {}
@@ -45,7 +47,7 @@ public:
                                 const QString &adjustment);
 
 protected:
-    QString line; ///< being built, with its opening quote
+    QString line = QStringLiteral(""); ///< being built, with its opening quote
 
 private:
     bool isFiscal() const;

@@ -66,7 +66,7 @@ void PrinterDriver::printGeometry(const QXmlAttributes &)
 {
     if (!settings.printGeometry)
         return;
-    const int lines = qMin(numberOnce(topMargin, "topMargin"_L1), MaxTopMargin);
+    const int lines = qMin(numberSetting("topMargin"_L1), MaxTopMargin);
     for (int i = 0; i < lines; ++i)
         println(u""_s);
 }

@@ -98,8 +98,6 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
     return true;
 }
 
-bool PrinterDriver::endElement(const QString &, const QString &, const QString &) { return true; }
-
 bool PrinterDriver::startMethod(const QString &name)
 {
     const DocumentMethod *const chosen = documentMethod(name);
@@ -114,13 +112,6 @@ bool PrinterDriver::startMethod(const QString &name)
     currentMethod = name;
     startSection();
     return true;
-}
-
-void PrinterDriver::printRowFiscal(const QString &, const QXmlAttributes &) {}
-
-void PrinterDriver::printRowFiscal(const QString &, const QString &, const QString &,
-                                   const QString &)
-{
 }
 
 QString PrinterDriver::documentPath(const QString &type)
@@ -143,7 +134,7 @@ void PrinterDriver::loadValues(const QString &type)
     settings.style = setting("style"_L1);
     for (const SettingKey<bool> &aSwitch : switchSettings)
         settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
-    topMargin = descriptionWidth = {};
+    descriptionWidth = {};
 }
 
 /// The setting of the current document type; empty when the configuration has none.
@@ -156,13 +147,4 @@ QString PrinterDriver::setting(QLatin1StringView keyWord) const
 int PrinterDriver::numberSetting(QLatin1StringView keyWord) const
 {
     return setting(keyWord).toInt();
-}
-
-/// The setting, of which `known` keeps the value: few documents ask for it, but those may do so for
-/// every item, and a lookup takes longer the larger the configuration is.
-int PrinterDriver::numberOnce(KnownNumber &known, QLatin1StringView keyWord) const
-{
-    if (!known.number || known.docPath != docPath)
-        known = {docPath, numberSetting(keyWord)};
-    return *known.number;
 }

@@ -51,8 +51,7 @@ public:
     /// False, which stops the reader, for a `method` element with an unknown name; else true.
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
                       const QXmlAttributes &atts) override;
-    bool endElement(const QString &namespaceURI, const QString &localName,
-                    const QString &qName) override;
+    bool endElement(const QString &, const QString &, const QString &) override { return true; }
 
     // What a device does: companyprinterdriver.cpp, the rule in itemrows.cpp.
 
@@ -82,10 +81,12 @@ public:
     // Command lines for a fiscal printer, in companyprinterdriver.cpp. They do nothing by default.
 
     /// The discount and payment lines of an element `name`.
-    virtual void printRowFiscal(const QString &name, const QXmlAttributes &atts);
+    virtual void printRowFiscal(const QString & /*name*/, const QXmlAttributes &) {}
     /// One item.
-    virtual void printRowFiscal(const QString &department, const QString &quantity,
-                                const QString &description, const QString &price);
+    virtual void printRowFiscal(const QString & /*department*/, const QString & /*quantity*/,
+                                const QString & /*description*/, const QString & /*price*/)
+    {
+    }
 
     // The top of a document, in documentheaders.cpp: each prints what one element tells, under its
     // switch.
@@ -120,7 +121,7 @@ public:
     virtual void printFullOrderInvoice(const QString &qName, const QXmlAttributes &atts);
     virtual void printFullOrderDelivery(const QString &qName, const QXmlAttributes &atts);
     virtual void printFullOrderFiscal(const QString &qName, const QXmlAttributes &atts);
-    virtual void printAbstractOrder(const QString &qName, const QXmlAttributes &atts);
+    virtual void printAbstractOrder(const QString &, const QXmlAttributes &) {}
     virtual void printAbstractOrderReceipt(const QString &qName, const QXmlAttributes &atts);
     virtual void printAbstractOrderInvoice(const QString &qName, const QXmlAttributes &atts);
     virtual void printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &atts);
@@ -172,18 +173,11 @@ private:
     {
         QString number, description, price, amount;
     };
-    /// A setting as it was under a prefix of keys.
-    struct KnownNumber
-    {
-        QString docPath;
-        std::optional<int> number;
-    };
 
     // In printerdriver.cpp.
     bool startMethod(const QString &name);
     QString setting(QLatin1StringView keyWord) const;
     int numberSetting(QLatin1StringView keyWord) const;
-    int numberOnce(KnownNumber &known, QLatin1StringView keyWord) const;
     // In itemrows.cpp.
     const ColumnTitles &columnTitles();
     void printPricedItem(const QXmlAttributes &atts, const QString &layout);
@@ -196,6 +190,5 @@ private:
     QString methodName;                     ///< currentMethod, when the method was last needed
     const DocumentMethod *method = nullptr; ///< the one of that name, or null
     std::optional<ColumnTitles> translatedTitles; ///< once they were needed
-    KnownNumber topMargin;                        ///< empty lines
-    KnownNumber descriptionWidth;                 ///< characters
+    std::pair<QString, int> descriptionWidth;     ///< characters, and the docPath that they are of
 };

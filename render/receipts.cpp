@@ -2,6 +2,8 @@
 #include "render/rowlayout.h"
 #include "render/vocabulary.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 /// The total of a receipt, below an empty line.
@@ -61,7 +63,10 @@ void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttri
 void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &atts)
 {
     if (qName == element::receipe) {
-        const int setWidth = numberOnce(descriptionWidth, "descriptionWidth"_L1);
+        // Looked up once: that takes longer the larger the configuration is.
+        if (std::exchange(descriptionWidth.first, docPath) != docPath)
+            descriptionWidth.second = numberSetting("descriptionWidth"_L1);
+        const int setWidth = descriptionWidth.second;
         const qint64 width = setWidth == 0 ? qint64(getPaperWidth()) : setWidth;
         const QString name = valueOf(atts, "name"_L1);
         printRowFiscal(valueOf(atts, "department"_L1), valueOf(atts, "number"_L1),
@@ -70,8 +75,6 @@ void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttribu
         printRowFiscal(qName, atts);
     }
 }
-
-void PrinterDriver::printAbstractOrder(const QString &, const QXmlAttributes &) {}
 
 void PrinterDriver::printAbstractOrderReceipt(const QString &qName, const QXmlAttributes &atts)
 {

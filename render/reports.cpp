@@ -36,17 +36,14 @@ QString taxRow(const QString &rate, QStringView afterRate, const QString &taxabl
 }
 
 /// One element of a report, and the device that prints it.
-class Report
+struct Report
 {
     Q_DECLARE_TR_FUNCTIONS(PrinterDriver)
 
 public:
-    Report(PrinterDriver &device, const QXmlAttributes &atts, qint64 paperWidth)
-        : device(device)
-        , atts(atts)
-        , paperWidth(paperWidth)
-    {
-    }
+    PrinterDriver &device;
+    const QXmlAttributes &atts;
+    const qint64 paperWidth; // characters
 
     void printDates() const
     {
@@ -111,7 +108,6 @@ public:
             printCancelledRow(valueAt(i), valueAt(i + 1), valueAt(i + 2));
     }
 
-private:
     QString value(QLatin1StringView attribute) const { return valueOf(atts, attribute); }
     /// The value of the attribute at `position`, from 0 in document order; empty past the last.
     QString valueAt(int position) const
@@ -163,10 +159,6 @@ private:
         device.print(0, total.leftJustified(11));
         device.println(rate.leftJustified(10));
     }
-
-    PrinterDriver &device;
-    const QXmlAttributes &atts;
-    const qint64 paperWidth; // characters
 };
 
 } // namespace
@@ -175,7 +167,7 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &atts
 {
     if (printSections(qName, atts))
         return;
-    const Report report(*this, atts, settings.paperWidth);
+    const Report report{*this, atts, settings.paperWidth};
     if (qName == element::date)
         report.printDates();
     else if (qName == element::prefiscalsSummary)

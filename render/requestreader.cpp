@@ -116,25 +116,17 @@ private:
 
 QString exceededLimit(Stop why)
 {
-    using enum Stop;
-    switch (why) {
-    case Depth:
-        return QStringLiteral("elements nest deeper than %1").arg(MaxDepth);
-    case Size:
-        return QStringLiteral("the request is longer than %1 bytes").arg(MaxRequestBytes);
-    case Attributes:
-        return QStringLiteral("an element has more than %1 attributes").arg(MaxAttributes);
-    case DocumentType:
-        return QStringLiteral("the document type is longer than %1 bytes")
-            .arg(MaxDocumentTypeBytes);
-    case Expansion:
-        return QStringLiteral("the references to entities expand to more than %1 characters")
-            .arg(MaxExpansion);
-    case Fault:
-    case Refused: // which the device has told
-        break;
-    }
-    return {};
+    constexpr std::pair<const char *, qint64> limits[] = {
+        {}, // a fault
+        {}, // refused, which the device has told
+        {"elements nest deeper than %1", MaxDepth},
+        {"the request is longer than %1 bytes", MaxRequestBytes},
+        {"an element has more than %1 attributes", MaxAttributes},
+        {"the document type is longer than %1 bytes", MaxDocumentTypeBytes},
+        {"the references to entities expand to more than %1 characters", MaxExpansion},
+    };
+    const auto &[text, limit] = limits[size_t(why)];
+    return text ? QString::fromLatin1(text).arg(limit) : QString();
 }
 
 void pass(qint64 &line, qint64 &column, QChar c, bool utf8)

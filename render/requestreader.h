@@ -31,7 +31,7 @@ constexpr int MaxDocumentTypeBytes = 16 * 1'024;
 /// all that the reader goes through for them; what is declared and never used counts nothing.
 constexpr qint64 MaxExpansion = 10'000'000;
 
-/// Why a reading ended before its request did.
+/// Why a reading ended before its request did, in the order of their texts.
 enum class Stop {
     Fault,        ///< the XML is not well-formed
     Refused,      ///< the handler answered an event with false

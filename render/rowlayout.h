@@ -22,21 +22,44 @@ void pad(Characters &line, qint64 count, QChar fill)
 
 /// The first `width` characters of `text`, one fewer where the cut would halve a surrogate pair;
 /// all of them when `width` is negative.
-QStringView cut(QStringView text, qint64 width);
+inline QStringView cut(QStringView text, qint64 width)
+{
+    if (width < 0 || text.size() <= width)
+        return text;
+    const bool halvesPair =
+        width > 0 && text[width - 1].isHighSurrogate() && text[width].isLowSurrogate();
+    return text.first(halvesPair ? width - 1 : width);
+}
 
 /// A line that grows column by column.
 class Line
 {
 public:
-    Line &text(QStringView text);
+    Line &text(QStringView text)
+    {
+        line.append(text.data(), text.size());
+        return *this;
+    }
     /// A column aligned to the right: padded, never cut.
-    Line &right(QStringView text, qint64 width, QChar fill);
+    Line &right(QStringView text, qint64 width, QChar fill)
+    {
+        pad(line, qMin(width, MaxPaddedWidth) - text.size(), fill);
+        return this->text(text);
+    }
     /// A column aligned to the left: padded, never cut.
-    Line &left(QStringView text, qint64 width, QChar fill);
+    Line &left(QStringView text, qint64 width, QChar fill)
+    {
+        this->text(text);
+        pad(line, qMin(width, MaxPaddedWidth) - text.size(), fill);
+        return *this;
+    }
     /// A column exactly `width` wide: padded and cut. A negative width, which columns wider than
     /// the paper leave, neither pads nor cuts: nothing the customer pays for is lost to a bad
     /// setting.
-    Line &exact(QStringView text, qint64 width, QChar fill);
+    Line &exact(QStringView text, qint64 width, QChar fill)
+    {
+        return left(cut(text, width), width, fill);
+    }
 
     QString toString() const { return QString(line.constData(), line.size()); }
 
