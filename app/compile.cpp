@@ -22,9 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The toolkit warns on standard error, where the till expects nothing.
-void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 /// Where memory runs out nothing more can be printed, but the loss must not be silent.
 [[noreturn]] void endWithoutMemory()
 {
@@ -48,7 +45,8 @@ void shieldFromEnvironment()
     std::set_terminate(endWithoutMemory); // no other exception is thrown here
     qunsetenv("QT_FATAL_WARNINGS");
     qunsetenv("QT_FATAL_CRITICALS");
-    qInstallMessageHandler(dropMessage);
+    // The toolkit warns on standard error, where the till expects nothing.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 }
 
 /// Makes the toolkit's application object as in the "C" locale and without the event loop of

@@ -19,21 +19,17 @@ public:
     /// The object; the first call creates it.
     static T *instance()
     {
-        if (T *const present = instance_pointer.load(std::memory_order_acquire))
-            return present;
-        createInstance();
-        return instance_pointer.load(std::memory_order_acquire);
+        if (!instance_pointer)
+            createInstance();
+        return instance_pointer;
     }
 
     /// Creates the object unless another thread has done so.
     static void createInstance()
     {
         const QMutexLocker lock(&instance_mutex);
-        if (instance_pointer.load(std::memory_order_relaxed))
-            return;
-        T *const created = new T;
-        instance_destroyer.instance = created;
-        instance_pointer.store(created, std::memory_order_release);
+        if (!instance_pointer)
+            instance_pointer = instance_destroyer.instance = new T;
     }
 
     static inline std::atomic<T *> instance_pointer = nullptr; ///< null before first use

@@ -2,9 +2,8 @@
 #include "config/configtree.h"
 
 #include <QFile>
+#include <QMap>
 #include <QXmlStreamReader>
-
-#include <array>
 
 namespace libconfig {
 
@@ -38,17 +37,6 @@ std::vector<QStringList> attributeNames(const QByteArray &content)
             element.append(attribute.qualifiedName().toString());
     }
     return names;
-}
-
-/// What is left of the stream, but no more than is read of a file.
-QByteArray restOf(std::ifstream &stream)
-{
-    std::array<char, 8'192> piece;
-    QByteArray rest;
-    while (rest.size() < CfgScanner::MaxBytes
-           && stream.read(piece.data(), piece.size()).gcount() > 0)
-        rest.append(piece.data(), qsizetype(stream.gcount()));
-    return rest;
 }
 
 } // namespace
@@ -107,18 +95,17 @@ void ConfigTree::note(const QDomElement &element, const QStringList &attributes)
 
 std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &element) const
 {
-    const QDomNamedNodeMap present = element.attributes();
-    QStringList others;
-    for (int i = 0; i < present.length(); ++i)
-        others.append(present.item(i).nodeName());
-    others.sort();
-    QStringList order = names.value(Identity::of(element)) + others;
-    order.removeDuplicates();
+    const QDomNamedNodeMap attributes = element.attributes();
+    QMap<QString, QString> present;
+    for (int i = 0; i < attributes.length(); ++i)
+        present.insert(attributes.item(i).nodeName(), attributes.item(i).nodeValue());
     std::vector<Attribute> result;
-    for (const QString &name : std::as_const(order)) {
+    for (const QString &name : names.value(Identity::of(element))) {
         if (present.contains(name))
-            result.push_back({name, present.namedItem(name).nodeValue()});
+            result.push_back({name, present.take(name)});
     }
+    for (const auto &[name, value] : present.asKeyValueRange())
+        result.push_back({name, value});
     return result;
 }
 
@@ -211,7 +198,9 @@ void Config::loadFile(QString const &name, QDomNode parent)
     if (!stream)
         return;
     const std::streamoff start = stream->tellg();
-    const CfgContent body(restOf(*stream));
+    QByteArray rest(CfgScanner::MaxBytes, Qt::Uninitialized); // what is not read costs no memory
+    rest.truncate(stream->read(rest.data(), rest.size()).gcount());
+    const CfgContent body(rest);
     if (body.isClosed()) {
         stream->clear();
         stream->seekg(start + body.size());
