@@ -19,23 +19,14 @@ using requestcheck::Rest;
 
 namespace {
 
-/// The names of an element or attribute pattern.
-enum class Names {
-    One,
-    Any,
-    Plain,   ///< those of no name space
-    Foreign, ///< those of any
-};
-
-/// A pattern of RELAX NG.
+/// A pattern or name class of RELAX NG. That of an element or attribute without a name is the first
+/// of its parts.
 struct Pattern
 {
     QLatin1StringView kind; ///< the name of its element in the XML syntax
-    QString name;           ///< of One, of what is defined or referred to, or the value
+    QString name{};         ///< what it bears, defines or refers to, or the value
     QString text{};         ///< its documentation
     std::vector<Pattern> parts{};
-    Names names = Names::One;
-    QStringList except{}; ///< names that are not among Any or Plain
 };
 
 Pattern pattern(QLatin1StringView kind, std::vector<Pattern> parts)
@@ -47,13 +38,21 @@ Pattern define(const QString &name, std::vector<Pattern> parts)
 {
     return {"define"_L1, name, {}, std::move(parts)};
 }
-Pattern element(Names names, const QStringList &except, std::vector<Pattern> parts)
+
+/// The names of a class (`anyName`, or `nsName` for those of no name space) but some.
+Pattern namesBut(QLatin1StringView kind, const QStringList &names)
 {
-    return {"element"_L1, {}, {}, std::move(parts), names, except};
+    Pattern except{"except"_L1};
+    for (const QString &name : names)
+        except.parts.push_back({"name"_L1, name});
+    return names.isEmpty() ? Pattern{kind} : pattern(kind, {except});
 }
-Pattern attributes(Names names, const QStringList &except = {})
+Pattern anyName() { return {"anyName"_L1}; }
+/// The names of any name space.
+Pattern foreignName() { return pattern("anyName"_L1, {pattern("except"_L1, {{"nsName"_L1}})}); }
+Pattern attributes(const Pattern &names)
 {
-    return pattern("zeroOrMore"_L1, {{"attribute"_L1, {}, {}, {{"text"_L1, {}}}, names, except}});
+    return pattern("zeroOrMore"_L1, {pattern("attribute"_L1, {names, {"text"_L1}})});
 }
 
 /// The name that a row's attributes are defined under; the first document that reads it parts the
@@ -73,13 +72,13 @@ Pattern attributesOf(const ElementRow &row)
     std::vector<Pattern> parts;
     QStringList names;
     for (const requestcheck::AttributeUse &use : row.attributes) {
-        const Pattern attribute{"attribute"_L1, use.name, use.text, {{"text"_L1, {}}}};
+        const Pattern attribute{"attribute"_L1, use.name, use.text, {{"text"_L1}}};
         const bool isOptional = use.need == requestcheck::Need::Kept || use.onlyIf || row.onlyIf;
         parts.push_back(isOptional ? pattern("optional"_L1, {attribute}) : attribute);
         names.append(use.name);
     }
     parts.push_back(row.rest == Rest::Nothing ? ref(u"foreign.attributes"_s)
-                                              : attributes(Names::Any, names));
+                                              : attributes(namesBut("anyName"_L1, names)));
     return define(rowName(row), std::move(parts));
 }
 
@@ -90,7 +89,7 @@ void addDocument(qsizetype method, std::vector<Pattern> &grammar)
     const QString name = documentMethods[size_t(method)].name;
     const Pattern content = ref(name + ".content"_L1);
     const Pattern any = ref(name + ".element"_L1);
-    const Pattern others = pattern("zeroOrMore"_L1, {any});
+    const Pattern more = pattern("zeroOrMore"_L1, {any});
     const Pattern plain = ref(u"foreign.attributes"_s);
     QStringList known{::element::method.toString()};
     std::vector<Pattern> elements{ref(u"foreign"_s)};
@@ -101,12 +100,13 @@ void addDocument(qsizetype method, std::vector<Pattern> &grammar)
                             "Prints "_L1 + row->prints + u'.',
                             {ref(rowName(*row)), content}});
     }
+    const Pattern others = namesBut("nsName"_L1, known);
     if (known.size() == 1) // a document that prints nothing takes anything
-        elements.push_back(element(Names::Plain, known, {ref(u"anything"_s)}));
+        elements.push_back(pattern("element"_L1, {others, ref(u"anything"_s)}));
     else
-        elements.push_back(element(Names::Plain, known,
-                                   {plain, pattern("mixed"_L1, {pattern("oneOrMore"_L1, {any})})}));
-    const Pattern group = element(Names::Plain, known, {plain, pattern("mixed"_L1, {ref(name)})});
+        elements.push_back(pattern(
+            "element"_L1, {others, plain, pattern("mixed"_L1, {pattern("oneOrMore"_L1, {any})})}));
+    const Pattern group = pattern("element"_L1, {others, plain, pattern("mixed"_L1, {ref(name)})});
     grammar.push_back(
         define(name + ".method"_L1,
                {{"element"_L1,
@@ -114,8 +114,8 @@ void addDocument(qsizetype method, std::vector<Pattern> &grammar)
                  requestcheck::summaryOf(method) + u'.',
                  {{"attribute"_L1, u"name"_s, {}, {{"value"_L1, name}}}, plain, content}}}));
     grammar.push_back(
-        define(name, {pattern("choice"_L1, {ref(name + ".method"_L1), group}), others}));
-    grammar.push_back(define(content.name, {pattern("mixed"_L1, {others})}));
+        define(name, {pattern("choice"_L1, {ref(name + ".method"_L1), group}), more}));
+    grammar.push_back(define(content.name, {pattern("mixed"_L1, {more})}));
     grammar.push_back(define(any.name, {pattern("choice"_L1, std::move(elements))}));
 }
 
@@ -140,119 +140,89 @@ Pattern grammarOf(qsizetype method)
         addDocument(i, grammar);
     }
     const Pattern opened = pattern("choice"_L1, std::move(documents));
-    roots.push_back(
-        element(Names::Plain, known, {attributes(Names::Any), pattern("mixed"_L1, {opened})}));
+    roots.push_back(pattern("element"_L1, {namesBut("nsName"_L1, known), attributes(anyName()),
+                                           pattern("mixed"_L1, {opened})}));
     grammar.insert(grammar.begin(), pattern("start"_L1, {pattern("choice"_L1, std::move(roots))}));
     // What has a name space belongs to others; the print run reads names as they are spelled, which
     // a schema cannot say.
-    grammar.push_back(define(u"foreign.attributes"_s, {attributes(Names::Foreign)}));
-    grammar.push_back(define(u"foreign"_s, {element(Names::Foreign, {}, {ref(u"anything"_s)})}));
+    const Pattern anything = ref(u"anything"_s);
+    const Pattern anyElement = pattern("element"_L1, {anyName(), anything});
+    grammar.push_back(define(u"foreign.attributes"_s, {attributes(foreignName())}));
+    grammar.push_back(define(u"foreign"_s, {pattern("element"_L1, {foreignName(), anything})}));
     grammar.push_back(
-        define(u"anything"_s,
-               {attributes(Names::Any),
-                pattern("zeroOrMore"_L1,
-                        {pattern("choice"_L1, {{"text"_L1, {}},
-                                               element(Names::Any, {}, {ref(u"anything"_s)})})})}));
+        define(anything.name,
+               {attributes(anyName()),
+                pattern("zeroOrMore"_L1, {pattern("choice"_L1, {{"text"_L1}, anyElement})})}));
     return pattern("grammar"_L1, std::move(grammar));
 }
 
-// The XML syntax.
-
-void writeNames(QXmlStreamWriter &xml, const Pattern &of)
+void writeXml(QXmlStreamWriter &xml, const Pattern &of)
 {
-    if (of.names == Names::Plain) {
-        xml.writeStartElement("nsName"_L1);
-        xml.writeAttribute("ns"_L1, {});
-    } else {
-        xml.writeStartElement("anyName"_L1);
-    }
-    if (of.names == Names::Foreign || !of.except.isEmpty()) {
-        xml.writeStartElement("except"_L1);
-        if (of.names == Names::Foreign) {
-            xml.writeEmptyElement("nsName"_L1);
-            xml.writeAttribute("ns"_L1, {});
-        }
-        for (const QString &name : of.except)
-            xml.writeTextElement("name"_L1, name);
-        xml.writeEndElement();
-    }
-    xml.writeEndElement();
-}
-
-void writePattern(QXmlStreamWriter &xml, const Pattern &of)
-{
-    if (of.kind == "value"_L1) {
-        xml.writeTextElement(of.kind, of.name);
-        return;
-    }
     xml.writeStartElement(of.kind);
     if (of.kind == "grammar"_L1) {
         xml.writeDefaultNamespace("http://relaxng.org/ns/structure/1.0"_L1);
         xml.writeNamespace("http://relaxng.org/ns/compatibility/annotations/1.0"_L1, "a"_L1);
     }
-    if (!of.name.isEmpty())
+    if (of.kind == "nsName"_L1)
+        xml.writeAttribute("ns"_L1, {});
+    if (of.kind == "value"_L1 || of.kind == "name"_L1)
+        xml.writeCharacters(of.name);
+    else if (!of.name.isEmpty())
         xml.writeAttribute("name"_L1, of.name);
     if (!of.text.isEmpty())
         xml.writeTextElement("a:documentation"_L1, of.text);
-    if (of.names != Names::One)
-        writeNames(xml, of);
     for (const Pattern &part : of.parts)
-        writePattern(xml, part);
+        writeXml(xml, part);
     xml.writeEndElement();
 }
 
-// The compact syntax.
-
-QString compact(const Pattern &of, const QString &indent);
-
-QString compactParts(const Pattern &of, QLatin1StringView separator, const QString &indent)
+/// How a kind is written in the compact syntax: %1 is the name, and a line end is followed by the
+/// indentation of the parts, in `close` by that of the pattern itself.
+struct CompactForm
 {
-    QStringList parts;
-    for (const Pattern &part : of.parts)
-        parts.append(compact(part, indent));
-    return parts.join(separator + u'\n' + indent);
-}
-
-QString compactNames(const Pattern &of)
-{
-    const QStringList except = of.names == Names::Foreign ? QStringList{u"plain:*"_s} : of.except;
-    return (of.names == Names::One     ? of.name
-            : of.names == Names::Plain ? u"plain:*"_s
-                                       : u"*"_s)
-           + (except.isEmpty() ? QString() : " - ("_L1 + except.join(" | "_L1) + u')');
-}
+    const char *kind, *open, *separator, *close;
+};
+constexpr CompactForm compactForms[] = {
+    {"grammar", "namespace plain = \"\"\n\n", "\n\n", "\n"},
+    {"start", "start =\n", ",\n", ""},
+    {"define", "%1 =\n", ",\n", ""},
+    {"element", "element %1 {\n", ",\n", "\n}"},
+    {"attribute", "attribute %1 { ", "", " }"},
+    {"choice", "(\n", " |\n", "\n)"},
+    {"mixed", "mixed { ", "", " }"},
+    {"optional", "", "", "?"},
+    {"zeroOrMore", "", "", "*"},
+    {"oneOrMore", "", "", "+"},
+    {"ref", "%1", "", ""},
+    {"text", "text", "", ""},
+    {"value", "\"%1\"", "", ""},
+    {"anyName", "*", "", ""},
+    {"nsName", "plain:*", "", ""},
+    {"except", " - (", " | ", ")"},
+    {"name", "%1", "", ""},
+};
 
 QString compact(const Pattern &of, const QString &indent)
 {
-    const QString inner = indent + "  "_L1;
-    const auto first = [&] { return compact(of.parts.front(), indent); };
-    if (of.kind == "text"_L1)
-        return u"text"_s;
-    if (of.kind == "ref"_L1)
-        return of.name;
-    if (of.kind == "value"_L1)
-        return u'"' + of.name + u'"';
-    if (of.kind == "mixed"_L1)
-        return "mixed { "_L1 + first() + " }"_L1;
-    if (of.kind == "choice"_L1)
-        return of.parts.size() == 1
-                   ? first()
-                   : "(\n"_L1 + inner + compactParts(of, " |"_L1, inner) + u'\n' + indent + u')';
-    if (of.kind == "grammar"_L1)
-        return "namespace plain = \"\"\n"_L1 + compactParts(of, ""_L1, {}) + u'\n';
-    if (of.kind == "define"_L1 || of.kind == "start"_L1)
-        return u'\n' + (of.name.isEmpty() ? u"start"_s : of.name) + " =\n  "_L1
-               + compactParts(of, ","_L1, u"  "_s);
-    if (of.kind != "element"_L1 && of.kind != "attribute"_L1)
-        return first()
-               + (of.kind == "optional"_L1    ? u'?'
-                  : of.kind == "oneOrMore"_L1 ? u'+'
-                                              : u'*');
-    const QString text = of.text.isEmpty() ? QString() : "## "_L1 + of.text + u'\n' + indent;
-    const QString head = text + of.kind + u' ' + compactNames(of);
-    if (of.kind == "attribute"_L1)
-        return head + " { "_L1 + first() + " }"_L1;
-    return head + " {\n"_L1 + inner + compactParts(of, ","_L1, inner) + u'\n' + indent + u'}';
+    if (of.kind == "choice"_L1 && of.parts.size() == 1)
+        return compact(of.parts.front(), indent);
+    const CompactForm &form = *std::ranges::find_if(compactForms, [&of](const CompactForm &row) {
+        return of.kind == QLatin1StringView(row.kind);
+    });
+    const auto indented = [](const char *text, const QString &by) {
+        return QString(QLatin1StringView(text)).replace(u'\n', u'\n' + by);
+    };
+    const bool isBlock = QLatin1StringView(form.open).endsWith(u'\n') && of.kind != "grammar"_L1;
+    const QString inner = isBlock ? indent + "  "_L1 : indent;
+    QStringList parts;
+    for (const Pattern &part : of.parts)
+        parts.append(compact(part, inner));
+    QString text = indented(form.open, inner);
+    if (text.contains("%1"_L1))
+        text = text.arg(of.name.isEmpty() ? parts.takeFirst() : of.name);
+    const QString about = of.text.isEmpty() ? QString() : "## "_L1 + of.text + u'\n' + indent;
+    return about + text + parts.join(indented(form.separator, inner))
+           + indented(form.close, indent);
 }
 
 } // namespace
@@ -270,7 +240,7 @@ QString requestSchema(qsizetype method, bool isCompact)
     xml.setAutoFormattingIndent(2);
     xml.writeStartDocument();
     xml.writeComment(u' ' + about + u' ');
-    writePattern(xml, grammar);
+    writeXml(xml, grammar);
     xml.writeEndDocument();
     return text;
 }
