@@ -64,6 +64,16 @@ QString settingsGroup(const DocumentMethod &method)
     return std::ranges::find(types, method.settingsType, &DocumentType::name)->keyPrefix.chopped(1);
 }
 
+/// The settings that switch or shape a row.
+QStringList settingsOf(const ElementRow &row)
+{
+    QStringList words{requestcheck::keyWordOf(row.onlyIf), row.setting};
+    for (const requestcheck::AttributeUse &use : row.attributes)
+        words.append(requestcheck::keyWordOf(use.onlyIf));
+    words.removeAll(QString());
+    return words;
+}
+
 QString tableOf(qsizetype method)
 {
     if (rowsOf(method).empty())

@@ -5,6 +5,7 @@
 #include "tools/nearest.h"
 #include "tools/terminal.h"
 
+#include <QRegularExpression>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -123,22 +124,17 @@ bool CheckingDevice::endDocument()
 /// The encoding that the XML declaration names.
 void CheckingDevice::checkDeclaration()
 {
-    const QString &head = places.head();
-    const qsizetype word = head.indexOf("encoding"_L1);
-    const qsizetype end = head.indexOf("?>"_L1);
-    if (!head.startsWith("<?xml"_L1) || word < 0 || word > end)
-        return;
-    const auto isQuote = [](QChar c) { return c == u'"' || c == u'\''; };
-    const auto *const begin = std::find_if(head.begin() + word, head.begin() + end, isQuote) + 1;
-    const qsizetype at = begin - head.begin();
-    const QString name = head.mid(at, head.indexOf(head[at - 1], at) - at);
-    if (name.startsWith("utf"_L1, Qt::CaseInsensitive))
+    static const QRegularExpression declaration(u"^<\\?xml[^?]*?encoding[^?\"']*[\"']([^\"']*)"_s);
+    const QRegularExpressionMatch match = declaration.match(places.head());
+    const QString name = match.captured(1);
+    if (!match.hasMatch() || name.startsWith("utf"_L1, Qt::CaseInsensitive))
         return;
     requestCodec = QTextCodec::codecForName(name.toLatin1());
     if (requestCodec)
         return;
-    const qint64 column = at - head.lastIndexOf(u'\n', at);
-    const qint64 line = 1 + QStringView(head).first(at).count(u'\n');
+    const QStringView before = QStringView(places.head()).first(match.capturedStart(1));
+    const qint64 column = before.size() - before.lastIndexOf(u'\n');
+    const qint64 line = 1 + before.count(u'\n');
     tell("unknown-encoding",
          "nobody knows the encoding "_L1 + tools::excerpt(name)
              + ": the request is read as UTF-8"_L1,
@@ -202,7 +198,7 @@ void CheckingDevice::checkElement()
         return;
     }
     const std::array methodName = {element::method.toString()};
-    const bool isKnown = isKnownElement(current.name);
+    const bool isKnown = !documentsWith(current.name).empty();
     const QString meant = isKnown ? QString() : tools::nearest(current.name, methodName);
     if (isRoot && !isKnown)
         return;
@@ -225,7 +221,7 @@ QString CheckingDevice::meantElement() const
         if (row.role != Role::Other && !elementWith(row.role, method).isEmpty())
             names.push_back(row.element.toString());
     }
-    const bool isElsewhere = isKnownElement(current.name);
+    const bool isElsewhere = !documentsWith(current.name).empty();
     const QString near = tools::nearest(current.name, names);
     if (elementRow(near, method))
         return isElsewhere && near != current.name ? QString() : near;
@@ -255,21 +251,15 @@ void CheckingDevice::checkUnknownElement()
         findings.add(unknown);
 }
 
-/// The printer's name, which `headers` prints.
-void CheckingDevice::checkPrinter()
+void CheckingDevice::checkAttributes()
 {
+    const ElementRow &row = *current.row;
     if (current.name == element::printers)
         printer = placeOf("name"_L1);
     else if (current.name == element::headers && printer.begin.line == 0)
         tell("no-printer",
              u"`headers` prints the printer's name, which no `printers` before it gives"_s,
              places.range());
-}
-
-void CheckingDevice::checkAttributes()
-{
-    const ElementRow &row = *current.row;
-    checkPrinter();
     if (row.rest == Rest::Ignored) {
         if (hasPlainAttributes(current.atts))
             tell("prints-nothing",
@@ -295,23 +285,16 @@ void CheckingDevice::checkAttributes()
 void CheckingDevice::checkAttribute(int position)
 {
     const ElementRow &row = *current.row;
-    switch (fateOf(row, current.atts, position, settings)) {
-    case Fate::Unread:
+    const QString name = current.atts.qName(position);
+    const Fate fate = fateOf(row, current.atts, position, settings);
+    const AttributeUse *const use = row.find(name);
+    if (fate == Fate::Unread)
         tellUnread(position);
-        break;
-    case Fate::Printed:
-        if (!row.isHidden(current.atts))
-            checkValue(position);
-        break;
-    case Fate::SwitchedOff: {
-        const AttributeUse *const use = row.find(current.atts.qName(position));
-        if (!isOff(row.onlyIf) && use && !current.atts.value(position).isEmpty())
-            tellSwitchedOff(use->onlyIf, current.atts.qName(position), places.attribute(position));
-        break;
-    }
-    case Fate::Kept:
-        break;
-    }
+    else if (fate == Fate::Printed && !row.isHidden(current.atts))
+        checkValue(position);
+    else if (fate == Fate::SwitchedOff && use && !isOff(row.onlyIf)
+             && !current.atts.value(position).isEmpty())
+        tellSwitchedOff(use->onlyIf, name, places.attribute(position));
 }
 
 void CheckingDevice::tellUnread(int position)

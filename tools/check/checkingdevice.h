@@ -70,7 +70,6 @@ private:
     void checkUnknownElement();
     QString meantElement() const;
     void checkComplete();
-    void checkPrinter();
     // The attributes against the table.
     void checkAttributes();
     void checkAttribute(int position);
@@ -83,16 +82,13 @@ private:
     void checkCharacters(const QString &value, const QString &name, const Range &at);
     void checkEncoding(const QString &value, const QString &name, const Range &at);
     void checkColumns(const QString &value, const QString &name, const Range &at);
-    void checkAddress(const QString &value, const QString &name, const Range &at);
-    void checkSign(const QString &value, const Range &at);
-    void checkType(const QString &value, const Range &at);
+    void checkMeaning(int position, const AttributeUse &use);
     // The paper.
     void checkLine(const QString &text, qsizetype pad);
     int longestIn(const QString &text) const;
     void tellTooLong(const QString &text, qsizetype excess);
     void checkDescription();
     void tellCut(QLatin1StringView attribute, const QString &lost);
-    void checkFiscalNumber(QLatin1StringView attribute, const QString &value);
 
     const TagPlaces &places;
     tools::FindingStore &findings;

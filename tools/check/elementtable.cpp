@@ -39,26 +39,24 @@ constexpr quint16 Lists = WithCustomer | Receipts | Report | Sold | Statement;
 constexpr quint16 Types = AbstractReceipt | AbstractInvoice;
 
 // In the order of documentMethods.
-constexpr auto summaries = std::to_array<QLatin1StringView>({
-    QLatin1StringView(QT_TRANSLATE_NOOP(
+constexpr std::array summaries{
+    QT_TRANSLATE_NOOP(
         "Document",
-        "The ticket that carries an order to where it is prepared: quantities and names")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The pre-bill: items with prices")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The receipt, one line per item")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The invoice, one line per item")),
-    QLatin1StringView(
-        QT_TRANSLATE_NOOP("Document", "The delivery note: its items are printed as on a ticket")),
-    QLatin1StringView(QT_TRANSLATE_NOOP(
-        "Document", "The fiscal receipt: a command line per item for the fiscal printer")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "An order in summary: it prints nothing")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The receipt, one line per type of item")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The invoice, one line per type of item")),
-    QLatin1StringView(
-        QT_TRANSLATE_NOOP("Document", "The fiscal receipt, one command line per type of item")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The summary of a period")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "The items sold in a period")),
-    QLatin1StringView(QT_TRANSLATE_NOOP("Document", "A customer's statement of account")),
-});
+        "The ticket that carries an order to where it is prepared: quantities and names"),
+    QT_TRANSLATE_NOOP("Document", "The pre-bill: items with prices"),
+    QT_TRANSLATE_NOOP("Document", "The receipt, one line per item"),
+    QT_TRANSLATE_NOOP("Document", "The invoice, one line per item"),
+    QT_TRANSLATE_NOOP("Document", "The delivery note: its items are printed as on a ticket"),
+    QT_TRANSLATE_NOOP("Document",
+                      "The fiscal receipt: a command line per item for the fiscal printer"),
+    QT_TRANSLATE_NOOP("Document", "An order in summary: it prints nothing"),
+    QT_TRANSLATE_NOOP("Document", "The receipt, one line per type of item"),
+    QT_TRANSLATE_NOOP("Document", "The invoice, one line per type of item"),
+    QT_TRANSLATE_NOOP("Document", "The fiscal receipt, one command line per type of item"),
+    QT_TRANSLATE_NOOP("Document", "The summary of a period"),
+    QT_TRANSLATE_NOOP("Document", "The items sold in a period"),
+    QT_TRANSLATE_NOOP("Document", "A customer's statement of account"),
+};
 static_assert(summaries.size() == documentMethods.size());
 
 using S = DocumentSettings;
@@ -191,16 +189,10 @@ constexpr auto rows = std::to_array<ElementRow>({
     {element::otherReceipe, Tickets,
      "the item, in another character size where the printer has one"_L1, ticketItem, Role::Item},
     {element::variant, Tickets, change, ticketVariant},
-    {element::receipe,
-     Full,
+    {element::receipe, Full,
      "the column titles above the first item, and the item; nothing when the name begins with "
      "`=`"_L1,
-     pricedItem,
-     Role::Item,
-     nullptr,
-     Rest::Nothing,
-     {},
-     true},
+     pricedItem, Role::Item, nullptr, Rest::Nothing, ""_L1, true},
     {element::receipe, FullReceipt | FullInvoice,
      "the column titles above the first item, and the item"_L1, pricedItem, Role::Item},
     {element::variant, Full, change, pricedVariant},
@@ -313,11 +305,6 @@ std::vector<QString> elementsOf(qsizetype method)
     return names;
 }
 
-bool isKnownElement(QStringView element)
-{
-    return std::ranges::find(rows, element, &ElementRow::element) != rows.end();
-}
-
 QString elementWith(Role role, qsizetype method)
 {
     const auto *const found = std::ranges::find_if(
@@ -335,7 +322,10 @@ std::vector<QString> documentsWith(QStringView element)
     return names;
 }
 
-QLatin1StringView summaryOf(qsizetype method) { return summaries.at(size_t(method)); }
+QLatin1StringView summaryOf(qsizetype method)
+{
+    return QLatin1StringView(summaries.at(size_t(method)));
+}
 
 std::span<const ElementRow> elementRows() { return rows; }
 
@@ -344,15 +334,6 @@ QString keyWordOf(bool S::*aSwitch)
     const auto &switches = switchSettings;
     const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
     return found == switches.end() ? QString() : QString(found->keyWord);
-}
-
-QStringList settingsOf(const ElementRow &row)
-{
-    QStringList words{keyWordOf(row.onlyIf), row.setting};
-    for (const AttributeUse &use : row.attributes)
-        words.append(keyWordOf(use.onlyIf));
-    words.removeAll(QString());
-    return words;
 }
 
 Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,

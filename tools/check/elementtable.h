@@ -67,7 +67,7 @@ struct ElementRow
     Role role = Role::Other;
     bool DocumentSettings::*onlyIf = nullptr; ///< the switch that its attributes are printed under
     Rest rest = Rest::Nothing;
-    QLatin1StringView setting{}; ///< the key word of another setting that shapes it
+    QLatin1StringView setting{}; ///< the key word of another that shapes it, beside the widths
     bool hidesMarked = false;    ///< an item whose name begins with `=` is never printed
 
     /// Whether it prints nothing with these attributes, whatever the settings.
@@ -92,16 +92,11 @@ std::vector<QString> documentsWith(QStringView element);
 std::vector<const ElementRow *> rowsOf(qsizetype method);
 /// What a document is, in half a sentence.
 QLatin1StringView summaryOf(qsizetype method);
-/// Whether any method reacts to the element.
-bool isKnownElement(QStringView element);
 /// All rows.
 std::span<const ElementRow> elementRows();
 
 /// The key word of a switch; empty for null.
 QString keyWordOf(bool DocumentSettings::*aSwitch);
-/// The key words of the settings that switch or shape a row: beside the widths of columns, which
-/// shape them all.
-QStringList settingsOf(const ElementRow &row);
 
 /// What becomes of an attribute.
 enum class Fate { Printed, SwitchedOff, Kept, Unread };

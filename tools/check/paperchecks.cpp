@@ -82,12 +82,8 @@ void CheckingDevice::checkValue(int position)
     if (!isAscii(value))
         checkEncoding(value, name, at);
     const AttributeUse *const use = current.row->find(current.atts.qName(position));
-    if (use && use->name.endsWith("address"_L1))
-        checkAddress(value, name, at);
-    if (use && use->column == Column::Sign)
-        checkSign(value, at);
-    if (use && current.row->element == element::statement && use->column == Column::Description)
-        checkType(value, at);
+    if (use)
+        checkMeaning(position, *use);
 }
 
 void CheckingDevice::checkCharacters(const QString &value, const QString &name, const Range &at)
@@ -156,40 +152,37 @@ void CheckingDevice::checkColumns(const QString &value, const QString &name, con
              at);
 }
 
-/// An empty part between commas ends an address.
-void CheckingDevice::checkAddress(const QString &value, const QString &name, const Range &at)
+/// Values that mean something to the device.
+void CheckingDevice::checkMeaning(int position, const AttributeUse &use)
 {
-    const qsizetype end = value.startsWith(u',') ? 0 : value.indexOf(",,"_L1);
-    const QString lost = end < 0 ? QString() : value.sliced(end);
-    if (std::ranges::any_of(lost, [](QChar c) { return c != u',' && !c.isSpace(); }))
-        tell("address-part",
-             "an empty part ends "_L1 + name + ": "_L1 + tools::excerpt(lost)
-                 + " is not printed"_L1,
-             at);
-}
-
-/// The sign of a variant.
-void CheckingDevice::checkSign(const QString &value, const Range &at)
-{
-    bool isNumber = false;
-    if (std::isfinite(value.toDouble(&isNumber)) && isNumber)
-        return;
-    const QString meant = QString(value).replace(u',', u'.');
-    meant.toDouble(&isNumber);
-    tell("variant-quantity",
-         tools::excerpt(value) + " is no number: the variant prints as taken away"_L1, at,
-         isNumber ? meant : QString());
-}
-
-/// The type of a movement, which is looked up in the catalogue as it is spelled.
-void CheckingDevice::checkType(const QString &value, const Range &at)
-{
-    const QString meant = value.left(1).toUpper() + value.mid(1);
-    const auto isTranslated = [](const QString &word) {
-        return tr(word.toUtf8().constData()) != word;
-    };
-    if (meant != value && !isTranslated(value) && isTranslated(meant))
-        tell("untranslated-type", tools::excerpt(value) + " is not translated"_L1, at, meant);
+    const QString value = current.atts.value(position);
+    const Range at = places.attribute(position);
+    if (use.name.endsWith("address"_L1)) { // which an empty part between commas ends
+        const qsizetype end = value.startsWith(u',') ? 0 : value.indexOf(",,"_L1);
+        const QString lost = end < 0 ? QString() : value.sliced(end);
+        if (std::ranges::any_of(lost, [](QChar c) { return c != u',' && !c.isSpace(); }))
+            tell("address-part",
+                 "an empty part ends "_L1 + tools::excerpt(use.name) + ": "_L1
+                     + tools::excerpt(lost) + " is not printed"_L1,
+                 at);
+    } else if (use.column == Column::Sign) {
+        const auto isNumber = [](const QString &text) {
+            bool isOne = false;
+            return std::isfinite(text.toDouble(&isOne)) && isOne;
+        };
+        const QString meant = QString(value).replace(u',', u'.');
+        if (!isNumber(value))
+            tell("variant-quantity",
+                 tools::excerpt(value) + " is no number: the variant prints as taken away"_L1, at,
+                 isNumber(meant) ? meant : QString());
+    } else if (current.row->element == element::statement && use.column == Column::Description) {
+        const QString meant = value.left(1).toUpper() + value.mid(1); // as the catalogue spells it
+        const auto isTranslated = [](const QString &word) {
+            return tr(word.toUtf8().constData()) != word;
+        };
+        if (meant != value && !isTranslated(value) && isTranslated(meant))
+            tell("untranslated-type", tools::excerpt(value) + " is not translated"_L1, at, meant);
+    }
 }
 
 // What goes wrong on the paper: the device's own lines, looked at as they were written.
@@ -321,24 +314,20 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
     if (description.contains(u'"'))
         tell("fiscal-quote", u"a double quote in `name` ends the description early"_s,
              placeOf("name"_L1));
-    checkFiscalNumber("number"_L1, quantity);
-    checkFiscalNumber("price"_L1, price);
-    if (!tools::isFiscalNumber(department))
-        tell("fiscal-department",
-             department.isEmpty()
-                 ? u"the item has no `department`"_s
-                 : "the department "_L1 + tools::excerpt(department) + " is no number"_L1,
-             placeOf("department"_L1));
-}
-
-void CheckingDevice::checkFiscalNumber(QLatin1StringView attribute, const QString &value)
-{
-    if (!tools::isFiscalNumber(value, u'.'))
-        tell("fiscal-number",
-             value.isEmpty() ? "the item has no `"_L1 + attribute + u'`'
-                             : u'`' + attribute + "` is "_L1 + tools::excerpt(value)
-                                   + ": a fiscal command takes digits and at most one point"_L1,
-             placeOf(attribute));
+    const auto check = [this](Code code, QLatin1StringView attribute, const QString &value,
+                              char16_t point, const QString &trouble) {
+        if (!tools::isFiscalNumber(value, point))
+            tell(code, value.isEmpty() ? "the item has no `"_L1 + attribute + u'`' : trouble,
+                 placeOf(attribute));
+    };
+    const auto isNone = [](QLatin1StringView attribute, const QString &value) {
+        return u'`' + attribute + "` is "_L1 + tools::excerpt(value)
+               + ": a fiscal command takes digits and at most one point"_L1;
+    };
+    check("fiscal-number", "number"_L1, quantity, u'.', isNone("number"_L1, quantity));
+    check("fiscal-number", "price"_L1, price, u'.', isNone("price"_L1, price));
+    check("fiscal-department", "department"_L1, department, 0,
+          "the department "_L1 + tools::excerpt(department) + " is no number"_L1);
 }
 
 } // namespace requestcheck

@@ -24,10 +24,9 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
     const QString inside =
         open ? u"`%1`, open since line %2,"_s.arg(open->name).arg(open->line) : QString();
     const TagPlaces::In in = places.wasIn();
-    const bool isInValue = in == SingleQuotes || in == DoubleQuotes;
     const QStringView two = places.lastTwo();
     if (places.fault == "unexpected end of file"_L1) {
-        if (places.isIn() == SingleQuotes || places.isIn() == DoubleQuotes)
+        if (places.isIn() == Quotes)
             return u"the request ends in a value, whose quote is missing"_s;
         return open ? "the request ends, and "_L1 + inside + " is not closed"_L1
                     : u"the request ends without an element"_s;
@@ -38,7 +37,7 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
         return u"a bare `&` is written `&amp;`"_s;
     if (places.fault == "error occurred while parsing reference"_L1)
         return u"a reference ends with `;`, and a bare `&` is written `&amp;`"_s;
-    if (two.contains(u'<') && (isInValue || (open && two.back().isSpace())))
+    if (two.contains(u'<') && (in == Quotes || (open && two.back().isSpace())))
         return u"a bare `<` is written `&lt;`"_s;
     if (in == Name || in == Value)
         return u"an attribute is a name, `=` and a value in quotes"_s;
@@ -71,23 +70,6 @@ void tellStop(const TagPlaces &places, const CheckingDevice &device, tools::Find
                          {at, {at.line, at.column + 1}}));
 }
 
-/// What `--werror` makes of the findings.
-void promoteWarnings(std::vector<tools::Finding> &findings)
-{
-    for (tools::Finding &finding : findings) {
-        if (finding.severity == tools::Severity::Warning)
-            finding.severity = tools::Severity::Error;
-    }
-}
-
-tools::FileFindings withoutConfiguration()
-{
-    return {ZTConfiguration::userFile(),
-            {finding("no-configuration",
-                     u"there is no such file: everything that a switch decides about is left "
-                     u"away, and columns have no width; `zentaro config init` writes one"_s)}};
-}
-
 /// Checks every file; one that cannot be read is told and does not keep the others from it.
 int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
                const tools::CommandLine &line, bool isConfigured)
@@ -104,7 +86,10 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
             status = qMax(status, tools::printOut(findingLines(file.fileName, file.findings)));
     };
     if (!isConfigured)
-        add(withoutConfiguration());
+        add({ZTConfiguration::userFile(),
+             {finding("no-configuration",
+                      u"there is no such file: everything that a switch decides about is left "
+                      u"away, and columns have no width; `zentaro config init` writes one"_s)}});
     for (const QString &name : files.names) {
         const auto request = tools::openedRequest(call, name);
         if (!request) {
@@ -112,8 +97,10 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
             continue;
         }
         tools::FileFindings file{name, check(*request, isConfigured)};
-        if (line.isSet(u"werror"_s))
-            promoteWarnings(file.findings);
+        for (tools::Finding &told : file.findings) {
+            if (told.severity == tools::Severity::Warning && line.isSet(u"werror"_s))
+                told.severity = tools::Severity::Error;
+        }
         add(std::move(file));
     }
     return asJson ? qMax(status, tools::printBytes(tools::findingsAsJson(kept).toUtf8())) : status;

@@ -55,46 +55,35 @@ void TagPlaces::step(QChar c)
             in = In::Blanks;
         else if (c == u'>' || c == u'/')
             in = In::Text;
-        else if (in == In::Blanks)
-            startName(c);
+        else if (in == In::Blanks) {
+            in = In::Name;
+            name = c;
+            attributes.push_back({here, {}});
+        }
         break;
     case In::Name:
-        if (c == u'=' || isBlank(c))
-            endName();
-        else
+        if (c != u'=' && !isBlank(c)) {
             name += c;
+            break;
+        }
+        in = In::Value;                                         // which may be some blanks away
+        if (name == "xmlns"_L1 || name.startsWith("xmlns:"_L1)) // the reader takes these out
+            attributes.pop_back();
         break;
     case In::Value:
-        if (c == u'"')
-            in = In::DoubleQuotes;
-        else if (c == u'\'')
-            in = In::SingleQuotes;
+        if (c == u'"' || c == u'\'') {
+            in = In::Quotes;
+            quote = c;
+        }
         break;
-    case In::SingleQuotes:
-    case In::DoubleQuotes:
-        if (c == (in == In::SingleQuotes ? u'\'' : u'"')) {
+    case In::Quotes:
+        if (c == quote) {
             in = In::Blanks;
             if (!attributes.empty() && attributes.back().end.line == 0)
                 attributes.back().end = {here.line, here.column + 1};
         }
         break;
     }
-}
-
-void TagPlaces::startName(QChar c)
-{
-    in = In::Name;
-    name = c;
-    attributes.push_back({here, {}});
-}
-
-/// Behind the name, where the value may be some blanks away. The reader takes declarations of name
-/// spaces out of the attributes.
-void TagPlaces::endName()
-{
-    in = In::Value;
-    if (name == "xmlns"_L1 || name.startsWith("xmlns:"_L1))
-        attributes.pop_back();
 }
 
 Range TagPlaces::attribute(int position) const

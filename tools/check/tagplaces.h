@@ -37,7 +37,7 @@ public:
     tools::Place last() const { return lastPlace; }
 
     /// What the text taken so far ends in, and what it ended in before its last character.
-    enum class In { Text, TagStart, Tag, Blanks, Name, Value, SingleQuotes, DoubleQuotes };
+    enum class In { Text, TagStart, Tag, Blanks, Name, Value, Quotes };
     In isIn() const { return in; }
     In wasIn() const { return before; }
     /// The last two characters that were taken.
@@ -52,11 +52,10 @@ public:
 
 private:
     void step(QChar c);
-    void startName(QChar c);
-    void endName();
 
     In in = In::Text;
     In before = In::Text;
+    QChar quote; // of the value that is being read
     QChar two[2];
     QString beginning;
     tools::Place here{1, 1};

@@ -36,11 +36,7 @@ void addConfigurationOption(CommandLine &line);
 class ConfigurationInUse
 {
 public:
-    ConfigurationInUse() = default;
-    ConfigurationInUse(const ConfigurationInUse &) = delete;
-    ConfigurationInUse &operator=(const ConfigurationInUse &) = delete;
     ~ConfigurationInUse();
-
     /// Uses a file, cfg or xml by its name; for an empty name the user's own, as the print run
     /// reads it, and where there is none a configuration without settings. False when the file
     /// cannot be read, which is told; faults in it are told too.
