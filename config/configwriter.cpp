@@ -34,11 +34,30 @@ protected:
     }
 };
 
-void writeSettings(const std::vector<ConfigTree::Attribute> &settings, const QString &before,
-                   QLatin1StringView after, QTextStream &ts)
+/// Writes one group and everything below it, as long as the stream takes it.
+void writeGroup(const ConfigTree &tree, const QDomNode &node, bool isXml, QTextStream &ts)
 {
-    for (const auto &[name, value] : settings)
-        ts << before << name << " = \"" << value << after;
+    QString indentation;
+    walkElements(
+        node,
+        [&](const QDomElement &group) {
+            // The blank after the colon and the empty line after a group belong to the form.
+            if (isXml)
+                ts << '\n' << indentation << '<' << group.tagName();
+            else
+                ts << indentation << group.tagName() << ": \n" << indentation << "{\n";
+            indentation.resize(indentation.size() + Indent, u' ');
+            for (const auto &[name, value] : tree.attributesOf(group))
+                ts << (isXml ? "\n" : "") << indentation << name << " = \"" << value
+                   << (isXml ? "\"" : "\";\n");
+            ts << (isXml ? ">\n" : "");
+            return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
+        },
+        [&](const QDomElement &group) {
+            indentation.chop(Indent);
+            ts << indentation;
+            isXml ? ts << "</" << group.tagName() << ">\n" : ts << "};\n\n";
+        });
 }
 
 void printText(const QString &text)
@@ -74,19 +93,21 @@ QString writeInPlace(const QByteArray &name, const QByteArray &content)
 
 QString replaceFile(const QString &path, const QByteArray &content)
 {
+    if (path.isEmpty())
+        return text::systemMessage(ENOENT);
     const QByteArray name = QFile::encodeName(path);
     struct stat now = {};
     const bool exists = stat(name.constData(), &now) == 0;
     if (!exists || (S_ISREG(now.st_mode) && now.st_nlink == 1)) {
         QSaveFile file(path);
-        if (!name.isEmpty() && file.open(QIODevice::WriteOnly)
+        if (file.open(QIODevice::WriteOnly)
             && (!exists
                 || (fchown(file.handle(), now.st_uid, now.st_gid) == 0
                     && fchmod(file.handle(), now.st_mode & 07777) == 0))
             && file.write(content) == content.size() && file.commit())
             return {};
         if (!exists)
-            return name.isEmpty() ? text::systemMessage(ENOENT) : file.errorString();
+            return file.errorString();
     }
     return writeInPlace(name, content); // also one that is mounted alone, which cannot be replaced
 }
@@ -116,51 +137,21 @@ std::optional<QByteArray> Config::writtenAs(const QString &format) const
     const ConfigTree &tree = grownTree();
     const QDomElement file = tree.document.firstChildElement();
     // Also before XML, which it is not; a tree read from an XML file has none.
-    writeSettings(tree.attributesOf(file), {}, "\";\n"_L1, ts);
-    if (isXml)
-        buildConfigXmlFile(file.firstChildElement(), ts);
-    else
-        buildConfigFile(file.firstChildElement(), ts);
+    for (const auto &[name, value] : tree.attributesOf(file))
+        ts << name << " = \"" << value << "\";\n";
+    writeGroup(tree, file.firstChildElement(), isXml, ts);
     ts.flush();
     return ts.status() == QTextStream::Ok ? std::optional(buffer.data()) : std::nullopt;
 }
 
 void Config::buildConfigFile(QDomNode node, QTextStream &ts) const
 {
-    const ConfigTree &tree = grownTree();
-    QString indentation;
-    walkElements(
-        node,
-        [&](const QDomElement &group) {
-            // The blank after the colon and the empty line after a group belong to the form.
-            ts << indentation << group.tagName() << ": \n" << indentation << "{\n";
-            indentation.resize(indentation.size() + Indent, u' ');
-            writeSettings(tree.attributesOf(group), indentation, "\";\n"_L1, ts);
-            return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
-        },
-        [&](const QDomElement &) {
-            indentation.chop(Indent);
-            ts << indentation << "};\n\n";
-        });
+    writeGroup(grownTree(), node, false, ts);
 }
 
 void Config::buildConfigXmlFile(QDomNode node, QTextStream &ts) const
 {
-    const ConfigTree &tree = grownTree();
-    QString indentation = u"\n"_s; // each of its lines follows a line end
-    walkElements(
-        node,
-        [&](const QDomElement &group) {
-            ts << indentation << '<' << group.tagName();
-            indentation.resize(indentation.size() + Indent, u' ');
-            writeSettings(tree.attributesOf(group), indentation, "\""_L1, ts);
-            ts << ">\n";
-            return ts.status() == QTextStream::Ok ? Walk::Into : Walk::End;
-        },
-        [&](const QDomElement &group) {
-            indentation.chop(Indent);
-            ts << QStringView(indentation).sliced(1) << "</" << group.tagName() << ">\n";
-        });
+    writeGroup(grownTree(), node, true, ts);
 }
 
 void Config::forEachSetting(
