@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A print file of any bytes: its lines hold all of them, and its drawing commands no terminal.
 #include "fuzz/scratch.h"
-#include "tools/preview/terminaldrawing.h"
+#include "tools/preview/preview.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support.h"
-#include "tools/preview/document.h"
-#include "tools/preview/terminaldrawing.h"
+#include "tools/preview/preview.h"
 
 #include <QDir>
 #include <QRegularExpression>

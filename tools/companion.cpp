@@ -3,7 +3,7 @@
 
 #include "tools/check/requestcheck.h"
 #include "tools/config/subcommands.h"
-#include "tools/preview/previewcommand.h"
+#include "tools/preview/preview.h"
 #include "tools/queue/queuecommand.h"
 #include "tools/schema/schema.h"
 #include "tools/terminal.h"

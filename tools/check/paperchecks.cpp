@@ -4,7 +4,7 @@
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "tools/paperrules.h"
-#include "tools/preview/printfile.h"
+#include "tools/preview/paper.h"
 #include "tools/terminal.h"
 
 #include <QTextCodec>

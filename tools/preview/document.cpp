@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/document.h"
+#include "tools/preview/preview.h"
 
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
@@ -89,19 +89,15 @@ std::optional<Input> readInput(const tools::Call &call, const QString &name)
     if (!file)
         return std::nullopt;
     QByteArray bytes;
-    for (QByteArray piece = file->read(PieceBytes); !piece.isEmpty();
-         piece = file->read(PieceBytes)) {
-        bytes += piece;
-        if (bytes.size() > MostBytes) {
-            tools::tellTrouble(call, name, u"it has more than %1 bytes"_s.arg(MostBytes));
-            return std::nullopt;
-        }
-    }
-    if (file->error() != QFile::NoError) {
-        tools::tellTrouble(call, name, file->errorString());
-        return std::nullopt;
-    }
-    return Input{name, bytes, isRequest(bytes)};
+    for (QByteArray piece(1, ' '); !piece.isEmpty() && bytes.size() <= MostBytes; bytes += piece)
+        piece = file->read(PieceBytes);
+    const QString fault = bytes.size() > MostBytes ? u"it has more than %1 bytes"_s.arg(MostBytes)
+                          : file->error() != QFile::NoError ? file->errorString()
+                                                            : QString();
+    if (fault.isEmpty())
+        return Input{name, bytes, isRequest(bytes)};
+    tools::tellTrouble(call, name, fault);
+    return std::nullopt;
 }
 
 bool isRequest(const QByteArray &bytes)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/previewcommand.h"
+#include "tools/preview/preview.h"
 
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
 #include "tools/companion.h"
-#include "tools/preview/document.h"
-#include "tools/preview/terminaldrawing.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
@@ -39,10 +37,11 @@ void addOptions(tools::CommandLine &line)
     line.addOption({{u"o"_s, u"output"_s},
                     u"Draws a picture instead: a name that ends in .png, .svg or .pdf."_s,
                     u"PICTURE"_s});
-    line.addOption({u"dpi"_s, u"The dots per inch of a .png, 203 unless given."_s, u"DPI"_s});
+    line.addOption(
+        {u"dpi"_s, u"The dots per inch of a .png, 203 unless given."_s, u"DPI"_s, u"203"_s});
     line.addOption({u"width-mm"_s,
                     u"The paper's width in the picture, 58 or 80 (unless given) millimetres."_s,
-                    u"WIDTH"_s});
+                    u"WIDTH"_s, u"80"_s});
     line.addOption({u"annotate"_s, u"Shows the line of the request that each line comes from."_s});
     line.addOption({u"columns"_s,
                     u"The characters in a line of the paper; unless given, as the configuration "
@@ -60,8 +59,6 @@ void addOptions(tools::CommandLine &line)
 QString readNumber(const tools::CommandLine &line, const QString &option, int least, int most,
                    int &number)
 {
-    if (!line.isSet(option))
-        return {};
     number = line.value(option).toInt(); // 0 for what is none
     return number >= least && number <= most
                ? QString()
@@ -88,13 +85,13 @@ QString readOptions(const tools::CommandLine &line, Options &options)
     if (options.annotate && !options.other.isEmpty())
         return u"--annotate and --against do not go together"_s;
     options.picture.inPairs = !options.other.isEmpty(); // before and after
-    const QString width = line.value(u"width-mm"_s);
-    if (line.isSet(u"width-mm"_s) && width != "58"_L1 && width != "80"_L1)
+    options.picture.paper.widthMm = line.value(u"width-mm"_s).toInt();
+    if (options.picture.paper.widthMm != 58 && options.picture.paper.widthMm != 80)
         return u"--width-mm is 58 or 80"_s;
-    options.picture.paper.widthMm = width == "58"_L1 ? 58 : 80;
-    const QString mistake = readNumber(line, u"dpi"_s, 50, 1'200, options.picture.paper.dpi);
-    return mistake.isEmpty() ? readNumber(line, u"columns"_s, 1, MostPaperWidth, options.columns)
-                             : mistake;
+    QString mistake = readNumber(line, u"dpi"_s, 50, 1'200, options.picture.paper.dpi);
+    if (mistake.isEmpty() && line.isSet(u"columns"_s))
+        mistake = readNumber(line, u"columns"_s, 1, MostPaperWidth, options.columns);
+    return mistake;
 }
 
 bool isColoured()
@@ -119,7 +116,6 @@ public:
 
 private:
     std::optional<Document> documentOf(const Input &input);
-    bool useFirst();
     bool show(const QString &name, const Document &document);
     bool compare();
     bool showChange(const QString &name, const Document &before, const Document &after);
@@ -135,6 +131,8 @@ private:
     const tools::Call &call;
     const Options &options;
     const QStringList &names;
+    const QString first =
+        options.configuration.isEmpty() ? ZTConfiguration::userFile() : options.configuration;
     tools::ConfigurationInUse configuration;
     bool isConfigured = false;                        // print files need no configuration
     std::vector<std::pair<Input, Document>> compared; // with the first configuration
@@ -173,8 +171,14 @@ bool Preview::draw()
 /// told. Nothing for a configuration that cannot be read.
 std::optional<Document> Preview::documentOf(const Input &input)
 {
-    if (input.isRequest && !std::exchange(isConfigured, true) && !useFirst())
-        return std::nullopt;
+    if (input.isRequest && !std::exchange(isConfigured, true)) {
+        if (!configuration.use(call, options.configuration))
+            return std::nullopt;
+        if (configuration.isMissing())
+            tell(
+                first,
+                u"no such file: every setting has its default; `zentaro config init` writes one"_s);
+    }
     const text::LineSink errors(text::LineSink::toErrors);
     Document document = input.isRequest ? render(input.bytes, options.annotate)
                                         : Document{input.bytes, options.codec, {}, {}};
@@ -185,16 +189,6 @@ std::optional<Document> Preview::documentOf(const Input &input)
     if (document.printFile.isEmpty())
         tell(input.name, u"nothing is printed"_s);
     return document;
-}
-
-bool Preview::useFirst()
-{
-    if (!configuration.use(call, options.configuration))
-        return false;
-    if (configuration.isMissing())
-        tell(ZTConfiguration::userFile(),
-             u"no such file: every setting has its default; `zentaro config init` writes one"_s);
-    return true;
 }
 
 /// On the terminal, or as a sheet of the picture.
@@ -241,8 +235,6 @@ bool Preview::compare()
 bool Preview::showChange(const QString &name, const Document &before, const Document &after)
 {
     const QString title = QFileInfo(name).fileName() + ", "_L1;
-    const QString first =
-        options.configuration.isEmpty() ? ZTConfiguration::userFile() : options.configuration;
     std::array<Sheet, 2> pair{{{title + QFileInfo(first).fileName(), rowsOf(before), {}},
                                {title + QFileInfo(options.other).fileName(), rowsOf(after), {}}}};
     QString text = "--- "_L1 + tools::inOneLine(name) + u'\t' + tools::inOneLine(first)

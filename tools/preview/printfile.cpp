@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/printfile.h"
+#include "tools/preview/paper.h"
 
 #include "tools/paperrules.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/terminaldrawing.h"
+#include "tools/preview/preview.h"
 
 #include <QStringList>
 #include <QTextCodec>

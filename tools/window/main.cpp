@@ -3,7 +3,7 @@
 #include "tools/config/source.h"
 #include "tools/terminal.h"
 #include "tools/window/configeditor.h"
-#include "tools/window/picturefile.h"
+#include "tools/window/sheetpainter.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -7,7 +7,7 @@
 #include "render/vocabulary.h"
 #include "text/standardoutput.h"
 #include "tools/check/elementtable.h"
-#include "tools/preview/document.h"
+#include "tools/preview/preview.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

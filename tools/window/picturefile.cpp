@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "tools/window/picturefile.h"
-
 #include "tools/window/sheetpainter.h"
 
 #include <QBuffer>

@@ -84,4 +84,9 @@ private:
     mutable QHash<char32_t, Glyph> glyphs;
 };
 
+/// Draws the sheets into a file, in rows beside each other; each row is a page of a PDF. The file
+/// is replaced when the new one is complete. Answers why it could not be written, and an empty text
+/// when it was. Needs a QGuiApplication, and no display.
+QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &options);
+
 } // namespace preview
