@@ -127,13 +127,15 @@ QString PrinterDriver::documentPath(const QString &type)
 void PrinterDriver::loadValues(const QString &type)
 {
     docPath = documentPath(type);
-    for (const SettingKey<int> &number : numberSettings)
-        settings.*number.member = numberSetting(number.keyWord);
+    for (const Setting &loaded : loadedSettings) {
+        if (loaded.number)
+            settings.*loaded.number = numberSetting(loaded.word);
+        else
+            settings.*loaded.aSwitch = setting(loaded.word) == "true"_L1;
+    }
     if (settings.paperWidth == 0)
         settings.paperWidth = int(getPaperWidth());
     settings.style = setting("style"_L1);
-    for (const SettingKey<bool> &aSwitch : switchSettings)
-        settings.*aSwitch.member = setting(aSwitch.keyWord) == "true"_L1;
     descriptionWidth = {};
 }
 

@@ -134,31 +134,10 @@ consteval auto Setting::all()
 
 inline constexpr auto allSettings = Setting::all();
 
-/// A key word of the configuration and the member that it fills.
-template <typename T>
-struct SettingKey
-{
-    QLatin1StringView keyWord;
-    T DocumentSettings::*member;
-};
-
-/// The key words of the settings that fill a member of this type.
-template <typename T, T DocumentSettings::*Setting::*Member>
-consteval auto keysOf()
-{
-    constexpr auto Count = std::ranges::count_if(
-        allSettings, [](const Setting &setting) { return setting.*Member != nullptr; });
-    std::array<SettingKey<T>, Count> keys{};
-    auto key = keys.begin();
-    for (const Setting &setting : allSettings) {
-        if (setting.*Member)
-            *key++ = {QLatin1StringView(setting.word), setting.*Member};
-    }
-    return keys;
-}
-
-/// The whole numbers, in the order in which they are read.
-inline constexpr auto numberSettings = keysOf<int, &Setting::number>();
-
-/// The switches, in the order in which they are read (not that of the members).
-inline constexpr auto switchSettings = keysOf<bool, &Setting::aSwitch>();
+/// The settings that fill a member, in the order in which they are read.
+inline constexpr auto loadedSettings = [] {
+    constexpr auto fills = [](const Setting &setting) { return setting.number || setting.aSwitch; };
+    std::array<Setting, std::ranges::count_if(allSettings, fills)> loaded{};
+    std::ranges::copy_if(allSettings, loaded.begin(), fills);
+    return loaded;
+}();

@@ -50,8 +50,10 @@ void configureAll(QLatin1StringView off = {})
 {
     QByteArray settings =
         "quantityFieldWidth=7;priceFieldWidth=8;totalPriceFieldWidth=9;paperWidth=400;";
-    for (const SettingKey<bool> &key : switchSettings)
-        settings += key.keyWord.data() + QByteArray(key.keyWord == off ? "=false;" : "=true;");
+    for (const Setting &key : loadedSettings) {
+        if (key.aSwitch)
+            settings += key.word.data() + QByteArray(key.word == off ? "=false;" : "=true;");
+    }
     QByteArray groups;
     for (const DocumentType &type : documentTypes)
         groups += QString(type.keyPrefix).section(u'.', 1, 1).toLatin1() + ":{" + settings + "};";
@@ -102,8 +104,10 @@ Names expected(const ElementRow *row, const QXmlAttributes &atts, const Document
 TEST(RequestTable, SaysWhatEveryDocumentPrints)
 {
     std::vector<QLatin1StringView> offs{{}};
-    for (const SettingKey<bool> &key : switchSettings)
-        offs.push_back(key.keyWord);
+    for (const Setting &key : loadedSettings) {
+        if (key.aSwitch)
+            offs.push_back(key.word);
+    }
     Names elements{u"print"_s, u"RECEIPE"_s};
     for (const ElementRow &row : requestcheck::elementRows())
         elements.insert(row.element.toString());

@@ -331,9 +331,8 @@ std::span<const ElementRow> elementRows() { return rows; }
 
 QString keyWordOf(bool S::*aSwitch)
 {
-    const auto &switches = switchSettings;
-    const auto found = std::ranges::find(switches, aSwitch, &SettingKey<bool>::member);
-    return found == switches.end() ? QString() : QString(found->keyWord);
+    const auto *const found = std::ranges::find(loadedSettings, aSwitch, &Setting::aSwitch);
+    return aSwitch && found != loadedSettings.end() ? QString(found->word) : QString();
 }
 
 Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
