@@ -92,15 +92,15 @@ struct KeyPath
 {
     explicit KeyPath(QStringView key)
     {
-        for (const QStringView field : qTokenize(key, u'.'))
+        for (const QStringView field : qTokenize(key, u'.')) {
+            if (groups.size() >= 2 && field.isEmpty())
+                break; // an empty field after a setting's name ends the key there
             groups.append(field);
-        // An empty field after a setting's name ends the key there.
-        qsizetype last = 2;
-        while (last < groups.size() && !groups[last].isEmpty())
-            ++last;
-        if (groups.size() > 1)
-            setting = groups[last - 1];
-        groups.resize(qMax(last - 1, qsizetype(1)));
+        }
+        if (groups.size() > 1) {
+            setting = groups.back();
+            groups.removeLast();
+        }
     }
 
     QVarLengthArray<QStringView, 8> groups;
