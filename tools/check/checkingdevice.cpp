@@ -162,7 +162,9 @@ bool CheckingDevice::startMethod(const QXmlAttributes &atts)
     method = chosen - documentMethods.data();
     methodTag = places.range();
     seenRoles.clear();
-    knownElements = elementsOf(method);
+    knownElements.clear();
+    for (const ElementRow *const row : rowsOf(method))
+        knownElements.push_back(row->element.toString());
     if (knownElements.empty())
         tell("prints-nothing", u'`' + name + "` prints nothing, whatever the request holds"_L1,
              methodTag);
@@ -197,19 +199,24 @@ void CheckingDevice::checkElement()
             checkUnknownElement();
         return;
     }
-    const std::array methodName = {element::method.toString()};
     const bool isKnown = !documentsWith(current.name).empty();
-    const QString meant = isKnown ? QString() : tools::nearest(current.name, methodName);
     if (isRoot && !isKnown)
         return;
-    const tools::Finding early = finding(
-        "before-method",
-        tools::excerpt(current.name) + " stands before the `method` element and prints nothing"_L1,
-        places.range(), meant);
-    if (isKnown || !meant.isEmpty() || hasPlainAttributes(current.atts))
-        findings.add(early);
-    else
-        unlessGroup = early;
+    const std::array names = {element::method.toString()};
+    const QString meant = isKnown ? QString() : tools::nearest(current.name, names);
+    tellUnlessGroup(finding("before-method",
+                            tools::excerpt(current.name)
+                                + " stands before the `method` element and prints nothing"_L1,
+                            places.range(), meant),
+                    isKnown);
+}
+
+/// An element of a name that nobody knows, without attributes, may group others.
+void CheckingDevice::tellUnlessGroup(const tools::Finding &told, bool isKnown)
+{
+    unlessGroup = told;
+    if (isKnown || !told.suggestion.isEmpty() || hasPlainAttributes(current.atts))
+        finish();
 }
 
 /// What a name that the document does not read stands for: the nearest that it reads, or what has
@@ -217,19 +224,20 @@ void CheckingDevice::checkElement()
 QString CheckingDevice::meantElement() const
 {
     std::vector<QString> names = knownElements;
+    std::vector<QString> meant = knownElements;
     for (const ElementRow &row : elementRows()) {
-        if (row.role != Role::Other && !elementWith(row.role, method).isEmpty())
+        const QString same = elementWith(row.role, method);
+        if (row.role != Role::Other && !same.isEmpty()) {
             names.push_back(row.element.toString());
+            meant.push_back(same);
+        }
     }
-    const bool isElsewhere = !documentsWith(current.name).empty();
     const QString near = tools::nearest(current.name, names);
-    if (elementRow(near, method))
-        return isElsewhere && near != current.name ? QString() : near;
-    const auto rows = elementRows();
-    const auto row = std::ranges::find_if(rows, [&near](const ElementRow &other) {
-        return other.element == near && other.role != Role::Other;
-    });
-    return row == rows.end() ? QString() : elementWith(row->role, method);
+    const size_t found = std::ranges::find(names, near) - names.begin();
+    const bool isRead = found < knownElements.size();
+    if (found == names.size() || (isRead && !documentsWith(current.name).empty()))
+        return {}; // an element of another document is none that is misspelt
+    return meant[found];
 }
 
 void CheckingDevice::checkUnknownElement()
@@ -244,11 +252,7 @@ void CheckingDevice::checkUnknownElement()
         text += ": it is read in "_L1 + someOf(readers);
     else if (meant.isEmpty() && !isFull)
         text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
-    const tools::Finding unknown = finding(code, text, places.range(), meant);
-    if (readers.empty() && meant.isEmpty() && !hasPlainAttributes(current.atts))
-        unlessGroup = unknown;
-    else
-        findings.add(unknown);
+    tellUnlessGroup(finding(code, text, places.range(), meant), !readers.empty());
 }
 
 void CheckingDevice::checkAttributes()
@@ -273,7 +277,7 @@ void CheckingDevice::checkAttributes()
              placeOf("name"_L1));
     else
         seenRoles.insert(row.role);
-    if (isOff(row.onlyIf))
+    if (isOff(settings, row.onlyIf))
         tellSwitchedOff(row.onlyIf, current.name, places.range());
     for (int i = 0; i < current.atts.count(); ++i)
         checkAttribute(i);
@@ -292,7 +296,7 @@ void CheckingDevice::checkAttribute(int position)
         tellUnread(position);
     else if (fate == Fate::Printed && !row.isHidden(current.atts))
         checkValue(position);
-    else if (fate == Fate::SwitchedOff && use && !isOff(row.onlyIf)
+    else if (fate == Fate::SwitchedOff && use && !isOff(settings, row.onlyIf)
              && !current.atts.value(position).isEmpty())
         tellSwitchedOff(use->onlyIf, name, places.attribute(position));
 }
@@ -323,11 +327,6 @@ void CheckingDevice::tellUnread(int position)
     tell(code, text, at, meant);
 }
 
-bool CheckingDevice::isOff(bool DocumentSettings::*aSwitch) const
-{
-    return aSwitch && !(settings.*aSwitch);
-}
-
 /// Once for a switch.
 void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
                                      const Range &at)
@@ -342,10 +341,11 @@ void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QStr
 void CheckingDevice::checkMissing()
 {
     const ElementRow &row = *current.row;
-    if (isOff(row.onlyIf) || row.isHidden(current.atts))
+    if (isOff(settings, row.onlyIf) || row.isHidden(current.atts))
         return;
     for (const AttributeUse &use : row.attributes) {
-        if (isOff(use.onlyIf) || use.need != Need::Expected || current.atts.index(use.name) >= 0)
+        if (isOff(settings, use.onlyIf) || use.need != Need::Expected
+            || current.atts.index(use.name) >= 0)
             continue;
         const auto instead = use.column == Column::Sign ? "`-`"_L1 : "empty"_L1;
         tell("missing-attribute",

@@ -62,12 +62,12 @@ private:
 
     void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {});
     Range placeOf(QLatin1StringView attribute) const;
-    bool isOff(bool DocumentSettings::*aSwitch) const; ///< not for null, which is no switch
 
     void checkDeclaration();
     bool startMethod(const QXmlAttributes &atts);
     void checkElement();
     void checkUnknownElement();
+    void tellUnlessGroup(const tools::Finding &told, bool isKnown);
     QString meantElement() const;
     void checkComplete();
     // The attributes against the table.

@@ -297,14 +297,6 @@ std::vector<const ElementRow *> rowsOf(qsizetype method)
     return result;
 }
 
-std::vector<QString> elementsOf(qsizetype method)
-{
-    std::vector<QString> names;
-    for (const ElementRow *const row : rowsOf(method))
-        names.push_back(row->element.toString());
-    return names;
-}
-
 QString elementWith(Role role, qsizetype method)
 {
     const auto *const found = std::ranges::find_if(
@@ -348,8 +340,9 @@ Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
         return row.rest == Rest::Ignored ? Fate::Kept : Fate::Unread;
     if (isNamed && use->need == Need::Kept)
         return Fate::Kept;
-    const auto isOff = [&](bool S::*aSwitch) { return aSwitch && !(settings.*aSwitch); };
-    return isOff(row.onlyIf) || (isNamed && isOff(use->onlyIf)) ? Fate::SwitchedOff : Fate::Printed;
+    return isOff(settings, row.onlyIf) || (isNamed && isOff(settings, use->onlyIf))
+               ? Fate::SwitchedOff
+               : Fate::Printed;
 }
 
 } // namespace requestcheck

@@ -82,19 +82,22 @@ struct ElementRow
 const ElementRow *elementRow(QStringView element, qsizetype method);
 /// The element that names the document method, which all documents read.
 const ElementRow &methodElement();
-/// The elements that a method reacts to, those of the top of a document first.
-std::vector<QString> elementsOf(qsizetype method);
 /// The first element that has the role in a document; empty without one.
 QString elementWith(Role role, qsizetype method);
 /// The names of the documents that read the element.
 std::vector<QString> documentsWith(QStringView element);
-/// The rows that a document reads.
+/// The rows that a document reads, those of its top first.
 std::vector<const ElementRow *> rowsOf(qsizetype method);
 /// What a document is, in half a sentence.
 QLatin1StringView summaryOf(qsizetype method);
 /// All rows.
 std::span<const ElementRow> elementRows();
 
+/// Whether a switch is off; null is none.
+inline bool isOff(const DocumentSettings &settings, bool DocumentSettings::*aSwitch)
+{
+    return aSwitch && !(settings.*aSwitch);
+}
 /// The key word of a switch; empty for null.
 QString keyWordOf(bool DocumentSettings::*aSwitch);
 
