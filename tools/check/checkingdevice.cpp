@@ -51,10 +51,7 @@ CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &fin
     stream = std::make_unique<QTextStream>(&paper);
 }
 
-CheckingDevice::~CheckingDevice()
-{
-    stream.reset(); // before the text that it writes to
-}
+CheckingDevice::~CheckingDevice() { stream.reset(); } // before the text that it writes to
 
 void CheckingDevice::tell(Code code, const QString &text, const Range &at,
                           const QString &suggestion)

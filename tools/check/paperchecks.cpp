@@ -50,8 +50,6 @@ QString inCharacters(qsizetype count)
     return QString::number(count) + (count == 1 ? " character"_L1 : " characters"_L1);
 }
 
-bool isLineEnd(QChar c) { return c == u'\n' || c == u'\r'; }
-
 bool isControl(QChar c)
 {
     return c.unicode() < 0x20 || (c.unicode() >= 0x7F && c.unicode() < 0xA0);
@@ -88,7 +86,7 @@ void CheckingDevice::checkValue(int position)
 
 void CheckingDevice::checkCharacters(const QString &value, const QString &name, const Range &at)
 {
-    if (std::ranges::any_of(value, isLineEnd)) {
+    if (value.contains(u'\n') || value.contains(u'\r')) {
         tell("line-feed",
              "a line end in "_L1 + name + ": the printer takes what follows for a command"_L1, at);
     } else {
@@ -217,18 +215,16 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
         tellTooLong(text, excess);
         return;
     }
-    const auto tellNotCentred = [&](const QString &trouble) {
-        tell("not-centred", tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
-             isPrinterName ? printer : places.attribute(longestIn(text)));
-    };
-    const bool isCentred = justify == "center"_L1;
-    const bool hasRoom = width - size >= 2;
     const bool hasColumns = current.row && current.row->hasColumns();
+    QString trouble;
     if (pad + size > width)
-        tellNotCentred("the line ends "_L1 + inCharacters(pad + size - width)
-                       + " behind the paper"_L1);
-    else if (isCentred && pad == 0 && hasRoom && !hasColumns)
-        tellNotCentred(u"it begins at the edge of the paper"_s);
+        trouble = "the line ends "_L1 + inCharacters(pad + size - width) + " behind the paper"_L1;
+    else if (justify == "center"_L1 && pad == 0 && width - size >= 2 && !hasColumns)
+        trouble = u"it begins at the edge of the paper"_s;
+    else
+        return;
+    tell("not-centred", tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
+         isPrinterName ? printer : places.attribute(longestIn(text)));
 }
 
 /// The position of the longest attribute that stands in the line; -1 where none does.
@@ -270,7 +266,7 @@ void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
     }
     if (isTold)
         return;
-    const int longest = isPrinterName ? -1 : longestIn(text);
+    const int longest = longestIn(text);
     const QString what = isPrinterName ? u"the printer's name"_s
                          : longest >= 0
                              ? "the line of "_L1 + tools::excerpt(current.atts.qName(longest))
