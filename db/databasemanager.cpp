@@ -17,9 +17,6 @@ namespace {
 
 QString defaultName() { return QLatin1StringView(QSqlDatabase::defaultConnection); }
 
-/// The toolkit knows this driver by one name only.
-QString toolkitDriver(const QString &driver) { return driver == "QPSQL7"_L1 ? u"QPSQL"_s : driver; }
-
 /// A value as text; empty for NULL, which the toolkit has as "0" in a column of numbers.
 QString valueOf(const QSqlQuery &query, int column)
 {
@@ -100,7 +97,8 @@ QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QSt
     QSqlDatabase::removeDatabase(name);
     closeConnectionsAtExit();
 
-    const QString toolkitName = toolkitDriver(driver);
+    // The toolkit knows this driver by one name only.
+    const QString toolkitName = driver == "QPSQL7"_L1 ? u"QPSQL"_s : driver;
     QSqlDatabase added;
     if (QSqlDatabase::isDriverAvailable(toolkitName))
         added = QSqlDatabase::addDatabase(toolkitName, name);
