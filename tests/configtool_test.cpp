@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "config/config.h"
 #include "tests/configfiles.h"
-#include "tools/config/losses.h"
 #include "tools/config/outline.h"
 #include "tools/config/settingcheck.h"
 #include "tools/config/settingedit.h"

@@ -297,15 +297,15 @@ TEST(RequestCheck, PointsAtTagsAndAttributesInEveryEncoding)
             head.arg(QLatin1StringView(row.encoding)) + QString::fromUtf8(row.request);
         const auto findings = findingsIn(QTextCodec::codecForName(row.encoding)->fromUnicode(text));
         ASSERT_FALSE(findings.empty()) << row.request;
-        EXPECT_EQ(findings.front().at.line, row.line) << row.request;
-        EXPECT_EQ(findings.front().at.column, row.column) << row.request;
+        EXPECT_EQ(findings.front().at.begin.line, row.line) << row.request;
+        EXPECT_EQ(findings.front().at.begin.column, row.column) << row.request;
     }
     const QByteArray far = QByteArray(100'000, '\n') + " <a/>";
-    EXPECT_EQ(findingsIn(document("Sold", far)).front().at.line, 100'001);
+    EXPECT_EQ(findingsIn(document("Sold", far)).front().at.begin.line, 100'001);
     const auto fromEntity =
         findingsIn("<!DOCTYPE p [<!ENTITY e \"<a/>\">]>\n" + document("Sold", "\n &e;"));
-    EXPECT_EQ(fromEntity.front().at.line, 3);
-    EXPECT_EQ(fromEntity.front().at.column, 2);
+    EXPECT_EQ(fromEntity.front().at.begin.line, 3);
+    EXPECT_EQ(fromEntity.front().at.begin.column, 2);
 }
 
 TEST(RequestCheck, KeepsAHundredOfACode)

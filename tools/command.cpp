@@ -30,8 +30,7 @@ int tellTrouble(const Call &call, const QString &name, const QString &trouble)
 int dispatch(const Call &call, const CommandGroup &group)
 {
     CommandLine line(call, group.description);
-    for (const QCommandLineOption &option : group.common)
-        line.addOption(option);
+    line.addOptions(group.common);
     if (group.version)
         line.addOption({u"version"_s, u"Shows the version."_s});
     line.addArgument(u"COMMAND"_s, u"What to do, see below."_s, u"COMMAND ..."_s);

@@ -61,6 +61,7 @@ public:
     CommandLine(const Call &call, const QString &description);
 
     void addOption(const QCommandLineOption &option) { parser.addOption(option); }
+    void addOptions(const QList<QCommandLineOption> &options) { parser.addOptions(options); }
     /// `syntax` as the usage line shows it, as "KEY...".
     void addArgument(const QString &name, const QString &description, const QString &syntax = {});
     /// Leaves options that follow the first argument to whoever reads the arguments.

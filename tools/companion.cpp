@@ -2,7 +2,7 @@
 #include "tools/companion.h"
 
 #include "tools/check/requestcheck.h"
-#include "tools/config/subcommands.h"
+#include "tools/config/configcommand.h"
 #include "tools/preview/preview.h"
 #include "tools/queue/queuecommand.h"
 #include "tools/schema/schema.h"

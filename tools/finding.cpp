@@ -19,8 +19,16 @@ namespace {
 void sortByPlace(std::vector<Finding> &findings)
 {
     std::ranges::stable_sort(findings, {}, [](const Finding &finding) {
-        return std::pair(finding.at.line, finding.at.column);
+        return std::pair(finding.at.begin.line, finding.at.begin.column);
     });
+}
+
+/// The word for a severity, as messages bear it.
+QLatin1StringView severityName(Severity severity)
+{
+    return severity == Severity::Note      ? "note"_L1
+           : severity == Severity::Warning ? "warning"_L1
+                                           : "error"_L1;
 }
 
 } // namespace
@@ -42,11 +50,7 @@ std::vector<Finding> FindingStore::take()
     sortByPlace(kept);
     for (const auto &[code, count] : std::exchange(counts, {})) {
         if (count > MostOfACode)
-            kept.push_back({Severity::Note,
-                            code,
-                            QString::number(count - MostOfACode) + " more like this"_L1,
-                            {},
-                            -1});
+            kept.push_back({Severity::Note, code, u"%1 more like this"_s.arg(count - MostOfACode)});
     }
     return std::exchange(kept, {});
 }
@@ -65,53 +69,35 @@ bool hasError(const std::vector<Finding> &findings)
     return std::ranges::find(findings, Severity::Error, &Finding::severity) != findings.end();
 }
 
-QLatin1StringView severityName(Severity severity)
-{
-    switch (severity) {
-    case Severity::Note:
-        return "note"_L1;
-    case Severity::Warning:
-        return "warning"_L1;
-    case Severity::Error:
-        break;
-    }
-    return "error"_L1;
-}
-
 QString findingLines(const QString &fileName, const std::vector<Finding> &findings)
 {
     QString lines;
-    for (const Finding &finding : findings) {
+    for (const auto &[severity, code, text, at, subject, suggestion] : findings) {
         lines += inOneLine(fileName) + u':';
-        if (finding.at.line > 0)
-            lines +=
-                QString::number(finding.at.line) + u':' + QString::number(finding.at.column) + u':';
-        lines += u' ' + severityName(finding.severity) + ": "_L1 + finding.text + " ["_L1
-                 + finding.code + "]\n"_L1;
+        if (at.begin.line > 0)
+            lines += u"%1:%2:"_s.arg(at.begin.line).arg(at.begin.column);
+        lines += u' ' + severityName(severity) + ": "_L1 + text + " ["_L1 + code + "]\n"_L1;
     }
     return lines;
-}
-
-QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings)
-{
-    return findingsAsJson({{fileName, findings}});
 }
 
 QString findingsAsJson(const std::vector<FileFindings> &files)
 {
     QJsonArray array;
-    for (const FileFindings &file : files) {
-        for (const Finding &finding : file.findings) {
-            QJsonObject object{
-                {u"file"_s, file.fileName},       {u"line"_s, finding.at.line},
-                {u"column"_s, finding.at.column}, {u"severity"_s, severityName(finding.severity)},
-                {u"code"_s, finding.code},        {u"message"_s, finding.text}};
-            if (finding.end.line > 0) {
-                object.insert(u"endLine"_s, finding.end.line);
-                object.insert(u"endColumn"_s, finding.end.column);
+    for (const auto &[fileName, findings] : files) {
+        for (const auto &[severity, code, text, at, subject, suggestion] : findings) {
+            QJsonObject object{{u"file"_s, fileName},
+                               {u"line"_s, at.begin.line},
+                               {u"column"_s, at.begin.column},
+                               {u"severity"_s, severityName(severity)},
+                               {u"code"_s, code},
+                               {u"message"_s, text}};
+            if (at.end.line > 0) {
+                object.insert(u"endLine"_s, at.end.line);
+                object.insert(u"endColumn"_s, at.end.column);
             }
-            if (!finding.suggestion.isEmpty())
-                object.insert(u"suggestion"_s, finding.suggestion);
+            if (!suggestion.isEmpty())
+                object.insert(u"suggestion"_s, suggestion);
             array.append(object);
         }
     }

@@ -18,14 +18,20 @@ struct Place
     qint64 column = 0;
 };
 
+/// From a character to the place behind another; line 0 where that is not known.
+struct Range
+{
+    Place begin;
+    Place end;
+};
+
 struct Finding
 {
     Severity severity;
     QLatin1StringView code; ///< a stable name for what was found, as "unknown-key"
     QString text;
-    Place at;
-    qsizetype subject = -1; ///< what it is about, as the checker counts its things; -1: the file
-    Place end{};            ///< behind what it is about; line 0 where that is not known
+    Range at{};             ///< what it is about
+    qsizetype subject = -1; ///< likewise, as the checker counts its things; -1: the file
     QString suggestion{};   ///< what should stand there; empty where nobody knows
 };
 
@@ -55,14 +61,9 @@ std::vector<Finding> abridged(std::vector<Finding> findings);
 
 bool hasError(const std::vector<Finding> &findings);
 
-/// The word for a severity, as messages bear it.
-QLatin1StringView severityName(Severity severity);
 /// `file:line:column: severity: text [code]`, a line each; the place is left away where there is
 /// none.
 QString findingLines(const QString &fileName, const std::vector<Finding> &findings);
-/// A JSON array (which is UTF-8 whatever the locale) of objects with the members file, line,
-/// column, severity, code and message, and where they are known endLine, endColumn and suggestion.
-QString findingsAsJson(const QString &fileName, const std::vector<Finding> &findings);
 
 /// The findings about one file of several.
 struct FileFindings
@@ -71,7 +72,8 @@ struct FileFindings
     std::vector<Finding> findings;
 };
 
-/// The same array for all files.
+/// A JSON array (which is UTF-8 whatever the locale) of objects with the members file, line,
+/// column, severity, code and message, and where they are known endLine, endColumn and suggestion.
 QString findingsAsJson(const std::vector<FileFindings> &files);
 
 } // namespace tools

@@ -2,7 +2,6 @@
 #include "tools/knownkeys.h"
 
 #include <algorithm>
-#include <span>
 
 namespace tools {
 
@@ -45,13 +44,6 @@ QStringList knownGroups()
     return groups;
 }
 
-bool isKnownGroup(QStringView group)
-{
-    return isDocumentGroup(group) || std::ranges::any_of(allSettings, [group](const Setting &each) {
-               return !each.group.isEmpty() && group == each.group;
-           });
-}
-
 bool isDocumentGroup(QStringView group) { return typeOf(group) >= 0; }
 
 std::vector<const Setting *> settingsOf(QStringView group)
@@ -80,6 +72,13 @@ const Setting *findSetting(QStringView group, QStringView word)
         return word == setting.word && isIn(setting, group, type);
     });
     return found == allSettings.end() ? nullptr : &*found;
+}
+
+const Setting *settingOf(const QString &key)
+{
+    const QStringList names = key.split(u'.');
+    return names.size() == 3 && names[0] == ProductGroup ? findSetting(names[1], names[2])
+                                                         : nullptr;
 }
 
 QStringList wordsOf(SettingKind kind)

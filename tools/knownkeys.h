@@ -19,16 +19,17 @@ inline QString keyOf(const QString &group, const QString &word)
 
 /// The groups below it, in the order of a complete file.
 QStringList knownGroups();
-/// Whether the suite reads anything of the group.
-bool isKnownGroup(QStringView group);
 /// Whether the group holds the settings of a type of document.
 bool isDocumentGroup(QStringView group);
 /// The settings of a group, in the order of a complete file; none for an unknown group.
 std::vector<const Setting *> settingsOf(QStringView group);
+/// Whether the suite reads anything of the group.
+inline bool isKnownGroup(QStringView group) { return !settingsOf(group).empty(); }
 /// The same, only their key words.
 QStringList knownWords(QStringView group);
-/// A setting; null for an unknown one.
+/// A setting, also by its dotted key; null for an unknown one.
 const Setting *findSetting(QStringView group, QStringView word);
+const Setting *settingOf(const QString &key);
 /// The words that a value of a kind has to be one of, in any letter case; none for other kinds.
 QStringList wordsOf(SettingKind kind);
 /// The groups in which a key word is known.

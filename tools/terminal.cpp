@@ -4,8 +4,10 @@
 #include "text/localeencoding.h"
 #include "tools/command.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
+#include <vector>
 
 namespace tools {
 
@@ -17,6 +19,34 @@ bool write(const QByteArray &bytes, std::FILE *file)
 {
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), file);
     return std::fflush(file) == 0 && std::ferror(file) == 0;
+}
+
+/// The number of letters to insert, delete, change or swap with their neighbour to make one word of
+/// the other; the case of letters counts nothing.
+int editDistance(QStringView a, QStringView b)
+{
+    // Rows of the table of distances between the beginnings of both words.
+    const auto width = size_t(b.size()) + 1;
+    std::vector<int> before(width);
+    std::vector<int> above(width);
+    std::vector<int> row(width);
+    for (size_t j = 0; j < width; ++j)
+        above[j] = int(j);
+    for (qsizetype i = 1; i <= a.size(); ++i) {
+        row[0] = int(i);
+        for (size_t j = 1; j < width; ++j) {
+            const auto same = [&](qsizetype ai, size_t bj) {
+                return a[ai].toLower() == b[qsizetype(bj)].toLower();
+            };
+            row[j] = std::min(
+                {above[j] + 1, row[j - 1] + 1, above[j - 1] + (same(i - 1, j - 1) ? 0 : 1)});
+            if (i > 1 && j > 1 && same(i - 1, j - 2) && same(i - 2, j - 1))
+                row[j] = std::min(row[j], before[j - 2] + 1);
+        }
+        before.swap(above);
+        above.swap(row);
+    }
+    return above.back();
 }
 
 } // namespace
@@ -68,6 +98,30 @@ QString excerpt(const QString &text)
     constexpr qsizetype Most = 40; // characters
     const QString line = inOneLine(text.first(qMin(text.size(), Most + 1)));
     return u'`' + (text.size() > Most ? line.first(qMin(line.size(), Most)) + u'…' : line) + u'`';
+}
+
+QString nearest(QStringView word, std::span<const QString> words)
+{
+    constexpr qsizetype Longest = 64; // no key word comes near; keeps a huge name cheap
+    if (word.size() > Longest)
+        return {};
+    const qsizetype farthest = qMax(qsizetype(1), word.size() / 3);
+    const QString *found = nullptr;
+    qsizetype least = farthest + 1;
+    for (const QString &other : words) {
+        if (qAbs(other.size() - word.size()) >= least)
+            continue; // that many letters to insert or delete at least
+        if (const int distance = editDistance(word, other); distance < least) {
+            least = distance;
+            found = &other;
+        }
+    }
+    return found ? *found : QString();
+}
+
+QString didYouMean(const QString &word)
+{
+    return word.isEmpty() ? word : " (did you mean `"_L1 + word + "`?)"_L1;
 }
 
 } // namespace tools

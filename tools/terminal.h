@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <span>
+
 /// What the commands say to a person, in the encoding of the user's locale.
 namespace tools {
 
@@ -22,5 +24,11 @@ bool confirmed(const QString &question);
 QString inOneLine(const QString &text);
 /// The beginning of the text in one line, between backquotes; `…` stands for the rest.
 QString excerpt(const QString &text);
+
+/// The word nearest to `word`, the first of several; empty when none is near enough to be what was
+/// meant (a third of its letters).
+QString nearest(QStringView word, std::span<const QString> words);
+/// ` (did you mean X?)`; empty for no word.
+QString didYouMean(const QString &word);
 
 } // namespace tools

@@ -2,7 +2,6 @@
 #include "tools/check/checkingdevice.h"
 
 #include "render/vocabulary.h"
-#include "tools/nearest.h"
 #include "tools/terminal.h"
 
 #include <QRegularExpression>

@@ -110,15 +110,7 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
 
 tools::Finding finding(Code code, const QString &text, const Range &at, const QString &suggestion)
 {
-    return {code.severity,
-            code.name,
-            suggestion.isEmpty()
-                ? text
-                : text + " (did you mean "_L1 + tools::excerpt(suggestion) + "?)"_L1,
-            at.begin,
-            -1,
-            at.end,
-            suggestion};
+    return {code.severity, code.name, text + tools::didYouMean(suggestion), at, -1, suggestion};
 }
 
 std::vector<tools::Finding> check(QIODevice &request, bool isConfigured)

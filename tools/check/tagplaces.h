@@ -11,12 +11,7 @@
 
 namespace requestcheck {
 
-/// From a character to the place behind another.
-struct Range
-{
-    tools::Place begin;
-    tools::Place end;
-};
+using tools::Range;
 
 /// Where the tags of a request stand, and their attributes: follows the reading and keeps the
 /// places of one tag. Columns count bytes in a request in UTF-8, characters in any other.

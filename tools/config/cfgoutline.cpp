@@ -16,13 +16,13 @@ using tools::excerpt;
 namespace {
 
 constexpr std::string_view WhiteSpace = " \t\n\v\f\r\xA0"; // what the reader trims
+constexpr std::string_view IdleText = " \t\n\v\f\r\xA0;";  // with semicolons too many
 
+/// As the reader trims, but NUL and what is behind it stay; of blanks alone, their end.
 std::string_view trimmed(std::string_view text)
 {
-    const size_t first = text.find_first_not_of(WhiteSpace);
-    if (first == text.npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(WhiteSpace) + 1 - first);
+    text.remove_prefix(std::min(text.find_first_not_of(WhiteSpace), text.size()));
+    return text.substr(0, text.find_last_not_of(WhiteSpace) + 1);
 }
 
 QString shown(std::string_view text)
@@ -30,11 +30,8 @@ QString shown(std::string_view text)
     return excerpt(QString::fromLatin1(QByteArrayView(trimmed(text))));
 }
 
-/// Whether nothing is lost with the text: it is blank, or semicolons too many.
-bool isIdle(std::string_view text)
-{
-    return text.find_first_not_of(" \t\n\v\f\r\xA0;") == text.npos;
-}
+/// Whether nothing is lost with the text.
+bool isIdle(std::string_view text) { return text.find_first_not_of(IdleText) == text.npos; }
 
 bool beginsLikeComment(std::string_view text)
 {
@@ -51,41 +48,38 @@ public:
     Outline read();
 
 private:
+    Entry &addEntry(Entry::Kind kind);
     void beginGroup();
     void addSetting();
     bool endGroup();
     void endFile();
 
     bool checkName(const QString &what);
-    void checkValue(const QString &key, qint64 begin);
-    void checkValueEnd(const QString &key, std::string_view value, qint64 begin);
-    void checkQuotes(const QString &key, std::string_view value, qint64 begin);
+    void checkValueEnd(const QString &key, std::string_view value);
+    void checkQuotes(const QString &key, std::string_view value);
 
-    Place placeAt(qint64 offset) const;
-    std::string_view textBetween(qint64 begin, qint64 end) const;
-    /// What stands between the structural character and the one that ends the statement.
-    std::string_view skippedText() const
-    {
-        return textBetween(scanner.mark() + 1, scanner.end() - (scanner.complete() ? 1 : 0));
-    }
-    qint64 nameBegin() const;
-    Entry &entry(qsizetype index) { return outline.entries[size_t(index)]; }
-    void tell(Severity severity, QLatin1StringView code, qint64 offset, const QString &text);
-    void tellLoss(QLatin1StringView code, qint64 offset, const QString &text,
+    qint64 offsetOf(std::string_view text) const { return text.data() - bytes.data(); }
+    Range rangeOf(std::string_view text) const;
+    QString lineOfEnd() const;
+    /// The structural character.
+    std::string_view mark() const { return bytes.substr(size_t(scanner.mark()), 1); }
+    /// The name of the statement; right before its structural character where it has none.
+    std::string_view nameText() const { return trimmed(scanner.rawName()); }
+    void tell(Severity severity, QLatin1StringView code, std::string_view place,
+              const QString &text);
+    void tellLoss(QLatin1StringView code, std::string_view place, const QString &text,
                   Severity severity = Error);
 
     const std::string_view bytes;
     CfgScanner scanner;
-    std::vector<qint64> lines; // where each begins
+    std::vector<qint64> lines{0}; // where each begins
     Outline outline;
-    std::vector<qsizetype> open; // the groups whose bodies are being read
+    std::vector<qsizetype> open{0}; // the groups whose bodies are being read
 };
 
 Reader::Reader(const QByteArray &content)
     : bytes(content.constData(), size_t(content.size()))
     , scanner(bytes)
-    , lines{0}
-    , open{0}
 {
     for (size_t at = bytes.find('\n'); at != bytes.npos; at = bytes.find('\n', at + 1))
         lines.push_back(qint64(at) + 1);
@@ -95,9 +89,9 @@ Reader::Reader(const QByteArray &content)
 Outline Reader::read()
 {
     if (bytes.starts_with("\xEF\xBB\xBF"))
-        tell(Error, "byte-order-mark"_L1, 0,
+        tell(Error, "byte-order-mark"_L1, bytes.substr(0, 3),
              u"the file begins with a byte order mark, which becomes part of its first name"_s);
-    for (;;) {
+    for (bool goesOn = true; goesOn;) {
         switch (scanner.next()) {
         case CfgScanner::Statement::GroupBegin:
             beginGroup();
@@ -106,87 +100,88 @@ Outline Reader::read()
             addSetting();
             break;
         case CfgScanner::Statement::GroupEnd:
-            if (!endGroup())
-                return std::move(outline);
+            goesOn = endGroup();
             break;
         case CfgScanner::Statement::EndOfFile:
             endFile();
-            return std::move(outline);
+            goesOn = false;
+            break;
         }
     }
+    return std::move(outline);
+}
+
+/// Adds what the statement names.
+Entry &Reader::addEntry(Entry::Kind kind)
+{
+    const bool misread = !checkName(kind == Entry::Kind::Group ? u"group"_s : u"key"_s);
+    Entry &entry = outline.add(kind, open.back(), scanner.name(), rangeOf(nameText()));
+    entry.misread = misread;
+    entry.text = {offsetOf(nameText()), scanner.end()};
+    return entry;
 }
 
 void Reader::beginGroup()
 {
-    const QString name = scanner.name();
-    const bool misread = !checkName(u"group"_s);
     const auto index = qsizetype(outline.entries.size());
-    Entry &group = outline.add(Entry::Kind::Group, open.back(), name, placeAt(nameBegin()));
-    group.misread = misread;
-    group.text = {nameBegin(), scanner.end()};
-    group.body = {scanner.end(), scanner.end()};
+    addEntry(Entry::Kind::Group).body = {scanner.end(), scanner.end()};
     open.push_back(index);
 
-    const std::string_view skipped = trimmed(skippedText());
+    const QString name = excerpt(scanner.name());
+    const std::string_view skipped = trimmed(scanner.rawValue());
     if (!scanner.complete())
-        tellLoss("missing-brace"_L1, scanner.mark(),
-                 "no `{` follows the `:` of the group "_L1 + excerpt(name)
-                     + ": the rest of the file is skipped"_L1);
+        tellLoss(
+            "missing-brace"_L1, mark(),
+            u"no `{` follows the `:` of the group %1: the rest of the file is skipped"_s.arg(name));
     else if (skipped.find_first_of(":=}") != skipped.npos)
-        tellLoss("missing-brace"_L1, scanner.mark(),
-                 "no `{` of its own follows the `:` of the group "_L1 + excerpt(name)
-                     + ": it takes that of line "_L1
-                     + QString::number(placeAt(scanner.end() - 1).line)
-                     + ", and all between is lost: "_L1 + shown(skipped));
+        tellLoss("missing-brace"_L1, mark(),
+                 u"no `{` of its own follows the `:` of the group %1: it takes that of line %2, "
+                 "and all between is lost: %3"_s.arg(name, lineOfEnd(), shown(skipped)));
     else if (!skipped.empty())
-        tellLoss("text-lost"_L1, scanner.mark() + 1,
+        tellLoss("text-lost"_L1, scanner.rawValue(),
                  "lost between `:` and `{`: "_L1 + shown(skipped));
 }
 
 void Reader::addSetting()
 {
-    const QString key = scanner.name();
-    const bool misread = !checkName(u"key"_s);
     const std::string_view value = trimmed(scanner.rawValue());
-    const size_t blanks =
-        std::min(scanner.rawValue().find_first_not_of(WhiteSpace), scanner.rawValue().size());
-    const qint64 begin = scanner.mark() + 1 + qint64(blanks);
-    Entry &setting = outline.add(Entry::Kind::Setting, open.back(), key, placeAt(nameBegin()));
+    const qint64 begin = offsetOf(value);
+    Entry &setting = addEntry(Entry::Kind::Setting);
     setting.value = scanner.value();
-    setting.valueAt = placeAt(begin);
-    setting.misread = misread;
-    setting.text = {nameBegin(), scanner.end()};
+    setting.valueAt = rangeOf(value);
     setting.body = {begin, begin + qint64(value.size())};
-    checkValue(key, value.empty() ? scanner.mark() + 1 : begin);
+    const QString key = excerpt(setting.name);
+    if (value.find('\0') != value.npos)
+        tellLoss("stray-text"_L1, value, "a NUL byte ends the value of "_L1 + key);
+    if (!scanner.complete() || value.find('\n') != value.npos)
+        checkValueEnd(key, value);
+    else
+        checkQuotes(key, value);
 }
 
 /// False at the `}` that ends the reading of the file.
 bool Reader::endGroup()
 {
     if (!isIdle(scanner.rawName()))
-        tellLoss("text-lost"_L1, nameBegin(),
-                 "no setting, and lost: "_L1 + shown(scanner.rawName()));
-    const std::string_view skipped = skippedText();
-    const QString name = excerpt(entry(open.back()).name);
+        tellLoss("text-lost"_L1, nameText(), "no setting, and lost: "_L1 + shown(nameText()));
     if (open.size() == 1) {
-        const std::string_view rest = textBetween(scanner.mark() + 1, qint64(bytes.size()));
-        tellLoss(
-            "stray-brace"_L1, scanner.mark(),
-            isIdle(rest)
-                ? u"this `}` closes no group"_s
-                : "this `}` closes no group: reading ends here, and the rest of the file is lost: "_L1
-                      + shown(rest));
+        const std::string_view rest = bytes.substr(size_t(scanner.mark()) + 1);
+        const auto told = "this `}` closes no group"_L1;
+        tellLoss("stray-brace"_L1, mark(),
+                 isIdle(rest) ? QString(told)
+                              : told + ": reading ends here, and the rest of the file is lost: "_L1
+                                    + shown(rest));
         return false;
     }
-    if (!isIdle(skipped))
-        tellLoss("missing-semicolon"_L1, scanner.mark(),
-                 "no `;` follows the `}` of the group "_L1 + name
-                     + ": all up to the next one is lost: "_L1 + shown(skipped));
+    Entry &group = outline.entries[size_t(open.back())];
+    const QString fault = u"no `;` follows the `}` of the group %1"_s.arg(excerpt(group.name));
+    if (!isIdle(scanner.rawValue()))
+        tellLoss("missing-semicolon"_L1, mark(),
+                 fault + ": all up to the next one is lost: "_L1 + shown(scanner.rawValue()));
     else if (!scanner.complete())
-        tell(Warning, "missing-semicolon"_L1, scanner.mark(),
-             "no `;` follows the `}` of the group "_L1 + name);
-    entry(open.back()).body.end = scanner.mark();
-    entry(open.back()).text.end = scanner.end();
+        tell(Warning, "missing-semicolon"_L1, mark(), fault);
+    group.body.end = scanner.mark();
+    group.text.end = scanner.end();
     open.pop_back();
     return true;
 }
@@ -194,10 +189,10 @@ bool Reader::endGroup()
 void Reader::endFile()
 {
     if (!isIdle(scanner.rawName()))
-        tellLoss("text-lost"_L1, nameBegin(),
-                 "the end of the file is lost: "_L1 + shown(scanner.rawName()));
+        tellLoss("text-lost"_L1, nameText(),
+                 "the end of the file is lost: "_L1 + shown(nameText()));
     for (size_t i = 1; i < open.size(); ++i) {
-        const Entry &group = entry(open[i]);
+        const Entry &group = outline.entries[size_t(open[i])];
         outline.faults.push_back({Error, "unclosed-group"_L1,
                                   "the group "_L1 + excerpt(group.name) + " is not closed"_L1,
                                   group.at});
@@ -207,102 +202,85 @@ void Reader::endFile()
 /// Tells when other text became part of a name; false then.
 bool Reader::checkName(const QString &what)
 {
-    const std::string_view raw = scanner.rawName();
-    const std::string_view name = trimmed(raw);
+    const std::string_view name = nameText();
     const size_t lineEnd = name.rfind('\n');
-    const size_t semicolons = name.find_first_not_of(" \t\n\v\f\r\xA0;");
     QString fault;
-    if (raw.find('\0') != raw.npos)
-        fault = "a NUL byte ends the name of the "_L1 + what + u' ' + excerpt(scanner.name());
+    if (scanner.rawName().find('\0') != name.npos)
+        fault = u"a NUL byte ends the name of the %1 %2"_s.arg(what, excerpt(scanner.name()));
     else if (name.starts_with(';'))
-        fault = "a `;` too many became part of the "_L1 + what + u' '
-                + shown(semicolons == name.npos ? name : name.substr(semicolons));
+        fault = u"a `;` too many became part of the %1 %2"_s.arg(
+            what, shown(isIdle(name) ? name : name.substr(name.find_first_not_of(IdleText))));
     else if (lineEnd != name.npos)
-        fault = shown(name.substr(0, lineEnd)) + " became part of the "_L1 + what + u' '
-                + shown(name.substr(lineEnd))
-                + (beginsLikeComment(name) ? ": there are no comments"_L1
-                                           : ": it is neither `key = value;` nor `group : {`"_L1);
+        fault = u"%1 became part of the %2 %3: %4"_s.arg(
+            shown(name.substr(0, lineEnd)), what, shown(name.substr(lineEnd)),
+            beginsLikeComment(name) ? u"there are no comments"_s
+                                    : u"it is neither `key = value;` nor `group : {`"_s);
     else if (beginsLikeComment(name))
-        fault = shown(name) + " is read as a "_L1 + what + ": there are no comments"_L1;
+        fault = u"%1 is read as a %2: there are no comments"_s.arg(shown(name), what);
     else if (name.find('{') != name.npos)
-        fault = "a `{` became part of the "_L1 + what + u' ' + shown(name)
-                + ": the `:` before it is missing"_L1;
-    if (fault.isEmpty())
-        return true;
-    tellLoss("stray-text"_L1, nameBegin(), fault);
-    return false;
-}
-
-void Reader::checkValue(const QString &key, qint64 begin)
-{
-    const std::string_view value = trimmed(scanner.rawValue());
-    if (value.find('\0') != value.npos)
-        tellLoss("stray-text"_L1, begin, "a NUL byte ends the value of "_L1 + excerpt(key));
-    if (!scanner.complete() || value.find('\n') != value.npos)
-        checkValueEnd(key, value, begin);
-    else
-        checkQuotes(key, value, begin);
+        fault = u"a `{` became part of the %1 %2: the `:` before it is missing"_s.arg(what,
+                                                                                      shown(name));
+    if (!fault.isEmpty())
+        tellLoss("stray-text"_L1, name, fault);
+    return fault.isEmpty();
 }
 
 /// A value that runs over its line, or to the end of the file: the `;` is missing.
-void Reader::checkValueEnd(const QString &key, std::string_view value, qint64 begin)
+void Reader::checkValueEnd(const QString &key, std::string_view value)
 {
+    if (value.empty())
+        value = scanner.rawValue().substr(0, 0);
     const std::string_view line = trimmed(value.substr(0, value.find('\n')));
+    const std::string_view rest = value.substr(line.size());
     const bool insideQuotes = std::ranges::count(line, '"') % 2 == 1;
-    const qint64 lineEnd = begin + qint64(line.size());
+    QString fault;
     if (!scanner.complete())
-        tell(Error, "missing-semicolon"_L1, lineEnd,
-             "no `;` ends the value of "_L1 + excerpt(key) + ": it runs to the end of the file"_L1);
+        fault = u"no `;` ends the value of %1: it runs to the end of the file"_s.arg(key);
     else if (insideQuotes)
-        tell(Warning, "missing-semicolon"_L1, lineEnd,
-             "the quoted value of "_L1 + excerpt(key) + " goes on to line "_L1
-                 + QString::number(placeAt(scanner.end() - 1).line));
+        fault = u"the quoted value of %1 goes on to line %2"_s.arg(key, lineOfEnd());
     else
-        tell(Error, "missing-semicolon"_L1, lineEnd,
-             "no `;` ends the value of "_L1 + excerpt(key) + " on its line: it runs on to line "_L1
-                 + QString::number(placeAt(scanner.end() - 1).line) + " and takes in "_L1
-                 + shown(value.substr(line.size())));
+        fault =
+            u"no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3"_s.arg(
+                key, lineOfEnd(), shown(rest));
+    tell(scanner.complete() && insideQuotes ? Warning : Error, "missing-semicolon"_L1, rest, fault);
 }
 
-void Reader::checkQuotes(const QString &key, std::string_view value, qint64 begin)
+void Reader::checkQuotes(const QString &key, std::string_view value)
 {
-    const auto quotes = std::ranges::count(value, '"');
     const bool enclosed = value.size() >= 2 && value.starts_with('"') && value.ends_with('"');
-    if (quotes == (enclosed ? 2 : 0))
-        return;
-    tellLoss("lost-quotes"_L1, begin,
-             "double quotes inside a value are lost: "_L1 + excerpt(key) + " is "_L1
-                 + excerpt(scanner.value()),
-             Warning);
+    if (std::ranges::count(value, '"') != (enclosed ? 2 : 0))
+        tellLoss(
+            "lost-quotes"_L1, value,
+            u"double quotes inside a value are lost: %1 is %2"_s.arg(key, excerpt(scanner.value())),
+            Warning);
 }
 
-Place Reader::placeAt(qint64 offset) const
+Range Reader::rangeOf(std::string_view text) const
 {
-    const auto next = std::ranges::upper_bound(lines, offset);
-    return {next - lines.begin(), offset - *std::prev(next) + 1};
+    const auto placeAt = [this](qint64 offset) {
+        const auto next = std::ranges::upper_bound(lines, offset);
+        return Place{next - lines.begin(), offset - *std::prev(next) + 1};
+    };
+    return {placeAt(offsetOf(text)), placeAt(offsetOf(text) + qint64(text.size()))};
 }
 
-std::string_view Reader::textBetween(qint64 begin, qint64 end) const
+/// The line in which the statement ends.
+QString Reader::lineOfEnd() const
 {
-    return begin < end ? bytes.substr(size_t(begin), size_t(end - begin)) : std::string_view();
+    return QString::number(rangeOf(bytes.substr(size_t(scanner.end()) - 1, 0)).begin.line);
 }
 
-/// Where the name of the statement begins; its structural character where it has none.
-qint64 Reader::nameBegin() const
+void Reader::tell(Severity severity, QLatin1StringView code, std::string_view place,
+                  const QString &text)
 {
-    const size_t blanks = scanner.rawName().find_first_not_of(WhiteSpace);
-    return blanks == std::string_view::npos ? scanner.mark() : scanner.begin() + qint64(blanks);
-}
-
-void Reader::tell(Severity severity, QLatin1StringView code, qint64 offset, const QString &text)
-{
-    outline.faults.push_back({severity, code, text, placeAt(offset)});
+    outline.faults.push_back({severity, code, text, rangeOf(place)});
 }
 
 /// A fault by which text of the file is lost, in the store and in a file written from it.
-void Reader::tellLoss(QLatin1StringView code, qint64 offset, const QString &text, Severity severity)
+void Reader::tellLoss(QLatin1StringView code, std::string_view place, const QString &text,
+                      Severity severity)
 {
-    tell(severity, code, offset, text);
+    tell(severity, code, place, text);
     outline.losses.push_back(outline.faults.back());
 }
 

@@ -1,44 +1,109 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/subcommands.h"
+#include "tools/config/configcommand.h"
 
-#include "config/config.h"
+#include "app/ztconfiguration.h"
 #include "tools/companion.h"
 #include "tools/config/settingcheck.h"
-#include "tools/config/source.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"
 
+#include <QFile>
+
 #include <array>
+#include <filesystem>
 #include <utility>
 
 namespace configtool {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The configuration that a command which only reads works on, or the exit status to end with.
-struct OpenedFile
+QList<QCommandLineOption> sourceOptions()
 {
-    OpenedFile(const tools::Call &call, tools::CommandLine &line, int least, int most)
-    {
-        addSourceOptions(line);
-        if (const auto done = line.read(least, most))
-            exitStatus = *done;
-        else
-            source = sourceOf(line);
-        content = source ? contentOf(call, *source) : std::nullopt;
-        if (!content)
-            return;
-        config.readContent(*content, source->path, source->format);
-        exitStatus.reset();
-    }
+    return {
+        {{u"f"_s, u"file"_s},
+         u"Works on FILE instead of ~/.zentaro/conf/zentaro.conf."_s,
+         u"FILE"_s},
+        {u"queue"_s, u"Works on the settings of the print queue QUEUE."_s, u"QUEUE"_s},
+        {u"format"_s,
+         u"The format of the file, cfg or xml; xml for a name that ends in .xml, otherwise cfg, "
+         u"unless given."_s,
+         u"FORMAT"_s}};
+}
 
-    std::optional<Source> source;
-    std::optional<QByteArray> content;
-    libconfig::Config config;
-    std::optional<int> exitStatus = tools::Trouble; ///< none where the file was read
-};
+std::optional<Source> sourceOf(const tools::CommandLine &line)
+{
+    const QString queue = line.value(u"queue"_s);
+    QString path = ZTConfiguration::userFile();
+    QString mistake;
+    if (line.isSet(u"file"_s))
+        path = line.value(u"file"_s);
+    else if (line.isSet(u"queue"_s))
+        path = ZTConfiguration::queueFile(queue);
+    const QString format = line.isSet(u"format"_s) ? line.value(u"format"_s) : formatOf(path);
+    if (line.isSet(u"queue"_s) && !ZTConfiguration::isQueueName(queue))
+        mistake = u'`' + queue + "` is no name of a print queue"_L1;
+    else if (line.isSet(u"queue"_s) && line.isSet(u"file"_s))
+        mistake = u"--file and --queue name one file each"_s;
+    else if (format != "cfg"_L1 && format != "xml"_L1)
+        mistake = "unknown format `"_L1 + format + "`, it is cfg or xml"_L1;
+    else
+        return Source{path, format};
+    line.wrongUsage(mistake);
+    return std::nullopt;
+}
+
+QString formatOf(const QString &path)
+{
+    return path.endsWith(".xml"_L1, Qt::CaseInsensitive) ? u"xml"_s : u"cfg"_s;
+}
+
+bool isMissing(const QString &path)
+{
+    std::error_code error;
+    return std::filesystem::status(QFile::encodeName(path).constData(), error).type()
+           == std::filesystem::file_type::not_found;
+}
+
+std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
+{
+    QFile file(source.path);
+    const QByteArray content =
+        file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
+    if (isMissing(source.path))
+        tools::tellTrouble(call, source.path,
+                           file.errorString() + "; `zentaro config init` writes one"_L1);
+    else if (file.error() != QFile::NoError)
+        tools::tellTrouble(call, source.path, file.errorString());
+    else if (content.size() > MaxContentBytes)
+        tools::tellTrouble(call, source.path, u"more than 64 MiB, which nothing reads"_s);
+    else
+        return content;
+    return std::nullopt;
+}
+
+int writeContent(const tools::Call &call, const QString &path, const QByteArray &content)
+{
+    const QString fault = libconfig::replaceFile(path, content);
+    return fault.isEmpty() ? int(tools::Fine) : tools::tellTrouble(call, path, fault);
+}
+
+OpenedFile::OpenedFile(const tools::Call &call, tools::CommandLine &line, int least, int most)
+{
+    line.addOptions(sourceOptions());
+    if ((exitStatus = line.read(least, most)))
+        return;
+    exitStatus = tools::Trouble;
+    const auto named = sourceOf(line);
+    const auto read = named ? contentOf(call, *named) : std::nullopt;
+    if (!read)
+        return;
+    source = *named;
+    content = *read;
+    config.readContent(content, source.path, source.format);
+    exitStatus.reset();
+}
+
+namespace {
 
 int getValues(const tools::Call &call)
 {
@@ -87,7 +152,7 @@ int listKeys(const tools::Call &call)
 {
     tools::CommandLine line(call, u"Prints every key that something reads, and what counts where "
                                   u"the configuration gives none."_s);
-    addSourceOptions(line);
+    line.addOptions(sourceOptions());
     if (const auto done = line.read(0, 0))
         return *done;
     QString list;
@@ -118,10 +183,10 @@ int check(const tools::Call &call)
     if (file.exitStatus)
         return *file.exitStatus;
     const std::vector<Finding> findings =
-        tools::abridged(findingsIn(readOutline(*file.content, file.source->format)));
-    const QString &path = file.source->path;
+        tools::abridged(findingsIn(readOutline(file.content, file.source.format)));
+    const QString &path = file.source.path;
     const int printed = line.isSet(u"json"_s)
-                            ? tools::printBytes(tools::findingsAsJson(path, findings).toUtf8())
+                            ? tools::printBytes(tools::findingsAsJson({{path, findings}}).toUtf8())
                             : tools::printOut(tools::findingLines(path, findings));
     return printed == tools::Fine && !findings.empty() ? tools::Findings : printed;
 }
@@ -131,7 +196,7 @@ int edit(const tools::Call &call)
     tools::CommandLine line(call,
                             u"Opens the configuration in a window, to look through it, change "
                             u"it and save it.\nWhat is wrong with it stands beside it."_s);
-    addSourceOptions(line);
+    line.addOptions(sourceOptions());
     if (const auto done = line.read(0, 0))
         return *done;
     const std::optional<Source> source = sourceOf(line);

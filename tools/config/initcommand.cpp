@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/subcommands.h"
+#include "tools/config/configcommand.h"
 
 #include "tools/companion.h"
 #include "tools/config/settingedit.h"
-#include "tools/config/source.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"
 
@@ -14,7 +13,6 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <utility>
 
 // A resource of a static library is linked only when it is called for, outside any namespace.
 static void initTemplate() { Q_INIT_RESOURCE(templates); }
@@ -25,38 +23,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a paper of so many columns wants of the documents.
-struct Paper
+/// What paper of 32, 40, 42 and 48 columns wants of the documents.
+struct PaperNumbers
 {
-    int columns;
-    int price;
-    int total;
-    int margin;      ///< lines
-    int description; ///< of fiscal receipts
+    QLatin1StringView word;
+    std::array<int, 4> byPaper;
 };
+constexpr std::array<PaperNumbers, 5> paperNumbers = {{{"paperWidth"_L1, {32, 40, 42, 48}},
+                                                       {"priceFieldWidth"_L1, {7, 8, 8, 9}},
+                                                       {"totalPriceFieldWidth"_L1, {8, 9, 9, 10}},
+                                                       {"topMargin"_L1, {1, 2, 2, 2}},
+                                                       {"descriptionWidth"_L1, {18, 20, 21, 24}}}};
 
-constexpr std::array<Paper, 4> papers = {
-    {{32, 7, 8, 1, 18}, {40, 8, 9, 2, 20}, {42, 8, 9, 2, 21}, {48, 9, 10, 2, 24}}};
-
-/// A language of the printed labels, and the folder of its translation: that of an installation, or
-/// the build's. No folder for English, or where there is none.
-struct Labels
+/// The folder of the labels in a language: that of an installation, or the build's; empty where
+/// there are none.
+QString labelsFolder(const QString &language)
 {
-    explicit Labels(const QString &language)
-        : language(language)
-    {
-        const QString present = tools::translationsFolder();
-        if (QFileInfo::exists(present + u'/' + name() + ".qm"_L1))
-            folder = present;
-    }
-    QString name() const { return "zentaro_"_L1 + language; }
-
-    QString language;
-    QString folder;
-};
+    const QString folder = tools::translationsFolder();
+    return QFileInfo::exists(folder + "/zentaro_"_L1 + language + ".qm"_L1) ? folder : QString();
+}
 
 /// A complete configuration: the sample for 40 columns with other values.
-QByteArray startingConfiguration(const Paper &paper, const Labels &labels)
+QByteArray startingConfiguration(size_t paper, const QString &language)
 {
     initTemplate();
     QFile file(u":/templates/zentaro-40.conf"_s);
@@ -64,35 +52,30 @@ QByteArray startingConfiguration(const Paper &paper, const Labels &labels)
     const auto set = [&content](const QString &key, const QString &value) {
         content = withSetting(content, key, value).content;
     };
-    const std::pair<QLatin1StringView, int> numbers[] = {
-        {"priceFieldWidth"_L1, paper.price},
-        {"totalPriceFieldWidth"_L1, paper.total},
-        {"paperWidth"_L1, paper.columns},
-        {"topMargin"_L1, paper.margin},
-        {"descriptionWidth"_L1, paper.description}};
-    for (const auto &[word, number] : numbers) {
+    for (const auto &[word, byPaper] : paperNumbers) {
         for (const QString &group : tools::groupsWith(QString(word)))
-            set(tools::keyOf(group, word), QString::number(number));
+            set(tools::keyOf(group, word), QString::number(byPaper[paper]));
     }
-    if (!labels.folder.isEmpty()) {
-        set(u"zentaro.language.basedir"_s, labels.folder);
-        set(u"zentaro.language.file"_s, u'/' + labels.name());
+    if (const QString folder = labelsFolder(language); !folder.isEmpty()) {
+        set(u"zentaro.language.basedir"_s, folder);
+        set(u"zentaro.language.file"_s, "/zentaro_"_L1 + language);
     }
     return content;
 }
 
-/// The labels that the option names, else those of the locale's language, else the English ones;
-/// nothing for an unknown language or one that is not installed, which is told.
-std::optional<Labels> labelsFor(const tools::Call &call, const tools::CommandLine &line)
+/// The language of the labels that the option names, else the locale's, else English; nothing for
+/// one that is unknown or not installed, which is told.
+std::optional<QString> languageFor(const tools::Call &call, const tools::CommandLine &line)
 {
     const QString named = line.value(u"language"_s);
-    const Labels labels(named.isEmpty() ? QLocale::system().name().section(u'_', 0, 0) : named);
-    if (labels.language == "en"_L1 || !labels.folder.isEmpty())
-        return labels;
+    const QString language = named.isEmpty() ? QLocale::system().name().section(u'_', 0, 0) : named;
+    if (language == "en"_L1 || !labelsFolder(language).isEmpty())
+        return language;
     if (named.isEmpty())
-        return Labels(u"en"_s);
+        return u"en"_s;
     if (QStringList{u"it"_s, u"de"_s, u"fr"_s, u"es"_s}.contains(named))
-        tools::tellTrouble(call, labels.name() + ".qm"_L1, u"not installed with this program"_s);
+        tools::tellTrouble(call, "zentaro_"_L1 + named + ".qm"_L1,
+                           u"not installed with this program"_s);
     else
         line.wrongUsage("no labels in `"_L1 + named + "`, but in it, de, fr, es and en"_L1);
     return std::nullopt;
@@ -112,7 +95,7 @@ int makeFolder(const tools::Call &call, const QString &path)
 int init(const tools::Call &call)
 {
     tools::CommandLine line(call, u"Writes a complete configuration to start from."_s);
-    addSourceOptions(line);
+    line.addOptions(sourceOptions());
     line.addOption({{u"c"_s, u"columns"_s},
                     u"The paper's width in characters: 32, 40, 42 or 48 (40 unless given)."_s,
                     u"COLUMNS"_s,
@@ -128,15 +111,16 @@ int init(const tools::Call &call)
     if (!source)
         return tools::Trouble;
     const QString columns = line.value(u"columns"_s);
+    const auto &papers = paperNumbers.front().byPaper;
     const auto *const paper = std::ranges::find_if(
-        papers, [&columns](const Paper &each) { return QString::number(each.columns) == columns; });
+        papers, [&columns](int each) { return QString::number(each) == columns; });
     if (source->format != "cfg"_L1)
         return line.wrongUsage(u"a configuration to start from is written in the format cfg"_s);
     if (paper == papers.end())
         return line.wrongUsage("there is none for `"_L1 + columns
                                + "` columns, but for 32, 40, 42 and 48"_L1);
-    const std::optional<Labels> labels = labelsFor(call, line);
-    if (!labels)
+    const std::optional<QString> language = languageFor(call, line);
+    if (!language)
         return tools::Trouble;
     if (QFileInfo::exists(source->path) && !line.isSet(u"force"_s)) {
         tools::printError(call.command + ": "_L1 + tools::inOneLine(source->path)
@@ -144,10 +128,12 @@ int init(const tools::Call &call)
         return tools::Trouble;
     }
     if (makeFolder(call, source->path) != tools::Fine
-        || writeContent(call, source->path, startingConfiguration(*paper, *labels)) != tools::Fine)
+        || writeContent(call, source->path,
+                        startingConfiguration(size_t(paper - papers.begin()), *language))
+               != tools::Fine)
         return tools::Trouble;
     return tools::printOut("wrote "_L1 + tools::inOneLine(source->path) + ", for "_L1 + columns
-                           + " columns, with labels in `"_L1 + labels->language
+                           + " columns, with labels in `"_L1 + *language
                            + "`; `zentaro preview` shows what a request prints with it, "
                              "`zentaro config edit` and `set` change it\n"_L1);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/losses.h"
+#include "tools/config/settingcheck.h"
 
 #include "config/cfgscanner.h"
 #include "tools/terminal.h"
@@ -60,21 +60,8 @@ QString lossOf(const QString &text, bool isName, bool isXml)
     return found == text ? QString() : "it is read back as "_L1 + excerpt(found);
 }
 
-class LossFinder
+struct LossFinder
 {
-public:
-    LossFinder(const Outline &outline, bool isXml)
-        : outline(outline)
-        , isXml(isXml)
-    {
-    }
-    std::vector<Finding> find();
-
-private:
-    bool isInTree(const Entry &entry) const
-    {
-        return entry.kind == Entry::Kind::Setting || entry.hasMember || outline.keepsEmptyGroups;
-    }
     void checkEntry(qsizetype index);
     void tell(QLatin1StringView code, qsizetype subject, const QString &text)
     {
@@ -84,39 +71,9 @@ private:
 
     const Outline &outline;
     const bool isXml;
-    std::vector<Finding> findings;
-    QHash<std::pair<qsizetype, QString>, qsizetype> settings;
+    std::vector<Finding> findings = {};
+    QHash<std::pair<qsizetype, QString>, qsizetype> settings = {}; // the last of each name
 };
-
-std::vector<Finding> LossFinder::find()
-{
-    std::vector<bool> written{true};                            // by entry
-    std::vector<bool> hasMember(outline.entries.size(), false); // by entry, in the written file
-    for (const Entry &entry : outline.entries) {
-        if (entry.parent >= 0 && isInTree(entry))
-            hasMember[size_t(entry.parent)] = true;
-    }
-    const qsizetype top = outline.topGroup();
-    for (qsizetype i = 1; i < qsizetype(outline.entries.size()); ++i) {
-        const Entry &entry = outline.entries[size_t(i)];
-        const bool isGroup = entry.kind == Entry::Kind::Group;
-        const bool isLater = isGroup && entry.parent == 0 && i != top;
-        const bool isEmpty = isGroup && (isXml ? !isInTree(entry) : !hasMember[size_t(i)]);
-        written.push_back(written[size_t(entry.parent)] && !isLater);
-        if (!written[size_t(entry.parent)])
-            continue; // told with the group
-        if (isEmpty)
-            tell("lost-group"_L1, i,
-                 "the group "_L1 + excerpt(outline.pathOf(i)) + ", which is empty"_L1);
-        else if (isLater)
-            tell("lost-group"_L1, i,
-                 "the group "_L1 + excerpt(entry.name)
-                     + " with all it holds: only the first top-level group is written"_L1);
-        else
-            checkEntry(i);
-    }
-    return std::move(findings);
-}
 
 void LossFinder::checkEntry(qsizetype index)
 {
@@ -144,16 +101,41 @@ void LossFinder::checkEntry(qsizetype index)
 
 std::vector<Finding> lossesInFormat(const Outline &outline, const QString &format)
 {
-    return LossFinder(outline, format == "xml"_L1).find();
+    LossFinder finder{outline, format == "xml"_L1};
+    std::vector<bool> isWritten{true};                          // by entry
+    std::vector<bool> hasMember(outline.entries.size(), false); // by entry, in the written file
+    for (const Entry &entry : outline.entries) {
+        if (entry.parent >= 0 && outline.keeps(entry))
+            hasMember[size_t(entry.parent)] = true;
+    }
+    const qsizetype top = outline.topGroup();
+    for (qsizetype i = 1; i < qsizetype(outline.entries.size()); ++i) {
+        const Entry &entry = outline.entries[size_t(i)];
+        const bool isGroup = entry.kind == Entry::Kind::Group;
+        const bool isLater = isGroup && entry.parent == 0 && i != top;
+        isWritten.push_back(isWritten[size_t(entry.parent)] && !isLater);
+        if (!isWritten[size_t(entry.parent)])
+            continue; // told with the group
+        if (isGroup && !(finder.isXml ? outline.keeps(entry) : hasMember[size_t(i)]))
+            finder.tell("lost-group"_L1, i,
+                        u"the group %1, which is empty"_s.arg(excerpt(outline.pathOf(i))));
+        else if (isLater)
+            finder.tell("lost-group"_L1, i,
+                        "the group "_L1 + excerpt(entry.name)
+                            + " with all it holds: only the first top-level group is written"_L1);
+        else
+            finder.checkEntry(i);
+    }
+    return std::move(finder.findings);
 }
 
 bool nestsTooDeep(const Outline &outline)
 {
+    constexpr int Most = 1'000; // levels
     std::vector<int> levels;
-    levels.reserve(outline.entries.size());
     for (const Entry &entry : outline.entries)
         levels.push_back(entry.parent < 0 ? 0 : levels[size_t(entry.parent)] + 1);
-    return std::ranges::any_of(levels, [](int level) { return level > MostLevels; });
+    return std::ranges::any_of(levels, [](int level) { return level > Most; });
 }
 
 } // namespace configtool

@@ -6,6 +6,8 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace configtool {
 
 using namespace Qt::StringLiterals;
@@ -23,20 +25,11 @@ Place placeOf(const QXmlStreamReader &reader)
 qsizetype addElement(Outline &outline, const QXmlStreamReader &reader, qsizetype parent, Place at)
 {
     const auto group = qsizetype(outline.entries.size());
-    outline.add(Entry::Kind::Group, parent, reader.qualifiedName().toString(), at);
+    outline.add(Entry::Kind::Group, parent, reader.qualifiedName().toString(), {at, {}});
     for (const QXmlStreamAttribute &attribute : reader.attributes())
-        outline.add(Entry::Kind::Setting, group, attribute.qualifiedName().toString(), at).value =
-            attribute.value().toString();
+        outline.add(Entry::Kind::Setting, group, attribute.qualifiedName().toString(), {at, {}})
+            .value = attribute.value().toString();
     return group;
-}
-
-/// The outline of a file without a root element.
-Outline emptyOutline()
-{
-    Outline outline;
-    outline.keepsEmptyGroups = true;
-    outline.add(Entry::Kind::Group, -1);
-    return outline;
 }
 
 void noteLoss(Outline &outline, const QXmlStreamReader &reader, qsizetype group, Place at)
@@ -44,15 +37,20 @@ void noteLoss(Outline &outline, const QXmlStreamReader &reader, qsizetype group,
     const QStringView text =
         reader.isProcessingInstruction() ? reader.processingInstructionTarget() : reader.text();
     outline.losses.push_back(
-        {Severity::Warning, "lost-text"_L1,
-         "text that is no setting: "_L1 + tools::excerpt(text.trimmed().toString()), at, group});
+        {Severity::Warning,
+         "lost-text"_L1,
+         "text that is no setting: "_L1 + tools::excerpt(text.trimmed().toString()),
+         {at, {}},
+         group});
 }
 
 /// Reads the XML form: a group per element, a setting per attribute.
 Outline readXmlOutline(const QByteArray &content)
 {
     constexpr int MaxDepth = libconfig::Config::MaxXmlDepth;
-    Outline outline = emptyOutline();
+    Outline outline;
+    outline.keepsEmptyGroups = true;
+    outline.add(Entry::Kind::Group, -1);
     QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
     qsizetype open = 0;
@@ -80,19 +78,22 @@ Outline readXmlOutline(const QByteArray &content)
         }
     }
     if (reader.hasError() && !content.isEmpty()) {
-        outline = emptyOutline();
+        outline.entries.resize(1, outline.entries.front());
+        outline.entries.front().hasMember = false;
+        outline.losses.clear();
         const auto cause =
             reader.error() == QXmlStreamReader::CustomError ? ""_L1 : "not well-formed, "_L1;
-        outline.faults.push_back({Severity::Error, "xml"_L1,
+        outline.faults.push_back({Severity::Error,
+                                  "xml"_L1,
                                   cause + "nothing of the file is read: "_L1 + reader.errorString(),
-                                  placeOf(reader)});
+                                  {placeOf(reader), {}}});
     }
     return outline;
 }
 
 } // namespace
 
-Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, Place at)
+Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, const Range &at)
 {
     if (parent >= 0)
         entries[size_t(parent)].hasMember = true;
@@ -101,13 +102,10 @@ Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, Pla
 
 qsizetype Outline::topGroup() const
 {
-    for (size_t i = 0; i < entries.size(); ++i) {
-        const Entry &entry = entries[i];
-        if (entry.kind == Entry::Kind::Group && entry.parent == 0
-            && (entry.hasMember || keepsEmptyGroups))
-            return qsizetype(i);
-    }
-    return -1;
+    const auto found = std::ranges::find_if(entries, [this](const Entry &entry) {
+        return entry.kind == Entry::Kind::Group && entry.parent == 0 && keeps(entry);
+    });
+    return found == entries.end() ? -1 : found - entries.begin();
 }
 
 QString Outline::pathOf(qsizetype entry) const

@@ -14,6 +14,7 @@ namespace configtool {
 
 using tools::Finding;
 using tools::Place;
+using tools::Range;
 using tools::Severity;
 
 /// Bytes of a file, from one offset to another.
@@ -31,8 +32,8 @@ struct Entry
     qsizetype parent;       ///< of the group that holds it; -1 for the file
     QString name;           ///< as the store keeps it
     QString value;          ///< of a setting, as the store keeps it
-    Place at;               ///< of the name
-    Place valueAt;          ///< of a setting's value
+    Range at;               ///< of the name; of the whole tag's beginning in XML
+    Range valueAt;          ///< of a setting's value, likewise
     bool hasMember = false; ///< of a group: a setting, or a group even if empty
     bool misread = false;   ///< the name swallowed other text, which has been told
     Extent text = {};       ///< in the "cfg" form: from the name to behind the `;`
@@ -47,7 +48,12 @@ struct Outline
     bool keepsEmptyGroups = false; ///< the store keeps groups without members
 
     /// Adds an entry to its parent, -1 for the file, which comes first.
-    Entry &add(Entry::Kind kind, qsizetype parent, const QString &name = {}, Place at = {});
+    Entry &add(Entry::Kind kind, qsizetype parent, const QString &name = {}, const Range &at = {});
+    /// Whether the store keeps an entry.
+    bool keeps(const Entry &entry) const
+    {
+        return entry.kind == Entry::Kind::Setting || entry.hasMember || keepsEmptyGroups;
+    }
     /// The first top-level group that the store keeps, where every lookup begins; -1 for none.
     qsizetype topGroup() const;
     /// The dotted name of an entry; `…` stands for the outer groups of a deeply nested one.

@@ -3,12 +3,13 @@
 
 #include "tools/config/outline.h"
 
+/// What is wrong with a configuration, and what writing it would lose. The subjects of findings are
+/// entries of the outline.
 namespace configtool {
 
-/// What is wrong with the settings of a configuration, whatever its form: keys and groups that
-/// nothing reads or no lookup reaches, settings that others override, values that are not what
-/// their key wants, columns that do not fit the paper, a language file that does not exist. The
-/// subject of each finding is an entry of the outline.
+/// What is wrong with the settings, whatever the file's form: keys and groups that nothing reads or
+/// no lookup reaches, settings that others override, values that are not what their key wants,
+/// columns that do not fit the paper, a language file that does not exist.
 std::vector<Finding> checkSettings(const Outline &outline);
 
 /// These, and where the file does not say what it seems to say.
@@ -16,5 +17,13 @@ std::vector<Finding> findingsIn(const Outline &outline);
 
 /// That nothing reads a dotted key, and which key may be meant; empty when something reads it.
 QString unreadKey(const QString &key);
+
+/// What a file written in the format "cfg" or "xml" lacks, or what it holds otherwise than it was:
+/// none means that it reads back the same.
+std::vector<Finding> lossesInFormat(const Outline &outline, const QString &format);
+
+/// Whether groups stand so deep within each other (1,000 levels) that no file is written for them:
+/// every level indents the lines below it, and they would fill the disk with blanks.
+bool nestsTooDeep(const Outline &outline);
 
 } // namespace configtool

@@ -7,7 +7,6 @@
 
 #include <QFile>
 
-#include <utility>
 #include <vector>
 
 namespace configtool {
@@ -25,7 +24,7 @@ public:
     QByteArray withValue(const QByteArray &value) const;
     QByteArray without() const;
     /// Whether the value goes on over the end of its line, which may have taken in other settings.
-    bool runsOn() const;
+    bool runsOn() const { return found >= 0 && entry(found).value.contains(u'\n'); }
     /// Every other setting of the file, with its value.
     QStringList others() const;
 
@@ -34,17 +33,18 @@ public:
 
 private:
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
-    std::vector<qsizetype> childrenOf(qsizetype group) const;
-    qsizetype found() const;
-    qsizetype siblingBefore(qsizetype group) const;
+    qsizetype siblingBefore() const;
     QByteArray leadOf(qsizetype index) const;
     QByteArray withNew(const QByteArray &setting) const;
 
     const QStringList names; // the key's
     const Outline outline;
-    std::vector<qsizetype> groups{0}; // that the first names lead to; the file at first
-    qsizetype depth = 0;              // the number of these names
-    std::vector<qsizetype> settings;  // of the key, in file order
+    qsizetype group = 0;             // that the first names lead to, of several the first
+    qsizetype depth = 0;             // the number of these names
+    std::vector<qsizetype> settings; // of the key, in file order
+    // The setting that a lookup finds, or would if it had a value: of a group the last, of several
+    // groups that of the first with a value. -1 for none.
+    qsizetype found = -1;
 };
 
 KeyInFile::KeyInFile(const QByteArray &content, const QString &key)
@@ -53,51 +53,27 @@ KeyInFile::KeyInFile(const QByteArray &content, const QString &key)
     , names(key.split(u'.'))
     , outline(readCfgOutline(content))
 {
-    std::vector<qsizetype> inside = groups;
-    for (; !inside.empty() && depth < names.size(); ++depth) {
-        groups = std::exchange(inside, {});
-        const bool isLast = depth + 1 == names.size();
-        for (const qsizetype group : groups) {
-            for (const qsizetype child : childrenOf(group)) {
-                const bool isSetting = entry(child).kind == Entry::Kind::Setting;
-                if (entry(child).name != names[depth] || isSetting != isLast)
-                    continue;
-                if (isSetting)
-                    settings.push_back(child);
-                else if (depth > 0 || child == outline.topGroup())
-                    inside.push_back(child);
+    const qsizetype top = outline.topGroup();
+    std::vector<qsizetype> depths(outline.entries.size(), -1); // of the groups on the key's way
+    depths.front() = 0;
+    for (qsizetype i = 1; i < qsizetype(depths.size()); ++i) {
+        const qsizetype before = depths[size_t(entry(i).parent)];
+        const bool isSetting = entry(i).kind == Entry::Kind::Setting;
+        if (before < 0 || entry(i).name != names[before]
+            || isSetting != (before + 1 == names.size()))
+            continue;
+        if (isSetting) {
+            settings.push_back(i);
+            if (found < 0 || entry(found).value.isEmpty() || entry(found).parent == entry(i).parent)
+                found = i;
+        } else if (before > 0 || i == top) {
+            depths[size_t(i)] = before + 1;
+            if (before + 1 > depth) {
+                depth = before + 1;
+                group = i;
             }
         }
     }
-    --depth;
-}
-
-std::vector<qsizetype> KeyInFile::childrenOf(qsizetype group) const
-{
-    std::vector<qsizetype> children;
-    for (auto i = group + 1; i < qsizetype(outline.entries.size()); ++i) {
-        if (entry(i).parent == group)
-            children.push_back(i);
-    }
-    return children;
-}
-
-/// The setting that a lookup finds, or would if it had a value: of a group the last, of several
-/// groups that of the first with a value. -1 for none.
-qsizetype KeyInFile::found() const
-{
-    qsizetype best = -1;
-    for (const qsizetype setting : settings) {
-        if (best < 0 || entry(best).value.isEmpty() || entry(best).parent == entry(setting).parent)
-            best = setting;
-    }
-    return best;
-}
-
-bool KeyInFile::runsOn() const
-{
-    const qsizetype setting = found();
-    return setting >= 0 && entry(setting).value.contains(u'\n');
 }
 
 QStringList KeyInFile::others() const
@@ -113,27 +89,26 @@ QStringList KeyInFile::others() const
 
 QByteArray KeyInFile::withValue(const QByteArray &value) const
 {
-    const qsizetype setting = found();
-    const Setting *const known =
-        names.size() == 3 ? tools::findSetting(names[1], names[2]) : nullptr;
-    const bool isWord =
-        known && (known->kind == SettingKind::Number || known->kind == SettingKind::Switch);
-    bool isQuoted = value.isEmpty() || value != value.trimmed() || (setting < 0 && !isWord);
-    if (setting >= 0) {
-        const auto [begin, end] = entry(setting).body;
+    bool isQuoted = value.isEmpty() || value != value.trimmed();
+    if (found < 0) {
+        const Setting *const known = tools::settingOf(key);
+        isQuoted |=
+            !known || (known->kind != SettingKind::Number && known->kind != SettingKind::Switch);
+    } else {
+        const auto [begin, end] = entry(found).body;
         const QByteArray present = content.sliced(begin, end - begin);
         isQuoted |= present.size() > 1 && present.startsWith('"') && present.endsWith('"');
     }
     const QByteArray written = isQuoted ? '"' + value + '"' : value;
-    if (setting < 0)
+    if (found < 0)
         return withNew(names.last().toLatin1() + " = " + written + ';');
-    const auto [begin, end] = entry(setting).body;
+    const auto [begin, end] = entry(found).body;
     return QByteArray(content).replace(begin, end - begin, written);
 }
 
 /// The member of the group that a complete file has right before what is to be added there; the
 /// last one for what no complete file has; -1 for none.
-qsizetype KeyInFile::siblingBefore(qsizetype group) const
+qsizetype KeyInFile::siblingBefore() const
 {
     const QStringList order = depth + 1 == names.size() && depth > 0
                                   ? tools::knownWords(names[depth - 1])
@@ -141,10 +116,11 @@ qsizetype KeyInFile::siblingBefore(qsizetype group) const
     const qsizetype place = order.indexOf(names[depth]);
     qsizetype best = -1;
     qsizetype bestPlace = -1;
-    for (const qsizetype child : childrenOf(group)) {
-        const qsizetype childPlace = order.indexOf(entry(child).name);
-        if (place < 0 || (childPlace >= qMax(bestPlace, qsizetype(0)) && childPlace < place)) {
-            best = child;
+    for (auto i = group + 1; i < qsizetype(outline.entries.size()); ++i) {
+        const qsizetype childPlace = order.indexOf(entry(i).name);
+        if (entry(i).parent == group
+            && (place < 0 || (childPlace >= qMax(bestPlace, qsizetype(0)) && childPlace < place))) {
+            best = i;
             bestPlace = childPlace;
         }
     }
@@ -166,17 +142,12 @@ QByteArray KeyInFile::leadOf(qsizetype index) const
 QByteArray KeyInFile::withNew(const QByteArray &setting) const
 {
     const QByteArray step = "    ";
-    const qsizetype group = groups.front();
-    const qsizetype before = siblingBefore(group);
-    QByteArray lead = "\n";
-    if (before >= 0)
-        lead = leadOf(before);
-    else if (group > 0)
-        lead = leadOf(group) + step;
+    const qsizetype before = siblingBefore();
+    QByteArray lead = before >= 0 ? leadOf(before) : group > 0 ? leadOf(group) + step : "\n"_ba;
     QByteArray begin;
     QByteArray end;
-    for (qsizetype i = depth; i + 1 < names.size(); ++i) {
-        begin += lead + names[i].toLatin1() + " : {";
+    for (const QString &name : names.sliced(depth, names.size() - depth - 1)) {
+        begin += lead + name.toLatin1() + " : {";
         end.prepend(lead + "};");
         lead += step;
     }
@@ -220,20 +191,19 @@ EditedContent verified(const KeyInFile &before, const QByteArray &edited, const 
 
 EditedContent withSetting(const QByteArray &content, const QString &key, const QString &value)
 {
-    const QStringList names = key.split(u'.');
-    const Setting *const known =
-        names.size() == 3 ? tools::findSetting(names[1], names[2]) : nullptr;
+    const Setting *const known = tools::settingOf(key);
     const bool isFile =
         known && (known->kind == SettingKind::Folder || known->kind == SettingKind::FileName);
     const QByteArray bytes = isFile ? QFile::encodeName(value) : value.toLatin1();
-    if (!isFile && QString::fromLatin1(bytes) != value)
+    const QString stored = QString::fromLatin1(bytes);
+    if (!isFile && stored != value)
         return {content, u"the file holds ISO 8859-1 alone"_s};
     if (bytes.contains(';') || bytes.contains('"') || bytes.contains('\n'))
         return {content, u"a value can hold no `;`, no double quote and no line end"_s};
-    if (names.size() < 2 || names.contains(QString()))
+    if (!key.contains(u'.') || key.split(u'.').contains(QString()))
         return {content, u"no key: it is zentaro.GROUP.WORD"_s};
     const KeyInFile present(content, key);
-    return verified(present, present.withValue(bytes), QString::fromLatin1(bytes));
+    return verified(present, present.withValue(bytes), stored);
 }
 
 EditedContent withoutSetting(const QByteArray &content, const QString &key)

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/subcommands.h"
+#include "tools/config/configcommand.h"
 
-#include "config/config.h"
-#include "tools/config/losses.h"
 #include "tools/config/settingcheck.h"
 #include "tools/config/settingedit.h"
-#include "tools/config/source.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"
 
@@ -66,24 +63,20 @@ QStringList keysFor(const QString &word, bool ofAll)
 /// What `set` and `unset` share: changes keys, each of which `step` words name, the key first.
 int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype step, Change change)
 {
-    addSourceOptions(line);
     line.addOption({u"all"_s, u"Takes KEY for a key word, as paperWidth, in the groups of all "
                               "documents that have it."_s});
     line.addOption({u"force"_s, u"Also what `config check` would tell as an error, and keys that "
                                 "nothing reads."_s});
-    if (const auto done = line.read(int(step), -1))
-        return *done;
+    const OpenedFile file(call, line, int(step), -1);
+    if (file.exitStatus)
+        return *file.exitStatus;
     const QStringList words = line.arguments();
     if (words.size() % step != 0)
         return line.wrongUsage("the value of `"_L1 + words.last() + "` is missing"_L1);
-    const std::optional<Source> source = sourceOf(line);
-    if (source && source->format != "cfg"_L1)
+    if (file.source.format != "cfg"_L1)
         return line.wrongUsage(u"only a file in the format cfg is changed in place"_s);
-    const std::optional<QByteArray> content = source ? contentOf(call, *source) : std::nullopt;
-    if (!content)
-        return tools::Trouble;
 
-    QByteArray changed = *content;
+    QByteArray changed = file.content;
     for (qsizetype i = 0; i < words.size(); i += step) {
         const QStringList keys = keysFor(words[i], line.isSet(u"all"_s));
         const QString unread = unreadKey(keys.value(0, words[i]));
@@ -96,12 +89,12 @@ int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype st
             changed = std::move(edited);
         }
     }
-    if (const auto errors = newErrors(changed, *content);
+    if (const auto errors = newErrors(changed, file.content);
         !errors.empty() && !line.isSet(u"force"_s)) {
-        tools::printError(tools::findingLines(source->path, errors));
+        tools::printError(tools::findingLines(file.source.path, errors));
         return refuse(call, u"nothing was changed; --force writes it all the same"_s);
     }
-    return changed == *content ? tools::Fine : writeContent(call, source->path, changed);
+    return changed == file.content ? tools::Fine : writeContent(call, file.source.path, changed);
 }
 
 } // namespace
@@ -134,23 +127,17 @@ int convert(const tools::Call &call)
                             u"Writes the configuration to the file OUT, or to standard output "
                             u"for `-`.\nTells what would be lost, and then writes only when "
                             u"asked to again, as over a file that exists."_s);
-    addSourceOptions(line);
     line.addOption({u"to"_s, u"The format to write, cfg or xml."_s, u"FORMAT"_s});
     line.addOption({u"force"_s, u"Writes without asking."_s});
     line.addArgument(u"OUT"_s, u"The file to write."_s);
-    if (const auto done = line.read(1, 1))
-        return *done;
+    const OpenedFile file(call, line, 1, 1);
+    if (file.exitStatus)
+        return *file.exitStatus;
     const QString format = line.value(u"to"_s);
     if (format != "cfg"_L1 && format != "xml"_L1)
         return line.wrongUsage(u"--to cfg or --to xml is needed"_s);
-    const std::optional<Source> source = sourceOf(line);
-    const std::optional<QByteArray> content = source ? contentOf(call, *source) : std::nullopt;
-    if (!content)
-        return tools::Trouble;
-    const Outline outline = readOutline(*content, source->format);
-    libconfig::Config store;
-    store.readContent(*content, source->path, source->format);
-    const std::optional<QByteArray> written = store.writtenAs(format);
+    const Outline outline = readOutline(file.content, file.source.format);
+    const std::optional<QByteArray> written = file.config.writtenAs(format);
     if (!written)
         return refuse(call, u"more than 64 MiB would be written, which nothing reads"_s,
                       tools::Trouble);
@@ -159,7 +146,7 @@ int convert(const tools::Call &call)
     const bool toOutput = target == "-"_L1 || target == "/dev/stdout"_L1;
     std::vector<Finding> lost = outline.losses;
     std::ranges::move(lossesInFormat(outline, format), std::back_inserter(lost));
-    tools::printError(tools::findingLines(source->path, tools::abridged(lost)));
+    tools::printError(tools::findingLines(file.source.path, tools::abridged(lost)));
     QString reason;
     if (!lost.empty())
         reason = u"the file written lacks what is listed above"_s;

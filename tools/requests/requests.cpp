@@ -5,8 +5,8 @@
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "text/standardoutput.h"
+#include "tools/config/configcommand.h"
 #include "tools/config/settingcheck.h"
-#include "tools/config/source.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

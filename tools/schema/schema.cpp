@@ -3,7 +3,6 @@
 
 #include "render/vocabulary.h"
 #include "tools/check/elementtable.h"
-#include "tools/nearest.h"
 #include "tools/terminal.h"
 
 #include <QXmlStreamWriter>
@@ -262,7 +261,7 @@ int run(const tools::Call &call)
             for (const DocumentMethod &other : documentMethods)
                 names.push_back(other.name);
             return line.wrongUsage("unknown method `"_L1 + name + u'`'
-                                   + tools::suggestion(name, names));
+                                   + tools::didYouMean(tools::nearest(name, names)));
         }
         method = chosen - documentMethods.data();
     }

@@ -4,7 +4,6 @@
 #include "config/configviews.h"
 #include "text/standardoutput.h"
 #include "tools/companion.h"
-#include "tools/config/losses.h"
 #include "tools/config/settingcheck.h"
 #include "tools/terminal.h"
 #include "tools/window/paperpane.h"
@@ -232,7 +231,7 @@ void ConfigEditor::listFindings()
         row->setData(SubjectRole, finding.subject);
     };
     for (const Finding &fault : fileFaults)
-        list(tr("In the file, line %1: %2").arg(fault.at.line).arg(fault.text), fault);
+        list(tr("In the file, line %1: %2").arg(fault.at.begin.line).arg(fault.text), fault);
     for (const Finding &finding : tools::abridged(std::move(found)))
         list(finding.text, finding);
     findingsTitle->setText(count == 0 ? tr("Nothing wrong") : tr("Findings: %1").arg(count));

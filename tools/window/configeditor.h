@@ -2,7 +2,7 @@
 #pragma once
 
 #include "config/config.h"
-#include "tools/config/source.h"
+#include "tools/config/configcommand.h"
 #include "tools/window/configtree.h"
 
 #include <QMainWindow>

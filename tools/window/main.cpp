@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/companion.h"
-#include "tools/config/source.h"
+#include "tools/config/configcommand.h"
 #include "tools/terminal.h"
 #include "tools/window/configeditor.h"
 #include "tools/window/sheetpainter.h"

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "config/cfgscanner.h"
+#include "config/config.h"
 #include "tools/command.h"
-
-#include <QByteArray>
 
 #include <optional>
 
-/// The configuration that the sub-commands of `zentaro config` work on.
+/// The command `zentaro config`, and the configuration that its sub-commands work on.
 namespace configtool {
 
 /// The most bytes of a file that are looked at: as many as the store reads of one.
@@ -22,8 +21,6 @@ struct Source
 
 /// `--file`, `--queue` and `--format`.
 QList<QCommandLineOption> sourceOptions();
-/// Adds them to a command's options.
-void addSourceOptions(tools::CommandLine &line);
 
 /// What these options say: the user's own file unless they name another or a print queue, in the
 /// format that its name ends in unless they name one. Nothing for an unknown format or what is no
@@ -40,5 +37,23 @@ bool isMissing(const QString &path);
 std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source);
 /// Writes a file, all at once; answers an exit status. What went wrong has been told.
 int writeContent(const tools::Call &call, const QString &path, const QByteArray &content);
+
+/// Reads a command's words, and the configuration that they name.
+struct OpenedFile
+{
+    OpenedFile(const tools::Call &call, tools::CommandLine &line, int least, int most);
+
+    std::optional<int> exitStatus = tools::Trouble; ///< to end with; none where the file was read
+    Source source;
+    QByteArray content;
+    libconfig::Config config; ///< what the store makes of it
+};
+
+/// The command, and those of its sub-commands that write; all answer an exit status.
+int run(const tools::Call &call);
+int setValues(const tools::Call &call);
+int unsetValues(const tools::Call &call);
+int convert(const tools::Call &call);
+int init(const tools::Call &call);
 
 } // namespace configtool
