@@ -21,10 +21,15 @@ QString helpOn(const CommandLine &line, const Call &call, const CommandGroup &gr
 
 } // namespace
 
+int refuse(const Call &call, const QString &reason, ExitStatus exitStatus)
+{
+    printError(call.command + ": "_L1 + reason + u'\n');
+    return exitStatus;
+}
+
 int tellTrouble(const Call &call, const QString &name, const QString &trouble)
 {
-    printError(call.command + ": "_L1 + inOneLine(name) + ": "_L1 + trouble + u'\n');
-    return Trouble;
+    return refuse(call, inOneLine(name) + ": "_L1 + trouble);
 }
 
 int dispatch(const Call &call, const CommandGroup &group)

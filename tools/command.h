@@ -30,8 +30,10 @@ struct Call
     const Desktop *desktop = nullptr; ///< null in the program that loads no desktop library
 };
 
-/// Tells what is wrong with a file, or whatever has a name, in one line on standard error: the
-/// command, the name, the trouble. Answers Trouble.
+/// Tells on standard error, in one line, why the command does not do what was asked for; answers
+/// the exit status.
+int refuse(const Call &call, const QString &reason, ExitStatus exitStatus = Trouble);
+/// The same for what is wrong with a file, or whatever has a name.
 int tellTrouble(const Call &call, const QString &name, const QString &trouble);
 
 /// A row of a table of commands.

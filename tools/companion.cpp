@@ -86,8 +86,7 @@ int startDesktop(const Call &call)
         if (errno != ENOENT && errno != ENOTDIR)
             return tellTrouble(call, u"zentaro-window"_s, qt_error_string(errno));
     }
-    printError(call.command + ": the package zentaro-desktop is needed for this\n"_L1);
-    return Trouble;
+    return refuse(call, u"the package zentaro-desktop is needed for this"_s);
 }
 
 } // namespace tools

@@ -123,7 +123,7 @@ int getValues(const tools::Call &call)
         values += QString::fromLatin1(value) + u'\n';
         const QString unread = unreadKey(key);
         if (!unread.isEmpty())
-            tools::printError(call.command + ": "_L1 + unread + u'\n');
+            tools::refuse(call, unread);
         complete = complete && !value.isEmpty() && unread.isEmpty();
     }
     const int printed = tools::printOut(values);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/config/configcommand.h"
 
+#include "app/ztconfiguration.h"
 #include "tools/companion.h"
 #include "tools/config/settingedit.h"
 #include "tools/knownkeys.h"
@@ -122,20 +123,21 @@ int init(const tools::Call &call)
     const std::optional<QString> language = languageFor(call, line);
     if (!language)
         return tools::Trouble;
-    if (QFileInfo::exists(source->path) && !line.isSet(u"force"_s)) {
-        tools::printError(call.command + ": "_L1 + tools::inOneLine(source->path)
-                          + " exists; --force writes over it\n"_L1);
-        return tools::Trouble;
-    }
+    if (QFileInfo::exists(source->path) && !line.isSet(u"force"_s))
+        return tools::refuse(call,
+                             tools::inOneLine(source->path) + " exists; --force writes over it"_L1);
     if (makeFolder(call, source->path) != tools::Fine
         || writeContent(call, source->path,
                         startingConfiguration(size_t(paper - papers.begin()), *language))
                != tools::Fine)
         return tools::Trouble;
-    return tools::printOut("wrote "_L1 + tools::inOneLine(source->path) + ", for "_L1 + columns
-                           + " columns, with labels in `"_L1 + *language
-                           + "`; `zentaro preview` shows what a request prints with it, "
-                             "`zentaro config edit` and `set` change it\n"_L1);
+    const QString path = tools::inOneLine(source->path);
+    const bool isOwn = source->path == ZTConfiguration::userFile();
+    return tools::printOut(
+        u"wrote %1, for %2 columns, with labels in `%3`; `zentaro preview%4` shows what a request "
+        "prints with it, `zentaro config%5 edit` and `set` change it\n"_s.arg(
+            path, columns, *language, isOwn ? u""_s : " --config "_L1 + path,
+            isOwn ? u""_s : " --file "_L1 + path));
 }
 
 } // namespace configtool

@@ -17,19 +17,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tells on standard error why a file stays as it is, unless it is told to be changed.
-int refuse(const tools::Call &call, const QString &reason, int exitStatus = tools::Findings)
-{
-    tools::printError(call.command + ": "_L1 + reason + u'\n');
-    return exitStatus;
-}
-
 /// Whether the file may be written, after a word with the person where there is a reason not to.
 bool isAllowed(const tools::Call &call, const QString &reason)
 {
     if (tools::canAsk())
         return tools::confirmed(call.command + ": "_L1 + reason + "; write it all the same?"_L1);
-    refuse(call, reason + "; --force writes it all the same"_L1);
+    tools::refuse(call, reason + "; --force writes it all the same"_L1);
     return false;
 }
 
@@ -45,24 +38,21 @@ std::vector<Finding> newErrors(const QByteArray &content, const QByteArray &befo
     return found;
 }
 
-/// A change of one key in the content of a file.
-using Change = EditedContent (*)(const QByteArray &content, const QString &key,
-                                 const QString &value);
-
-/// The key itself, or those of all documents that have the key word.
-QStringList keysFor(const QString &word, bool ofAll)
+/// The keys of all documents that have the key word.
+QStringList keysOfAll(const QString &word)
 {
-    QStringList keys = ofAll ? QStringList() : QStringList{word};
-    for (const QString &group : ofAll ? tools::groupsWith(word) : QStringList()) {
+    QStringList keys;
+    for (const QString &group : tools::groupsWith(word)) {
         if (tools::isDocumentGroup(group))
             keys.append(tools::keyOf(group, word));
     }
     return keys;
 }
 
-/// What `set` and `unset` share: changes keys, each of which `step` words name, the key first.
-int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype step, Change change)
+/// What `set` and `unset` share: changes keys, behind each of which its value stands for `set`.
+int changeValues(const tools::Call &call, tools::CommandLine &line, bool sets)
 {
+    const qsizetype step = sets ? 2 : 1; // words
     line.addOption({u"all"_s, u"Takes KEY for a key word, as paperWidth, in the groups of all "
                               "documents that have it."_s});
     line.addOption({u"force"_s, u"Also what `config check` would tell as an error, and keys that "
@@ -78,21 +68,23 @@ int changeValues(const tools::Call &call, tools::CommandLine &line, qsizetype st
 
     QByteArray changed = file.content;
     for (qsizetype i = 0; i < words.size(); i += step) {
-        const QStringList keys = keysFor(words[i], line.isSet(u"all"_s));
+        const QStringList keys = line.isSet(u"all"_s) ? keysOfAll(words[i]) : QStringList(words[i]);
         const QString unread = unreadKey(keys.value(0, words[i]));
         if (!unread.isEmpty() && (keys.isEmpty() || !line.isSet(u"force"_s)))
-            return refuse(call, unread);
+            return tools::refuse(call, unread, tools::Findings);
         for (const QString &key : keys) {
-            auto [edited, fault] = change(changed, key, words.value(i + step - 1));
+            auto [edited, fault] =
+                sets ? withSetting(changed, key, words[i + 1]) : withoutSetting(changed, key);
             if (!fault.isEmpty())
-                return refuse(call, tools::inOneLine(key) + ": "_L1 + fault, tools::Trouble);
+                return tools::tellTrouble(call, key, fault);
             changed = std::move(edited);
         }
     }
     if (const auto errors = newErrors(changed, file.content);
         !errors.empty() && !line.isSet(u"force"_s)) {
         tools::printError(tools::findingLines(file.source.path, errors));
-        return refuse(call, u"nothing was changed; --force writes it all the same"_s);
+        return tools::refuse(call, u"nothing was changed; --force writes it all the same"_s,
+                             tools::Findings);
     }
     return changed == file.content ? tools::Fine : writeContent(call, file.source.path, changed);
 }
@@ -106,7 +98,7 @@ int setValues(const tools::Call &call)
                             u"every other byte of the file as it is.\nSays nothing when it is "
                             u"done; changes nothing where one value is refused."_s);
     line.addArgument(u"KEY"_s, u"A dotted key, and behind it its value."_s, u"KEY VALUE..."_s);
-    return changeValues(call, line, 2, withSetting);
+    return changeValues(call, line, true);
 }
 
 int unsetValues(const tools::Call &call)
@@ -115,10 +107,7 @@ int unsetValues(const tools::Call &call)
                             u"Takes the settings of keys such as zentaro.doc.paperWidth away, "
                             u"so that they have their defaults."_s);
     line.addArgument(u"KEY"_s, u"A dotted key."_s, u"KEY..."_s);
-    return changeValues(call, line, 1,
-                        [](const QByteArray &content, const QString &key, const QString &) {
-                            return withoutSetting(content, key);
-                        });
+    return changeValues(call, line, false);
 }
 
 int convert(const tools::Call &call)
@@ -139,8 +128,7 @@ int convert(const tools::Call &call)
     const Outline outline = readOutline(file.content, file.source.format);
     const std::optional<QByteArray> written = file.config.writtenAs(format);
     if (!written)
-        return refuse(call, u"more than 64 MiB would be written, which nothing reads"_s,
-                      tools::Trouble);
+        return tools::refuse(call, u"more than 64 MiB would be written, which nothing reads"_s);
 
     const QString target = line.arguments().first();
     const bool toOutput = target == "-"_L1 || target == "/dev/stdout"_L1;
