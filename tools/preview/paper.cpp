@@ -75,7 +75,8 @@ public:
     {
         for (qsizetype at = 0; at < document.printFile.size() && wanted;) {
             PrintLine line = lineAt(document.printFile, at, document.codec);
-            draw(std::move(line), std::exchange(at, line.next));
+            const qsizetype offset = std::exchange(at, line.next);
+            draw(std::move(line), offset);
         }
         tearOff();
     }
