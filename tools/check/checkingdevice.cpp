@@ -143,6 +143,7 @@ bool CheckingDevice::startMethod(const QXmlAttributes &atts)
     const DocumentMethod *const chosen = documentMethod(name);
     if (!chosen) {
         std::vector<QString> names;
+        names.reserve(documentMethods.size());
         for (const DocumentMethod &other : documentMethods)
             names.push_back(other.name);
         tell("unknown-method",

@@ -161,8 +161,8 @@ QByteArray KeyInFile::withNew(const QByteArray &setting) const
 QByteArray KeyInFile::without() const
 {
     QByteArray left = content;
-    for (auto setting = settings.rbegin(); setting != settings.rend(); ++setting) {
-        auto [begin, end] = entry(*setting).text;
+    for (size_t i = settings.size(); i-- > 0;) {
+        auto [begin, end] = entry(settings[i]).text;
         const auto isBlank = [&](qint64 at) { return QByteArrayView(" \t\r").contains(left[at]); };
         while (begin > 0 && isBlank(begin - 1))
             --begin;

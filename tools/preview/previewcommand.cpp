@@ -94,12 +94,6 @@ QString readOptions(const tools::CommandLine &line, Options &options)
     return mistake;
 }
 
-bool isColoured()
-{
-    return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR")
-           && qgetenv("TERM") != "dumb";
-}
-
 /// One call of the command. What answers a bool or nothing has told why it is false or missing.
 class Preview
 {
@@ -237,11 +231,13 @@ bool Preview::showChange(const QString &name, const Document &before, const Docu
     const QString title = QFileInfo(name).fileName() + ", "_L1;
     std::array<Sheet, 2> pair{{{title + QFileInfo(first).fileName(), rowsOf(before), {}},
                                {title + QFileInfo(options.other).fileName(), rowsOf(after), {}}}};
-    QString text = "--- "_L1 + tools::inOneLine(name) + u'\t' + tools::inOneLine(first)
-                   + "\n+++ "_L1 + tools::inOneLine(name) + u'\t' + tools::inOneLine(options.other)
-                   + u'\n'
+    const bool isColoured = isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR")
+                            && qgetenv("TERM") != "dumb";
+    const QString line = u"%1 %2\t%3\n"_s;
+    QString text = line.arg(u"---"_s, tools::inOneLine(name), tools::inOneLine(first))
+                   + line.arg(u"+++"_s, tools::inOneLine(name), tools::inOneLine(options.other))
                    + unifiedDifference(pair[0].rows, pair[1].rows,
-                                       TerminalDrawing(text::localeCodec(), 0), isColoured());
+                                       TerminalDrawing(text::localeCodec(), 0), isColoured);
     if (std::max(pair[0].rows.size(), pair[1].rows.size()) > MostRows)
         text += u"... only the first %1 lines are shown\n"_s.arg(MostRows);
     markChanges(pair[0], pair[1]);

@@ -258,6 +258,7 @@ int run(const tools::Call &call)
         const DocumentMethod *const chosen = documentMethod(name);
         if (!chosen) {
             std::vector<QString> names;
+            names.reserve(documentMethods.size());
             for (const DocumentMethod &other : documentMethods)
                 names.push_back(other.name);
             return line.wrongUsage("unknown method `"_L1 + name + u'`'
