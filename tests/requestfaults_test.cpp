@@ -235,6 +235,8 @@ TEST(RequestCheck, SaysWhatToDoAndWhere)
     };
     const QByteArray start = "<p>\n<method name='printSold'/>\n";
     const Row rows[] = {
+        {"<?xml version='1.0' standalone='maybe'?><p/>", 1, 39,
+         "wrong value for standalone declaration: the print run stops here"},
         {document("AbstractOrderReceipt", "\n<receipe a=''/>"), 2, 1,
          "it is read in `printPartialOrder`, `printFullOrder`, `printFullOrderReceipt`, "
          "`printFullOrderInvoice` and 3 more (did you mean `receipe_type`?)"},

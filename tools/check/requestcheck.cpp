@@ -47,7 +47,7 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
         return u"the XML declaration has to stand at the very beginning"_s;
     if (places.fault == "error occurred while parsing comment"_L1)
         return u"a comment holds no `--`"_s;
-    if (open)
+    if (open || places.fault.contains("declaration"_L1))
         return places.fault;
     return device.rootTag().line > 0
                ? u"something stands behind the end of the root element"_s
