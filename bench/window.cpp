@@ -31,10 +31,7 @@ public:
     int count = 0;
 };
 
-double milliseconds(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / 1e6;
-}
+double milliseconds(const QElapsedTimer &timer) { return double(timer.nsecsElapsed()) / 1e6; }
 
 double keyStroke(const QString &path)
 {

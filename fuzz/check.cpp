@@ -49,12 +49,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     fuzz::expectEqual(stops ? u"stops"_s : u"is whole"_s,
                       isPrintedToItsEnd(content) ? u"is whole"_s : u"stops"_s);
     const auto isLater = [](const tools::Finding &a, const tools::Finding &b) {
-        return b.at.line > 0 // a last one that counts those left out has no place
-               && std::pair(a.at.line, a.at.column) > std::pair(b.at.line, b.at.column);
+        const tools::Place &at = b.at.begin; // nowhere for a last one, which counts those left out
+        return at.line > 0
+               && std::pair(a.at.begin.line, a.at.begin.column) > std::pair(at.line, at.column);
     };
     if (std::ranges::adjacent_find(findings, isLater) != findings.end())
         fuzz::expectEqual(tools::findingLines(u"out of order"_s, findings), {});
-    const QString json = tools::findingsAsJson(u"request"_s, findings);
+    const QString json = tools::findingsAsJson({{u"request"_s, findings}});
     fuzz::expectEqual(QString::number(QJsonDocument::fromJson(json.toUtf8()).isArray()), u"1"_s);
     return 0;
 }

@@ -20,10 +20,7 @@ using support::zentaro;
 
 namespace {
 
-QString samples(const QString &name = {})
-{
-    return support::sourceDir() + u"/samples/"_s + name;
-}
+QString samples(const QString &name = {}) { return support::sourceDir() + u"/samples/"_s + name; }
 
 /// Runs the check with the configuration of the samples for paper of 40 columns.
 Outcome checked(const QStringList &words, const QStringList &variables = {})

@@ -13,10 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace support {
 
-QString sourceDir()
-{
-    return QStringLiteral(ZENTARO_SOURCE_DIR);
-}
+QString sourceDir() { return QStringLiteral(ZENTARO_SOURCE_DIR); }
 
 QByteArray readFile(const QString &path)
 {
@@ -65,10 +62,7 @@ Home::Home(const QByteArray &configuration)
         writeFile(configurationPath(), configuration);
 }
 
-QString Home::configurationPath() const
-{
-    return path(u".zentaro/conf/zentaro.conf"_s);
-}
+QString Home::configurationPath() const { return path(u".zentaro/conf/zentaro.conf"_s); }
 
 Locale::Locale(const QString &codeset)
     : name(u"xx_XX."_s + codeset)
@@ -108,20 +102,14 @@ Outcome run(const QString &program, const QStringList &words, const Home &home,
     return outcome;
 }
 
-QString zentaroPrintProgram()
-{
-    return QStringLiteral(ZENTARO_PRINT_PROGRAM);
-}
+QString zentaroPrintProgram() { return QStringLiteral(ZENTARO_PRINT_PROGRAM); }
 
 Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables)
 {
     return run(zentaroPrintProgram(), words, home, variables);
 }
 
-QString zentaroProgram()
-{
-    return QStringLiteral(ZENTARO_PROGRAM);
-}
+QString zentaroProgram() { return QStringLiteral(ZENTARO_PROGRAM); }
 
 Outcome zentaro(const QStringList &words, const Home &home, const QStringList &variables)
 {
@@ -143,10 +131,7 @@ QByteArray printed(const QByteArray &request, const Home &home, const QStringLis
 
 } // namespace support
 
-void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
+void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
 
 void PrintTo(const QByteArray &bytes, std::ostream *out)
 {

@@ -8,7 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// Draws the window of `zentaro config edit` into a picture, on paper that has just become narrower.
+/// Draws the window of `zentaro config edit` into a picture, on paper that has just become
+/// narrower.
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
