@@ -112,9 +112,11 @@ QString replaceFile(const QString &path, const QByteArray &content)
     return writeInPlace(name, content); // also one that is mounted alone, which cannot be replaced
 }
 
+// By value, by contract. NOLINTBEGIN(performance-unnecessary-value-param)
 bool Config::buildConfigFile(QString name) { return save(name, u"cfg"_s, "buildConfigFile"); }
 
 bool Config::buildConfigXmlFile(QString name) { return save(name, u"xml"_s, "buildConfigXmlFile"); }
+// NOLINTEND(performance-unnecessary-value-param)
 
 bool Config::save(const QString &name, const QString &format, const char *operation) const
 {
