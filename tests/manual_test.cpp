@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/vocabulary.h"
 #include "tests/support.h"
+#include "tools/check/requestcheck.h"
 #include "tools/knownkeys.h"
 
 #include <QDir>
@@ -212,15 +213,31 @@ TEST(Manual, IsWellFormed)
     }
 }
 
-TEST(Manual, NamesEveryCodeOfTheConfigurationsFindings)
+TEST(Manual, NamesEveryCodeOfFindings)
 {
-    const QString manual = manualPage(u"zentaro-config.1"_s);
-    static const QRegularExpression code(u"\"([a-z]+(?:-[a-z]+)+)\"_L1"_s);
-    int codes = 0;
+    QString transcripts;
+    for (const QString &name : {u"check"_s, u"check-requests"_s})
+        transcripts += QString::fromUtf8(support::readFile(
+            support::sourceDir() + u"/tests/golden/transcripts/"_s + name + u".txt"_s));
+    QString manual = manualPage(u"zentaro-check.1"_s);
+    qsizetype codes = 0;
+    for (const requestcheck::CodesOf &row : requestcheck::codes) {
+        for (const std::string_view name : row.names) {
+            const QString code = QString::fromLatin1(name);
+            ++codes;
+            EXPECT_TRUE(manual.contains(u".It Cm "_s + code + u'\n')) << name;
+            EXPECT_TRUE(transcripts.contains(u'[' + code + u']')) << name << " is tested nowhere";
+        }
+    }
+    EXPECT_EQ(manual.count(u".It Cm "_s), codes);
+
+    manual = manualPage(u"zentaro-config.1"_s);
+    codes = 0;
+    static const QRegularExpression quoted(u"\"([a-z]+(?:-[a-z]+)+)\"_L1"_s);
     for (const char *const file : {"cfgoutline", "losses", "outline", "settingcheck"}) {
         const QString source = QString::fromUtf8(support::readFile(
             support::sourceDir() + u"/tools/config/"_s + QLatin1StringView(file) + u".cpp"_s));
-        for (const auto &match : code.globalMatch(source)) {
+        for (const auto &match : quoted.globalMatch(source)) {
             ++codes;
             EXPECT_TRUE(manual.contains(u".It Cm "_s + match.captured(1) + u'\n'))
                 << match.captured(1).toStdString();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -150,39 +149,6 @@ TEST(PdfPicture, HasAPageOfThePaperForEachDocument)
     for (auto matches = box.globalMatch(pdf); matches.hasNext(); ++pages)
         EXPECT_NEAR(matches.next().captured(1).toDouble(), 80 / 25.4 * 72, 0.5);
     EXPECT_EQ(pages, 2);
-}
-
-TEST(Picture, IsWholeOrNotThereAtAll)
-{
-    const support::Folder folder;
-    const QString name = folder.path(u"ticket.png"_s);
-    const QString longFile = folder.path(u"long"_s);
-    const QString wideFile = folder.path(u"wide"_s);
-    support::writeFile(folder.path(u"fonts.conf"_s), "<?xml version='1.0'?><fontconfig/>");
-    support::writeFile(longFile, "\nj\n" + QByteArray("\"x\"@\n").repeated(100'000));
-    support::writeFile(wideFile, "\nj\n" + QByteArray("\"x\"@\n").repeated(1'500));
-    const QString sample = u"@/tests/golden/preview/sold.xml"_s;
-    const struct
-    {
-        QStringList words;
-        QString variable;
-        const char *message;
-    } rows[] = {
-        {{longFile, u"-o"_s, name}, {}, "more than 4000 lines"},
-        {{wideFile, u"-o"_s, name}, {}, "pixels, more than 32000 at a side"},
-        {{sample, u"--columns"_s, u"500"_s, u"-o"_s, name}, {}, "too small to be read"},
-        {{sample, u"-o"_s, folder.path(u"none/ticket.png"_s)}, {}, "No such file or directory"},
-        {{sample, u"-o"_s, name},
-         u"FONTCONFIG_FILE="_s + folder.path(u"fonts.conf"_s),
-         "there is no monospaced font"},
-    };
-    for (const auto &row : rows) {
-        const Outcome outcome =
-            draw(row.words, row.variable.isEmpty() ? QStringList() : QStringList(row.variable));
-        EXPECT_EQ(outcome.exitStatus, 2) << row.message;
-        EXPECT_TRUE(outcome.errors.contains(row.message)) << outcome.errors.toStdString();
-        EXPECT_FALSE(QFileInfo::exists(name)) << row.message;
-    }
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 using namespace Qt::StringLiterals;
 
 namespace support {
@@ -54,6 +56,12 @@ void expectReference(const QString &reference, const QByteArray &found)
     diff.start(u"diff"_s, {u"-au"_s, u"-F^#"_s, reference, folder.path(u"found"_s)});
     diff.waitForFinished();
     ADD_FAILURE() << diff.readAll().toStdString();
+}
+
+Folder::~Folder()
+{
+    std::error_code ignored; // the toolkit's own removal leaves names that are not UTF-8
+    std::filesystem::remove_all(folder.path().toStdString(), ignored);
 }
 
 Home::Home(const QByteArray &configuration)

@@ -31,6 +31,7 @@ void expectReference(const QString &reference, const QByteArray &found);
 class Folder
 {
 public:
+    ~Folder();
     /// The path of `name` inside the folder.
     QString path(const QString &name = {}) const { return folder.filePath(name); }
 
