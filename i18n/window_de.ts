@@ -189,6 +189,249 @@
     </message>
 </context>
 <context>
+    <name>Finding</name>
+    <message>
+        <source>the file begins with a byte order mark, which becomes part of its first name</source>
+        <translation>die Datei beginnt mit einer Bytereihenfolge-Marke, die Teil ihres ersten Namens wird</translation>
+    </message>
+    <message>
+        <source>no `{` follows the `:` of the group %1: the rest of the file is skipped</source>
+        <translation>auf den `:` der Gruppe %1 folgt keine `{`: der Rest der Datei wird übergangen</translation>
+    </message>
+    <message>
+        <source>no `{` of its own follows the `:` of the group %1: it takes that of line %2, and all between is lost: %3</source>
+        <translation>auf den `:` der Gruppe %1 folgt keine eigene `{`: sie nimmt die von Zeile %2, und alles dazwischen geht verloren: %3</translation>
+    </message>
+    <message>
+        <source>lost between `:` and `{`: %1</source>
+        <translation>zwischen `:` und `{` verloren: %1</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the value of %1</source>
+        <translation>ein NUL-Byte beendet den Wert von %1</translation>
+    </message>
+    <message>
+        <source>no setting, and lost: %1</source>
+        <translation>keine Einstellung, und verloren: %1</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group</source>
+        <translation>diese `}` schließt keine Gruppe</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group: reading ends here, and the rest of the file is lost: %1</source>
+        <translation>diese `}` schließt keine Gruppe: das Lesen endet hier, und der Rest der Datei geht verloren: %1</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1: all up to the next one is lost: %2</source>
+        <translation>auf die `}` der Gruppe %1 folgt kein `;`: alles bis zum nächsten geht verloren: %2</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1</source>
+        <translation>auf die `}` der Gruppe %1 folgt kein `;`</translation>
+    </message>
+    <message>
+        <source>the end of the file is lost: %1</source>
+        <translation>das Ende der Datei geht verloren: %1</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed</source>
+        <translation>die Gruppe %1 ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the name of the %1 %2</source>
+        <translation>ein NUL-Byte beendet den Namen %2 (%1)</translation>
+    </message>
+    <message>
+        <source>a `;` too many became part of the %1 %2</source>
+        <translation>ein `;` zu viel wurde Teil des Namens %2 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 became part of the %2 %3: %4</source>
+        <translation>%1 wurde Teil des Namens %3 (%2): %4</translation>
+    </message>
+    <message>
+        <source>there are no comments</source>
+        <translation>Kommentare gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is neither `key = value;` nor `group : {`</source>
+        <translation>es ist weder `Schlüssel = Wert;` noch `Gruppe : {`</translation>
+    </message>
+    <message>
+        <source>%1 is read as a %2: there are no comments</source>
+        <translation>%1 wird als Name gelesen (%2): Kommentare gibt es nicht</translation>
+    </message>
+    <message>
+        <source>a `{` became part of the %1 %2: the `:` before it is missing</source>
+        <translation>eine `{` wurde Teil des Namens %2 (%1): der `:` davor fehlt</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1: it runs to the end of the file</source>
+        <translation>kein `;` beendet den Wert von %1: er reicht bis zum Ende der Datei</translation>
+    </message>
+    <message>
+        <source>the quoted value of %1 goes on to line %2</source>
+        <translation>der Wert von %1 in Anführungszeichen geht bis Zeile %2 weiter</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3</source>
+        <translation>kein `;` beendet den Wert von %1 auf seiner Zeile: er geht bis Zeile %2 weiter und nimmt %3 mit</translation>
+    </message>
+    <message>
+        <source>double quotes inside a value are lost: %1 is %2</source>
+        <translation>Anführungszeichen in einem Wert gehen verloren: %1 ist %2</translation>
+    </message>
+    <message>
+        <source>nothing is escaped, and it breaks the file</source>
+        <translation>nichts wird maskiert, und es macht die Datei kaputt</translation>
+    </message>
+    <message>
+        <source>it breaks what is written around it</source>
+        <translation>es macht kaputt, was ringsum geschrieben wird</translation>
+    </message>
+    <message>
+        <source>it is read back as %1</source>
+        <translation>es wird als %1 zurückgelesen</translation>
+    </message>
+    <message>
+        <source>the name %1: %2</source>
+        <translation>der Name %1: %2</translation>
+    </message>
+    <message>
+        <source>everything: the setting %1 outside any group makes a file that is no XML</source>
+        <translation>alles: mit der Einstellung %1 außerhalb aller Gruppen ist die Datei kein XML</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>der Wert von %1: %2</translation>
+    </message>
+    <message>
+        <source>the value %1 of %2: the key stands there twice</source>
+        <translation>der Wert %1 von %2: der Schlüssel steht dort zweimal</translation>
+    </message>
+    <message>
+        <source>the group %1, which is empty</source>
+        <translation>die Gruppe %1, die leer ist</translation>
+    </message>
+    <message>
+        <source>the group %1 with all it holds: only the first top-level group is written</source>
+        <translation>die Gruppe %1 mit allem darin: nur die erste Gruppe der obersten Ebene wird geschrieben</translation>
+    </message>
+    <message>
+        <source>text that is no setting: %1</source>
+        <translation>Text, der keine Einstellung ist: %1</translation>
+    </message>
+    <message>
+        <source>groups nest more than %1 deep</source>
+        <translation>Gruppen sind mehr als %1 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>von der Datei wird nichts gelesen: %1</translation>
+    </message>
+    <message>
+        <source>not well-formed, nothing of the file is read: %1</source>
+        <translation>nicht wohlgeformt, von der Datei wird nichts gelesen: %1</translation>
+    </message>
+    <message>
+        <source>the file has no group: every setting is empty</source>
+        <translation>die Datei hat keine Gruppe: jede Einstellung ist leer</translation>
+    </message>
+    <message>
+        <source>the group %1 is empty and counts for nothing</source>
+        <translation>die Gruppe %1 ist leer und zählt nicht</translation>
+    </message>
+    <message>
+        <source>the group %1 stands here again: of a key in both, the first value that is not empty counts</source>
+        <translation>die Gruppe %1 steht hier noch einmal: von einem Schlüssel in beiden zählt der erste Wert, der nicht leer ist</translation>
+    </message>
+    <message>
+        <source>nothing reads the group %1</source>
+        <translation>nichts liest die Gruppe %1</translation>
+    </message>
+    <message>
+        <source>nothing in the group %1 is ever found: only the first top-level group is looked at</source>
+        <translation>in der Gruppe %1 wird nie etwas gefunden: nur die erste Gruppe der obersten Ebene wird angesehen</translation>
+    </message>
+    <message>
+        <source>no key is ever found: the first group is %1, not `%2`</source>
+        <translation>kein Schlüssel wird je gefunden: die erste Gruppe ist %1, nicht `%2`</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1 outside any group</source>
+        <translation>keine Suche findet den Schlüssel %1 außerhalb aller Gruppen</translation>
+    </message>
+    <message>
+        <source>the key %1 is overridden: it stands in this group again</source>
+        <translation>der Schlüssel %1 gilt nicht: er steht noch einmal in dieser Gruppe</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1: a `.` stands between the names of groups</source>
+        <translation>keine Suche findet den Schlüssel %1: ein `.` steht zwischen den Namen von Gruppen</translation>
+    </message>
+    <message>
+        <source>nothing reads the key %1</source>
+        <translation>nichts liest den Schlüssel %1</translation>
+    </message>
+    <message>
+        <source>no lookup finds this %1: an earlier group of the name has it</source>
+        <translation>keine Suche findet dieses %1: eine frühere Gruppe des Namens hat es</translation>
+    </message>
+    <message>
+        <source> (it belongs to `%1`)</source>
+        <translation> (er gehört zu `%1`)</translation>
+    </message>
+    <message>
+        <source>%1 wants a whole number, not %2: 0 is read</source>
+        <translation>%1 verlangt eine ganze Zahl, nicht %2: 0 wird gelesen</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is not between 0 and %3</source>
+        <translation>%1 ist %2, was nicht zwischen 0 und %3 liegt</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;: it is off</source>
+        <translation>%1 ist %2, weder &quot;true&quot; noch &quot;false&quot;: es ist aus</translation>
+    </message>
+    <message>
+        <source>%1 is %2: every line is logged</source>
+        <translation>%1 ist %2: jede Zeile wird protokolliert</translation>
+    </message>
+    <message>
+        <source>%1 is %2: nothing is logged</source>
+        <translation>%1 ist %2: nichts wird protokolliert</translation>
+    </message>
+    <message>
+        <source>%1: quantity, price and total take %2 characters with what stands between them, the paper has %3: nothing is left for the description</source>
+        <translation>%1: Menge, Preis und Summe nehmen mit dem, was dazwischen steht, %2 Zeichen ein, das Papier hat %3: für die Bezeichnung bleibt nichts</translation>
+    </message>
+    <message>
+        <source>there is no language file %1</source>
+        <translation>es gibt keine Sprachdatei %1</translation>
+    </message>
+    <message>
+        <source>there is no language file %1: labels stay in English</source>
+        <translation>es gibt keine Sprachdatei %1: die Beschriftungen bleiben englisch</translation>
+    </message>
+    <message>
+        <source>%1 more like this</source>
+        <translation>%1 weitere von dieser Art</translation>
+    </message>
+    <message>
+        <source> (did you mean `%1`?)</source>
+        <translation> (war `%1` gemeint?)</translation>
+    </message>
+</context>
+<context>
     <name>PaperPane</name>
     <message>
         <source>%1 mm</source>

@@ -189,6 +189,249 @@
     </message>
 </context>
 <context>
+    <name>Finding</name>
+    <message>
+        <source>the file begins with a byte order mark, which becomes part of its first name</source>
+        <translation>el archivo empieza con una marca de orden de bytes, que pasa a ser parte de su primer nombre</translation>
+    </message>
+    <message>
+        <source>no `{` follows the `:` of the group %1: the rest of the file is skipped</source>
+        <translation>ninguna `{` sigue a los `:` del grupo %1: se salta el resto del archivo</translation>
+    </message>
+    <message>
+        <source>no `{` of its own follows the `:` of the group %1: it takes that of line %2, and all between is lost: %3</source>
+        <translation>ninguna `{` propia sigue a los `:` del grupo %1: toma la de la línea %2, y se pierde todo lo que hay entre medias: %3</translation>
+    </message>
+    <message>
+        <source>lost between `:` and `{`: %1</source>
+        <translation>perdido entre `:` y `{`: %1</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the value of %1</source>
+        <translation>un byte NUL termina el valor de %1</translation>
+    </message>
+    <message>
+        <source>no setting, and lost: %1</source>
+        <translation>no es un ajuste, y se pierde: %1</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group</source>
+        <translation>esta `}` no cierra ningún grupo</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group: reading ends here, and the rest of the file is lost: %1</source>
+        <translation>esta `}` no cierra ningún grupo: la lectura termina aquí, y se pierde el resto del archivo: %1</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1: all up to the next one is lost: %2</source>
+        <translation>ningún `;` sigue a la `}` del grupo %1: se pierde todo hasta el siguiente: %2</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1</source>
+        <translation>ningún `;` sigue a la `}` del grupo %1</translation>
+    </message>
+    <message>
+        <source>the end of the file is lost: %1</source>
+        <translation>se pierde el final del archivo: %1</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed</source>
+        <translation>el grupo %1 no está cerrado</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>clave</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the name of the %1 %2</source>
+        <translation>un byte NUL termina el nombre %2 (%1)</translation>
+    </message>
+    <message>
+        <source>a `;` too many became part of the %1 %2</source>
+        <translation>un `;` de más pasó a ser parte del nombre %2 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 became part of the %2 %3: %4</source>
+        <translation>%1 pasó a ser parte del nombre %3 (%2): %4</translation>
+    </message>
+    <message>
+        <source>there are no comments</source>
+        <translation>no existen comentarios</translation>
+    </message>
+    <message>
+        <source>it is neither `key = value;` nor `group : {`</source>
+        <translation>no es ni `clave = valor;` ni `grupo : {`</translation>
+    </message>
+    <message>
+        <source>%1 is read as a %2: there are no comments</source>
+        <translation>%1 se lee como un nombre (%2): no existen comentarios</translation>
+    </message>
+    <message>
+        <source>a `{` became part of the %1 %2: the `:` before it is missing</source>
+        <translation>una `{` pasó a ser parte del nombre %2 (%1): faltan los `:` que la preceden</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1: it runs to the end of the file</source>
+        <translation>ningún `;` termina el valor de %1: llega hasta el final del archivo</translation>
+    </message>
+    <message>
+        <source>the quoted value of %1 goes on to line %2</source>
+        <translation>el valor de %1 entre comillas sigue hasta la línea %2</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3</source>
+        <translation>ningún `;` termina el valor de %1 en su línea: sigue hasta la línea %2 e incluye %3</translation>
+    </message>
+    <message>
+        <source>double quotes inside a value are lost: %1 is %2</source>
+        <translation>las comillas dentro de un valor se pierden: %1 es %2</translation>
+    </message>
+    <message>
+        <source>nothing is escaped, and it breaks the file</source>
+        <translation>nada se escapa, y rompe el archivo</translation>
+    </message>
+    <message>
+        <source>it breaks what is written around it</source>
+        <translation>rompe lo que se escribe alrededor</translation>
+    </message>
+    <message>
+        <source>it is read back as %1</source>
+        <translation>se vuelve a leer como %1</translation>
+    </message>
+    <message>
+        <source>the name %1: %2</source>
+        <translation>el nombre %1: %2</translation>
+    </message>
+    <message>
+        <source>everything: the setting %1 outside any group makes a file that is no XML</source>
+        <translation>todo: el ajuste %1 fuera de cualquier grupo da un archivo que no es XML</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>el valor de %1: %2</translation>
+    </message>
+    <message>
+        <source>the value %1 of %2: the key stands there twice</source>
+        <translation>el valor %1 de %2: la clave está ahí dos veces</translation>
+    </message>
+    <message>
+        <source>the group %1, which is empty</source>
+        <translation>el grupo %1, que está vacío</translation>
+    </message>
+    <message>
+        <source>the group %1 with all it holds: only the first top-level group is written</source>
+        <translation>el grupo %1 con todo lo que contiene: solo se escribe el primer grupo del nivel superior</translation>
+    </message>
+    <message>
+        <source>text that is no setting: %1</source>
+        <translation>texto que no es un ajuste: %1</translation>
+    </message>
+    <message>
+        <source>groups nest more than %1 deep</source>
+        <translation>los grupos se anidan a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>no se lee nada del archivo: %1</translation>
+    </message>
+    <message>
+        <source>not well-formed, nothing of the file is read: %1</source>
+        <translation>mal formado, no se lee nada del archivo: %1</translation>
+    </message>
+    <message>
+        <source>the file has no group: every setting is empty</source>
+        <translation>el archivo no tiene ningún grupo: todos los ajustes están vacíos</translation>
+    </message>
+    <message>
+        <source>the group %1 is empty and counts for nothing</source>
+        <translation>el grupo %1 está vacío y no cuenta</translation>
+    </message>
+    <message>
+        <source>the group %1 stands here again: of a key in both, the first value that is not empty counts</source>
+        <translation>el grupo %1 está aquí otra vez: de una clave en ambos cuenta el primer valor que no está vacío</translation>
+    </message>
+    <message>
+        <source>nothing reads the group %1</source>
+        <translation>nada lee el grupo %1</translation>
+    </message>
+    <message>
+        <source>nothing in the group %1 is ever found: only the first top-level group is looked at</source>
+        <translation>nada del grupo %1 se encuentra nunca: solo se mira el primer grupo del nivel superior</translation>
+    </message>
+    <message>
+        <source>no key is ever found: the first group is %1, not `%2`</source>
+        <translation>nunca se encuentra ninguna clave: el primer grupo es %1, no `%2`</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1 outside any group</source>
+        <translation>ninguna búsqueda encuentra la clave %1 fuera de todo grupo</translation>
+    </message>
+    <message>
+        <source>the key %1 is overridden: it stands in this group again</source>
+        <translation>la clave %1 queda sustituida: está otra vez en este grupo</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1: a `.` stands between the names of groups</source>
+        <translation>ninguna búsqueda encuentra la clave %1: un `.` va entre los nombres de los grupos</translation>
+    </message>
+    <message>
+        <source>nothing reads the key %1</source>
+        <translation>nada lee la clave %1</translation>
+    </message>
+    <message>
+        <source>no lookup finds this %1: an earlier group of the name has it</source>
+        <translation>ninguna búsqueda encuentra este %1: lo tiene un grupo anterior del mismo nombre</translation>
+    </message>
+    <message>
+        <source> (it belongs to `%1`)</source>
+        <translation> (pertenece a `%1`)</translation>
+    </message>
+    <message>
+        <source>%1 wants a whole number, not %2: 0 is read</source>
+        <translation>%1 pide un número entero, no %2: se lee 0</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is not between 0 and %3</source>
+        <translation>%1 es %2, que no está entre 0 y %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;: it is off</source>
+        <translation>%1 es %2, ni &quot;true&quot; ni &quot;false&quot;: está desactivado</translation>
+    </message>
+    <message>
+        <source>%1 is %2: every line is logged</source>
+        <translation>%1 es %2: se registra cada línea</translation>
+    </message>
+    <message>
+        <source>%1 is %2: nothing is logged</source>
+        <translation>%1 es %2: no se registra nada</translation>
+    </message>
+    <message>
+        <source>%1: quantity, price and total take %2 characters with what stands between them, the paper has %3: nothing is left for the description</source>
+        <translation>%1: cantidad, precio y total ocupan %2 caracteres con lo que hay entre ellos, el papel tiene %3: no queda nada para la descripción</translation>
+    </message>
+    <message>
+        <source>there is no language file %1</source>
+        <translation>no hay archivo de idioma %1</translation>
+    </message>
+    <message>
+        <source>there is no language file %1: labels stay in English</source>
+        <translation>no hay archivo de idioma %1: las etiquetas quedan en inglés</translation>
+    </message>
+    <message>
+        <source>%1 more like this</source>
+        <translation>%1 más de este tipo</translation>
+    </message>
+    <message>
+        <source> (did you mean `%1`?)</source>
+        <translation> (¿quería decir `%1`?)</translation>
+    </message>
+</context>
+<context>
     <name>PaperPane</name>
     <message>
         <source>%1 mm</source>

@@ -189,6 +189,249 @@
     </message>
 </context>
 <context>
+    <name>Finding</name>
+    <message>
+        <source>the file begins with a byte order mark, which becomes part of its first name</source>
+        <translation>le fichier commence par une marque d’ordre des octets, qui devient une partie de son premier nom</translation>
+    </message>
+    <message>
+        <source>no `{` follows the `:` of the group %1: the rest of the file is skipped</source>
+        <translation>aucune `{` ne suit le `:` du groupe %1 : le reste du fichier est sauté</translation>
+    </message>
+    <message>
+        <source>no `{` of its own follows the `:` of the group %1: it takes that of line %2, and all between is lost: %3</source>
+        <translation>aucune `{` propre ne suit le `:` du groupe %1 : il prend celle de la ligne %2, et tout ce qui est entre les deux est perdu : %3</translation>
+    </message>
+    <message>
+        <source>lost between `:` and `{`: %1</source>
+        <translation>perdu entre `:` et `{` : %1</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the value of %1</source>
+        <translation>un octet NUL termine la valeur de %1</translation>
+    </message>
+    <message>
+        <source>no setting, and lost: %1</source>
+        <translation>ce n’est pas un réglage, et c’est perdu : %1</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group</source>
+        <translation>cette `}` ne ferme aucun groupe</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group: reading ends here, and the rest of the file is lost: %1</source>
+        <translation>cette `}` ne ferme aucun groupe : la lecture s’arrête ici, et le reste du fichier est perdu : %1</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1: all up to the next one is lost: %2</source>
+        <translation>aucun `;` ne suit la `}` du groupe %1 : tout jusqu’au suivant est perdu : %2</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1</source>
+        <translation>aucun `;` ne suit la `}` du groupe %1</translation>
+    </message>
+    <message>
+        <source>the end of the file is lost: %1</source>
+        <translation>la fin du fichier est perdue : %1</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed</source>
+        <translation>le groupe %1 n’est pas fermé</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>groupe</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>clé</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the name of the %1 %2</source>
+        <translation>un octet NUL termine le nom %2 (%1)</translation>
+    </message>
+    <message>
+        <source>a `;` too many became part of the %1 %2</source>
+        <translation>un `;` de trop est devenu une partie du nom %2 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 became part of the %2 %3: %4</source>
+        <translation>%1 est devenu une partie du nom %3 (%2) : %4</translation>
+    </message>
+    <message>
+        <source>there are no comments</source>
+        <translation>il n’y a pas de commentaires</translation>
+    </message>
+    <message>
+        <source>it is neither `key = value;` nor `group : {`</source>
+        <translation>ce n’est ni `clé = valeur;` ni `groupe : {`</translation>
+    </message>
+    <message>
+        <source>%1 is read as a %2: there are no comments</source>
+        <translation>%1 est lu comme un nom (%2) : il n’y a pas de commentaires</translation>
+    </message>
+    <message>
+        <source>a `{` became part of the %1 %2: the `:` before it is missing</source>
+        <translation>une `{` est devenue une partie du nom %2 (%1) : le `:` qui la précède manque</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1: it runs to the end of the file</source>
+        <translation>aucun `;` ne termine la valeur de %1 : elle va jusqu’à la fin du fichier</translation>
+    </message>
+    <message>
+        <source>the quoted value of %1 goes on to line %2</source>
+        <translation>la valeur de %1 entre guillemets continue jusqu’à la ligne %2</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3</source>
+        <translation>aucun `;` ne termine la valeur de %1 sur sa ligne : elle continue jusqu’à la ligne %2 et prend %3</translation>
+    </message>
+    <message>
+        <source>double quotes inside a value are lost: %1 is %2</source>
+        <translation>les guillemets à l’intérieur d’une valeur sont perdus : %1 est %2</translation>
+    </message>
+    <message>
+        <source>nothing is escaped, and it breaks the file</source>
+        <translation>rien n’est échappé, et le fichier en est cassé</translation>
+    </message>
+    <message>
+        <source>it breaks what is written around it</source>
+        <translation>cela casse ce qui est écrit autour</translation>
+    </message>
+    <message>
+        <source>it is read back as %1</source>
+        <translation>c’est relu comme %1</translation>
+    </message>
+    <message>
+        <source>the name %1: %2</source>
+        <translation>le nom %1 : %2</translation>
+    </message>
+    <message>
+        <source>everything: the setting %1 outside any group makes a file that is no XML</source>
+        <translation>tout : le réglage %1 hors de tout groupe donne un fichier qui n’est pas du XML</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>la valeur de %1 : %2</translation>
+    </message>
+    <message>
+        <source>the value %1 of %2: the key stands there twice</source>
+        <translation>la valeur %1 de %2 : la clé y est deux fois</translation>
+    </message>
+    <message>
+        <source>the group %1, which is empty</source>
+        <translation>le groupe %1, qui est vide</translation>
+    </message>
+    <message>
+        <source>the group %1 with all it holds: only the first top-level group is written</source>
+        <translation>le groupe %1 avec tout ce qu’il contient : seul le premier groupe du niveau supérieur est écrit</translation>
+    </message>
+    <message>
+        <source>text that is no setting: %1</source>
+        <translation>du texte qui n’est pas un réglage : %1</translation>
+    </message>
+    <message>
+        <source>groups nest more than %1 deep</source>
+        <translation>les groupes sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>rien du fichier n’est lu : %1</translation>
+    </message>
+    <message>
+        <source>not well-formed, nothing of the file is read: %1</source>
+        <translation>mal formé, rien du fichier n’est lu : %1</translation>
+    </message>
+    <message>
+        <source>the file has no group: every setting is empty</source>
+        <translation>le fichier n’a aucun groupe : chaque réglage est vide</translation>
+    </message>
+    <message>
+        <source>the group %1 is empty and counts for nothing</source>
+        <translation>le groupe %1 est vide et ne compte pas</translation>
+    </message>
+    <message>
+        <source>the group %1 stands here again: of a key in both, the first value that is not empty counts</source>
+        <translation>le groupe %1 est ici une nouvelle fois : d’une clé dans les deux compte la première valeur qui n’est pas vide</translation>
+    </message>
+    <message>
+        <source>nothing reads the group %1</source>
+        <translation>rien ne lit le groupe %1</translation>
+    </message>
+    <message>
+        <source>nothing in the group %1 is ever found: only the first top-level group is looked at</source>
+        <translation>rien dans le groupe %1 n’est jamais trouvé : seul le premier groupe du niveau supérieur est regardé</translation>
+    </message>
+    <message>
+        <source>no key is ever found: the first group is %1, not `%2`</source>
+        <translation>aucune clé n’est jamais trouvée : le premier groupe est %1, pas `%2`</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1 outside any group</source>
+        <translation>aucune recherche ne trouve la clé %1 hors de tout groupe</translation>
+    </message>
+    <message>
+        <source>the key %1 is overridden: it stands in this group again</source>
+        <translation>la clé %1 est remplacée : elle est encore une fois dans ce groupe</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1: a `.` stands between the names of groups</source>
+        <translation>aucune recherche ne trouve la clé %1 : un `.` se met entre les noms des groupes</translation>
+    </message>
+    <message>
+        <source>nothing reads the key %1</source>
+        <translation>rien ne lit la clé %1</translation>
+    </message>
+    <message>
+        <source>no lookup finds this %1: an earlier group of the name has it</source>
+        <translation>aucune recherche ne trouve ce %1 : un groupe précédent du même nom l’a</translation>
+    </message>
+    <message>
+        <source> (it belongs to `%1`)</source>
+        <translation> (elle appartient à `%1`)</translation>
+    </message>
+    <message>
+        <source>%1 wants a whole number, not %2: 0 is read</source>
+        <translation>%1 veut un nombre entier, pas %2 : 0 est lu</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is not between 0 and %3</source>
+        <translation>%1 est %2, ce qui n’est pas entre 0 et %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;: it is off</source>
+        <translation>%1 est %2, ni &quot;true&quot; ni &quot;false&quot; : c’est désactivé</translation>
+    </message>
+    <message>
+        <source>%1 is %2: every line is logged</source>
+        <translation>%1 est %2 : chaque ligne est journalisée</translation>
+    </message>
+    <message>
+        <source>%1 is %2: nothing is logged</source>
+        <translation>%1 est %2 : rien n’est journalisé</translation>
+    </message>
+    <message>
+        <source>%1: quantity, price and total take %2 characters with what stands between them, the paper has %3: nothing is left for the description</source>
+        <translation>%1 : quantité, prix et total prennent %2 caractères avec ce qui est entre eux, le papier en a %3 : il ne reste rien pour la désignation</translation>
+    </message>
+    <message>
+        <source>there is no language file %1</source>
+        <translation>il n’y a pas de fichier de langue %1</translation>
+    </message>
+    <message>
+        <source>there is no language file %1: labels stay in English</source>
+        <translation>il n’y a pas de fichier de langue %1 : les libellés restent en anglais</translation>
+    </message>
+    <message>
+        <source>%1 more like this</source>
+        <translation>%1 autres de ce genre</translation>
+    </message>
+    <message>
+        <source> (did you mean `%1`?)</source>
+        <translation> (vouliez-vous dire `%1` ?)</translation>
+    </message>
+</context>
+<context>
     <name>PaperPane</name>
     <message>
         <source>%1 mm</source>

@@ -189,6 +189,249 @@
     </message>
 </context>
 <context>
+    <name>Finding</name>
+    <message>
+        <source>the file begins with a byte order mark, which becomes part of its first name</source>
+        <translation>il file comincia con un segno d’ordine dei byte, che diventa parte del primo nome</translation>
+    </message>
+    <message>
+        <source>no `{` follows the `:` of the group %1: the rest of the file is skipped</source>
+        <translation>nessuna `{` segue i `:` del gruppo %1: il resto del file viene saltato</translation>
+    </message>
+    <message>
+        <source>no `{` of its own follows the `:` of the group %1: it takes that of line %2, and all between is lost: %3</source>
+        <translation>nessuna `{` propria segue i `:` del gruppo %1: prende quella della riga %2, e tutto ciò che sta in mezzo si perde: %3</translation>
+    </message>
+    <message>
+        <source>lost between `:` and `{`: %1</source>
+        <translation>perso tra `:` e `{`: %1</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the value of %1</source>
+        <translation>un byte NUL termina il valore di %1</translation>
+    </message>
+    <message>
+        <source>no setting, and lost: %1</source>
+        <translation>nessuna impostazione, e perso: %1</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group</source>
+        <translation>questa `}` non chiude alcun gruppo</translation>
+    </message>
+    <message>
+        <source>this `}` closes no group: reading ends here, and the rest of the file is lost: %1</source>
+        <translation>questa `}` non chiude alcun gruppo: la lettura finisce qui, e il resto del file si perde: %1</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1: all up to the next one is lost: %2</source>
+        <translation>nessun `;` segue la `}` del gruppo %1: tutto fino al prossimo si perde: %2</translation>
+    </message>
+    <message>
+        <source>no `;` follows the `}` of the group %1</source>
+        <translation>nessun `;` segue la `}` del gruppo %1</translation>
+    </message>
+    <message>
+        <source>the end of the file is lost: %1</source>
+        <translation>la fine del file si perde: %1</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed</source>
+        <translation>il gruppo %1 non è chiuso</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>gruppo</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>chiave</translation>
+    </message>
+    <message>
+        <source>a NUL byte ends the name of the %1 %2</source>
+        <translation>un byte NUL termina il nome %2 (%1)</translation>
+    </message>
+    <message>
+        <source>a `;` too many became part of the %1 %2</source>
+        <translation>un `;` di troppo è diventato parte del nome %2 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 became part of the %2 %3: %4</source>
+        <translation>%1 è diventato parte del nome %3 (%2): %4</translation>
+    </message>
+    <message>
+        <source>there are no comments</source>
+        <translation>i commenti non esistono</translation>
+    </message>
+    <message>
+        <source>it is neither `key = value;` nor `group : {`</source>
+        <translation>non è né `chiave = valore;` né `gruppo : {`</translation>
+    </message>
+    <message>
+        <source>%1 is read as a %2: there are no comments</source>
+        <translation>%1 è letto come nome (%2): i commenti non esistono</translation>
+    </message>
+    <message>
+        <source>a `{` became part of the %1 %2: the `:` before it is missing</source>
+        <translation>una `{` è diventata parte del nome %2 (%1): mancano i `:` che la precedono</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1: it runs to the end of the file</source>
+        <translation>nessun `;` termina il valore di %1: arriva fino alla fine del file</translation>
+    </message>
+    <message>
+        <source>the quoted value of %1 goes on to line %2</source>
+        <translation>il valore di %1 tra virgolette prosegue fino alla riga %2</translation>
+    </message>
+    <message>
+        <source>no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3</source>
+        <translation>nessun `;` termina il valore di %1 sulla sua riga: prosegue fino alla riga %2 e comprende %3</translation>
+    </message>
+    <message>
+        <source>double quotes inside a value are lost: %1 is %2</source>
+        <translation>le virgolette dentro un valore si perdono: %1 è %2</translation>
+    </message>
+    <message>
+        <source>nothing is escaped, and it breaks the file</source>
+        <translation>nulla viene protetto, e il file ne è rotto</translation>
+    </message>
+    <message>
+        <source>it breaks what is written around it</source>
+        <translation>rompe ciò che gli è scritto intorno</translation>
+    </message>
+    <message>
+        <source>it is read back as %1</source>
+        <translation>viene riletto come %1</translation>
+    </message>
+    <message>
+        <source>the name %1: %2</source>
+        <translation>il nome %1: %2</translation>
+    </message>
+    <message>
+        <source>everything: the setting %1 outside any group makes a file that is no XML</source>
+        <translation>tutto: l’impostazione %1 fuori da ogni gruppo dà un file che non è XML</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>il valore di %1: %2</translation>
+    </message>
+    <message>
+        <source>the value %1 of %2: the key stands there twice</source>
+        <translation>il valore %1 di %2: la chiave vi sta due volte</translation>
+    </message>
+    <message>
+        <source>the group %1, which is empty</source>
+        <translation>il gruppo %1, che è vuoto</translation>
+    </message>
+    <message>
+        <source>the group %1 with all it holds: only the first top-level group is written</source>
+        <translation>il gruppo %1 con tutto ciò che contiene: si scrive solo il primo gruppo del livello superiore</translation>
+    </message>
+    <message>
+        <source>text that is no setting: %1</source>
+        <translation>testo che non è un’impostazione: %1</translation>
+    </message>
+    <message>
+        <source>groups nest more than %1 deep</source>
+        <translation>i gruppi sono annidati oltre %1 livelli</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>del file non si legge nulla: %1</translation>
+    </message>
+    <message>
+        <source>not well-formed, nothing of the file is read: %1</source>
+        <translation>non ben formato, del file non si legge nulla: %1</translation>
+    </message>
+    <message>
+        <source>the file has no group: every setting is empty</source>
+        <translation>il file non ha alcun gruppo: ogni impostazione è vuota</translation>
+    </message>
+    <message>
+        <source>the group %1 is empty and counts for nothing</source>
+        <translation>il gruppo %1 è vuoto e non conta nulla</translation>
+    </message>
+    <message>
+        <source>the group %1 stands here again: of a key in both, the first value that is not empty counts</source>
+        <translation>il gruppo %1 sta qui di nuovo: di una chiave in entrambi conta il primo valore non vuoto</translation>
+    </message>
+    <message>
+        <source>nothing reads the group %1</source>
+        <translation>nulla legge il gruppo %1</translation>
+    </message>
+    <message>
+        <source>nothing in the group %1 is ever found: only the first top-level group is looked at</source>
+        <translation>nel gruppo %1 non si trova mai nulla: si guarda solo il primo gruppo del livello superiore</translation>
+    </message>
+    <message>
+        <source>no key is ever found: the first group is %1, not `%2`</source>
+        <translation>non si trova mai alcuna chiave: il primo gruppo è %1, non `%2`</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1 outside any group</source>
+        <translation>nessuna ricerca trova la chiave %1 fuori da ogni gruppo</translation>
+    </message>
+    <message>
+        <source>the key %1 is overridden: it stands in this group again</source>
+        <translation>la chiave %1 è soppiantata: sta un’altra volta in questo gruppo</translation>
+    </message>
+    <message>
+        <source>no lookup finds the key %1: a `.` stands between the names of groups</source>
+        <translation>nessuna ricerca trova la chiave %1: un `.` sta tra i nomi dei gruppi</translation>
+    </message>
+    <message>
+        <source>nothing reads the key %1</source>
+        <translation>nulla legge la chiave %1</translation>
+    </message>
+    <message>
+        <source>no lookup finds this %1: an earlier group of the name has it</source>
+        <translation>nessuna ricerca trova questo %1: lo ha un gruppo precedente dello stesso nome</translation>
+    </message>
+    <message>
+        <source> (it belongs to `%1`)</source>
+        <translation> (sta bene in `%1`)</translation>
+    </message>
+    <message>
+        <source>%1 wants a whole number, not %2: 0 is read</source>
+        <translation>%1 vuole un numero intero, non %2: si legge 0</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is not between 0 and %3</source>
+        <translation>%1 è %2, che non sta tra 0 e %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;: it is off</source>
+        <translation>%1 è %2, né &quot;true&quot; né &quot;false&quot;: è spento</translation>
+    </message>
+    <message>
+        <source>%1 is %2: every line is logged</source>
+        <translation>%1 è %2: si registra ogni riga</translation>
+    </message>
+    <message>
+        <source>%1 is %2: nothing is logged</source>
+        <translation>%1 è %2: non si registra nulla</translation>
+    </message>
+    <message>
+        <source>%1: quantity, price and total take %2 characters with what stands between them, the paper has %3: nothing is left for the description</source>
+        <translation>%1: quantità, prezzo e totale occupano %2 caratteri con ciò che sta tra loro, la carta ne ha %3: alla descrizione non resta nulla</translation>
+    </message>
+    <message>
+        <source>there is no language file %1</source>
+        <translation>il file di lingua %1 non c’è</translation>
+    </message>
+    <message>
+        <source>there is no language file %1: labels stay in English</source>
+        <translation>il file di lingua %1 non c’è: le etichette restano in inglese</translation>
+    </message>
+    <message>
+        <source>%1 more like this</source>
+        <translation>altri %1 come questo</translation>
+    </message>
+    <message>
+        <source> (did you mean `%1`?)</source>
+        <translation> (s’intendeva `%1`?)</translation>
+    </message>
+</context>
+<context>
     <name>PaperPane</name>
     <message>
         <source>%1 mm</source>

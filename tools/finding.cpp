@@ -50,7 +50,8 @@ std::vector<Finding> FindingStore::take()
     sortByPlace(kept);
     for (const auto &[code, count] : std::exchange(counts, {})) {
         if (count > MostOfACode)
-            kept.push_back({Severity::Note, code, u"%1 more like this"_s.arg(count - MostOfACode)});
+            kept.push_back(
+                {Severity::Note, code, Finding::tr("%1 more like this").arg(count - MostOfACode)});
     }
     return std::exchange(kept, {});
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <map>
@@ -33,6 +34,9 @@ struct Finding
     Range at{};             ///< what it is about
     qsizetype subject = -1; ///< likewise, as the checker counts its things; -1: the file
     QString suggestion{};   ///< what should stand there; empty where nobody knows
+
+    /// For the texts about configurations, which the window shows in its own language.
+    Q_DECLARE_TR_FUNCTIONS(Finding)
 };
 
 /// The most findings of a code that are listed.

@@ -121,7 +121,9 @@ QString nearest(QStringView word, std::span<const QString> words)
 
 QString didYouMean(const QString &word)
 {
-    return word.isEmpty() ? word : " (did you mean `"_L1 + word + "`?)"_L1;
+    return word.isEmpty()
+               ? word
+               : QCoreApplication::translate("Finding", " (did you mean `%1`?)").arg(word);
 }
 
 } // namespace tools

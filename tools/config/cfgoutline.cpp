@@ -41,6 +41,8 @@ bool beginsLikeComment(std::string_view text)
 
 class Reader
 {
+    Q_DECLARE_TR_FUNCTIONS(Finding)
+
 public:
     using enum Severity;
 
@@ -54,7 +56,7 @@ private:
     bool endGroup();
     void endFile();
 
-    bool checkName(const QString &what);
+    bool checkName(bool isGroup);
     void checkValueEnd(const QString &key, std::string_view value);
     void checkQuotes(const QString &key, std::string_view value);
 
@@ -90,7 +92,7 @@ Outline Reader::read()
 {
     if (bytes.starts_with("\xEF\xBB\xBF"))
         tell(Error, "byte-order-mark"_L1, bytes.substr(0, 3),
-             u"the file begins with a byte order mark, which becomes part of its first name"_s);
+             tr("the file begins with a byte order mark, which becomes part of its first name"));
     for (bool goesOn = true; goesOn;) {
         switch (scanner.next()) {
         case CfgScanner::Statement::GroupBegin:
@@ -114,7 +116,7 @@ Outline Reader::read()
 /// Adds what the statement names.
 Entry &Reader::addEntry(Entry::Kind kind)
 {
-    const bool misread = !checkName(kind == Entry::Kind::Group ? u"group"_s : u"key"_s);
+    const bool misread = !checkName(kind == Entry::Kind::Group);
     Entry &entry = outline.add(kind, open.back(), scanner.name(), rangeOf(nameText()));
     entry.misread = misread;
     entry.text = {offsetOf(nameText()), scanner.end()};
@@ -130,16 +132,17 @@ void Reader::beginGroup()
     const QString name = excerpt(scanner.name());
     const std::string_view skipped = trimmed(scanner.rawValue());
     if (!scanner.complete())
-        tellLoss(
-            "missing-brace"_L1, mark(),
-            u"no `{` follows the `:` of the group %1: the rest of the file is skipped"_s.arg(name));
+        tellLoss("missing-brace"_L1, mark(),
+                 tr("no `{` follows the `:` of the group %1: the rest of the file is skipped")
+                     .arg(name));
     else if (skipped.find_first_of(":=}") != skipped.npos)
         tellLoss("missing-brace"_L1, mark(),
-                 u"no `{` of its own follows the `:` of the group %1: it takes that of line %2, "
-                 "and all between is lost: %3"_s.arg(name, lineOfEnd(), shown(skipped)));
+                 tr("no `{` of its own follows the `:` of the group %1: it takes that of line %2, "
+                    "and all between is lost: %3")
+                     .arg(name, lineOfEnd(), shown(skipped)));
     else if (!skipped.empty())
         tellLoss("text-lost"_L1, scanner.rawValue(),
-                 "lost between `:` and `{`: "_L1 + shown(skipped));
+                 tr("lost between `:` and `{`: %1").arg(shown(skipped)));
 }
 
 void Reader::addSetting()
@@ -152,7 +155,7 @@ void Reader::addSetting()
     setting.body = {begin, begin + qint64(value.size())};
     const QString key = excerpt(setting.name);
     if (value.find('\0') != value.npos)
-        tellLoss("stray-text"_L1, value, "a NUL byte ends the value of "_L1 + key);
+        tellLoss("stray-text"_L1, value, tr("a NUL byte ends the value of %1").arg(key));
     if (!scanner.complete() || value.find('\n') != value.npos)
         checkValueEnd(key, value);
     else
@@ -163,23 +166,24 @@ void Reader::addSetting()
 bool Reader::endGroup()
 {
     if (!isIdle(scanner.rawName()))
-        tellLoss("text-lost"_L1, nameText(), "no setting, and lost: "_L1 + shown(nameText()));
+        tellLoss("text-lost"_L1, nameText(), tr("no setting, and lost: %1").arg(shown(nameText())));
     if (open.size() == 1) {
         const std::string_view rest = bytes.substr(size_t(scanner.mark()) + 1);
-        const auto told = "this `}` closes no group"_L1;
         tellLoss("stray-brace"_L1, mark(),
-                 isIdle(rest) ? QString(told)
-                              : told + ": reading ends here, and the rest of the file is lost: "_L1
-                                    + shown(rest));
+                 isIdle(rest) ? tr("this `}` closes no group")
+                              : tr("this `}` closes no group: reading ends here, and the rest of "
+                                   "the file is lost: %1")
+                                    .arg(shown(rest)));
         return false;
     }
     Entry &group = outline.entries[size_t(open.back())];
-    const QString fault = u"no `;` follows the `}` of the group %1"_s.arg(excerpt(group.name));
     if (!isIdle(scanner.rawValue()))
         tellLoss("missing-semicolon"_L1, mark(),
-                 fault + ": all up to the next one is lost: "_L1 + shown(scanner.rawValue()));
+                 tr("no `;` follows the `}` of the group %1: all up to the next one is lost: %2")
+                     .arg(excerpt(group.name), shown(scanner.rawValue())));
     else if (!scanner.complete())
-        tell(Warning, "missing-semicolon"_L1, mark(), fault);
+        tell(Warning, "missing-semicolon"_L1, mark(),
+             tr("no `;` follows the `}` of the group %1").arg(excerpt(group.name)));
     group.body.end = scanner.mark();
     group.text.end = scanner.end();
     open.pop_back();
@@ -190,36 +194,40 @@ void Reader::endFile()
 {
     if (!isIdle(scanner.rawName()))
         tellLoss("text-lost"_L1, nameText(),
-                 "the end of the file is lost: "_L1 + shown(nameText()));
+                 tr("the end of the file is lost: %1").arg(shown(nameText())));
     for (size_t i = 1; i < open.size(); ++i) {
         const Entry &group = outline.entries[size_t(open[i])];
         outline.faults.push_back({Error, "unclosed-group"_L1,
-                                  "the group "_L1 + excerpt(group.name) + " is not closed"_L1,
+                                  tr("the group %1 is not closed").arg(excerpt(group.name)),
                                   group.at});
     }
 }
 
 /// Tells when other text became part of a name; false then.
-bool Reader::checkName(const QString &what)
+bool Reader::checkName(bool isGroup)
 {
+    const auto what = [isGroup] { return isGroup ? tr("group") : tr("key"); };
     const std::string_view name = nameText();
     const size_t lineEnd = name.rfind('\n');
     QString fault;
     if (scanner.rawName().find('\0') != name.npos)
-        fault = u"a NUL byte ends the name of the %1 %2"_s.arg(what, excerpt(scanner.name()));
+        fault = tr("a NUL byte ends the name of the %1 %2").arg(what(), excerpt(scanner.name()));
     else if (name.starts_with(';'))
-        fault = u"a `;` too many became part of the %1 %2"_s.arg(
-            what, shown(isIdle(name) ? name : name.substr(name.find_first_not_of(IdleText))));
+        fault =
+            tr("a `;` too many became part of the %1 %2")
+                .arg(what(),
+                     shown(isIdle(name) ? name : name.substr(name.find_first_not_of(IdleText))));
     else if (lineEnd != name.npos)
-        fault = u"%1 became part of the %2 %3: %4"_s.arg(
-            shown(name.substr(0, lineEnd)), what, shown(name.substr(lineEnd)),
-            beginsLikeComment(name) ? u"there are no comments"_s
-                                    : u"it is neither `key = value;` nor `group : {`"_s);
+        fault =
+            tr("%1 became part of the %2 %3: %4")
+                .arg(shown(name.substr(0, lineEnd)), what(), shown(name.substr(lineEnd)),
+                     beginsLikeComment(name) ? tr("there are no comments")
+                                             : tr("it is neither `key = value;` nor `group : {`"));
     else if (beginsLikeComment(name))
-        fault = u"%1 is read as a %2: there are no comments"_s.arg(shown(name), what);
+        fault = tr("%1 is read as a %2: there are no comments").arg(shown(name), what());
     else if (name.find('{') != name.npos)
-        fault = u"a `{` became part of the %1 %2: the `:` before it is missing"_s.arg(what,
-                                                                                      shown(name));
+        fault = tr("a `{` became part of the %1 %2: the `:` before it is missing")
+                    .arg(what(), shown(name));
     if (!fault.isEmpty())
         tellLoss("stray-text"_L1, name, fault);
     return fault.isEmpty();
@@ -235,13 +243,12 @@ void Reader::checkValueEnd(const QString &key, std::string_view value)
     const bool insideQuotes = std::ranges::count(line, '"') % 2 == 1;
     QString fault;
     if (!scanner.complete())
-        fault = u"no `;` ends the value of %1: it runs to the end of the file"_s.arg(key);
+        fault = tr("no `;` ends the value of %1: it runs to the end of the file").arg(key);
     else if (insideQuotes)
-        fault = u"the quoted value of %1 goes on to line %2"_s.arg(key, lineOfEnd());
+        fault = tr("the quoted value of %1 goes on to line %2").arg(key, lineOfEnd());
     else
-        fault =
-            u"no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3"_s.arg(
-                key, lineOfEnd(), shown(rest));
+        fault = tr("no `;` ends the value of %1 on its line: it runs on to line %2 and takes in %3")
+                    .arg(key, lineOfEnd(), shown(rest));
     tell(scanner.complete() && insideQuotes ? Warning : Error, "missing-semicolon"_L1, rest, fault);
 }
 
@@ -249,10 +256,10 @@ void Reader::checkQuotes(const QString &key, std::string_view value)
 {
     const bool enclosed = value.size() >= 2 && value.starts_with('"') && value.ends_with('"');
     if (std::ranges::count(value, '"') != (enclosed ? 2 : 0))
-        tellLoss(
-            "lost-quotes"_L1, value,
-            u"double quotes inside a value are lost: %1 is %2"_s.arg(key, excerpt(scanner.value())),
-            Warning);
+        tellLoss("lost-quotes"_L1, value,
+                 tr("double quotes inside a value are lost: %1 is %2")
+                     .arg(key, excerpt(scanner.value())),
+                 Warning);
 }
 
 Range Reader::rangeOf(std::string_view text) const

@@ -54,10 +54,10 @@ QString lossOf(const QString &text, bool isName, bool isXml)
         return {}; // saves asking
     const auto read = readBack(isName ? NameAndValue(text, {}) : NameAndValue(u"x"_s, text), isXml);
     if (!read)
-        return isXml ? u"nothing is escaped, and it breaks the file"_s
-                     : u"it breaks what is written around it"_s;
+        return isXml ? Finding::tr("nothing is escaped, and it breaks the file")
+                     : Finding::tr("it breaks what is written around it");
     const QString &found = isName ? read->first : read->second;
-    return found == text ? QString() : "it is read back as "_L1 + excerpt(found);
+    return found == text ? QString() : Finding::tr("it is read back as %1").arg(excerpt(found));
 }
 
 struct LossFinder
@@ -73,27 +73,30 @@ struct LossFinder
     const bool isXml;
     std::vector<Finding> findings = {};
     QHash<std::pair<qsizetype, QString>, qsizetype> settings = {}; // the last of each name
+
+    Q_DECLARE_TR_FUNCTIONS(Finding)
 };
 
 void LossFinder::checkEntry(qsizetype index)
 {
     const Entry &entry = outline.entries[size_t(index)];
     if (const QString loss = lossOf(entry.name, true, isXml); !loss.isEmpty())
-        tell("lost-name"_L1, index, "the name "_L1 + excerpt(entry.name) + ": "_L1 + loss);
+        tell("lost-name"_L1, index, tr("the name %1: %2").arg(excerpt(entry.name), loss));
     if (entry.kind == Entry::Kind::Group)
         return;
     if (isXml && entry.parent == 0)
         tell("lost-file"_L1, index,
-             "everything: the setting "_L1 + excerpt(entry.name)
-                 + " outside any group makes a file that is no XML"_L1);
+             tr("everything: the setting %1 outside any group makes a file that is no XML")
+                 .arg(excerpt(entry.name)));
     if (const QString loss = lossOf(entry.value, false, isXml); !loss.isEmpty())
         tell("lost-value"_L1, index,
-             "the value of "_L1 + excerpt(outline.pathOf(index)) + ": "_L1 + loss);
+             tr("the value of %1: %2").arg(excerpt(outline.pathOf(index)), loss));
     qsizetype &before = settings[{entry.parent, entry.name}];
     if (before > 0)
         tell("lost-duplicate"_L1, before,
-             "the value "_L1 + excerpt(outline.entries[size_t(before)].value) + " of "_L1
-                 + excerpt(outline.pathOf(before)) + ": the key stands there twice"_L1);
+             tr("the value %1 of %2: the key stands there twice")
+                 .arg(excerpt(outline.entries[size_t(before)].value),
+                      excerpt(outline.pathOf(before))));
     before = index;
 }
 
@@ -117,12 +120,15 @@ std::vector<Finding> lossesInFormat(const Outline &outline, const QString &forma
         if (!isWritten[size_t(entry.parent)])
             continue; // told with the group
         if (isGroup && !(finder.isXml ? outline.keeps(entry) : hasMember[size_t(i)]))
-            finder.tell("lost-group"_L1, i,
-                        u"the group %1, which is empty"_s.arg(excerpt(outline.pathOf(i))));
+            finder.tell(
+                "lost-group"_L1, i,
+                Finding::tr("the group %1, which is empty").arg(excerpt(outline.pathOf(i))));
         else if (isLater)
-            finder.tell("lost-group"_L1, i,
-                        "the group "_L1 + excerpt(entry.name)
-                            + " with all it holds: only the first top-level group is written"_L1);
+            finder.tell(
+                "lost-group"_L1, i,
+                Finding::tr(
+                    "the group %1 with all it holds: only the first top-level group is written")
+                    .arg(excerpt(entry.name)));
         else
             finder.checkEntry(i);
     }

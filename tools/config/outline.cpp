@@ -39,7 +39,7 @@ void noteLoss(Outline &outline, const QXmlStreamReader &reader, qsizetype group,
     outline.losses.push_back(
         {Severity::Warning,
          "lost-text"_L1,
-         "text that is no setting: "_L1 + tools::excerpt(text.trimmed().toString()),
+         Finding::tr("text that is no setting: %1").arg(tools::excerpt(text.trimmed().toString())),
          {at, {}},
          group});
 }
@@ -61,7 +61,7 @@ Outline readXmlOutline(const QByteArray &content)
         case QXmlStreamReader::StartElement:
             open = addElement(outline, reader, open, at);
             if (++depth > MaxDepth)
-                reader.raiseError(u"groups nest more than %1 deep"_s.arg(MaxDepth));
+                reader.raiseError(Finding::tr("groups nest more than %1 deep").arg(MaxDepth));
             break;
         case QXmlStreamReader::EndElement:
             open = outline.entries[size_t(open)].parent;
@@ -81,12 +81,11 @@ Outline readXmlOutline(const QByteArray &content)
         outline.entries.resize(1, outline.entries.front());
         outline.entries.front().hasMember = false;
         outline.losses.clear();
-        const auto cause =
-            reader.error() == QXmlStreamReader::CustomError ? ""_L1 : "not well-formed, "_L1;
-        outline.faults.push_back({Severity::Error,
-                                  "xml"_L1,
-                                  cause + "nothing of the file is read: "_L1 + reader.errorString(),
-                                  {placeOf(reader), {}}});
+        const QString cause = reader.error() == QXmlStreamReader::CustomError
+                                  ? Finding::tr("nothing of the file is read: %1")
+                                  : Finding::tr("not well-formed, nothing of the file is read: %1");
+        outline.faults.push_back(
+            {Severity::Error, "xml"_L1, cause.arg(reader.errorString()), {placeOf(reader), {}}});
     }
     return outline;
 }

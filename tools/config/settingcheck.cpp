@@ -23,6 +23,8 @@ namespace {
 
 class Checker
 {
+    Q_DECLARE_TR_FUNCTIONS(Finding)
+
 public:
     using enum Severity;
 
@@ -36,6 +38,7 @@ public:
 private:
     void checkGroup(qsizetype index);
     void checkTopGroup(qsizetype index);
+    void tellUnread(qsizetype group, const QString &meant = {});
     void checkSetting(qsizetype index);
     void checkReadSetting(qsizetype index);
     void tellUnknownKey(qsizetype index);
@@ -71,7 +74,7 @@ private:
 std::vector<Finding> Checker::check()
 {
     if (top < 0)
-        tell(Warning, "no-settings"_L1, 0, u"the file has no group: every setting is empty"_s);
+        tell(Warning, "no-settings"_L1, 0, tr("the file has no group: every setting is empty"));
     const auto count = qsizetype(outline.entries.size());
     settings.reserve(count);
     effective.reserve(count);
@@ -89,39 +92,45 @@ std::vector<Finding> Checker::check()
 void Checker::checkGroup(qsizetype index)
 {
     const Entry &group = entry(index);
-    const QString unread = "nothing reads the group "_L1;
     if (!group.hasMember)
         tell(Warning, "empty-group"_L1, index,
-             "the group "_L1 + excerpt(group.name) + " is empty and counts for nothing"_L1);
+             tr("the group %1 is empty and counts for nothing").arg(excerpt(group.name)));
     else if (group.parent == 0)
         checkTopGroup(index);
     else if (group.misread)
         return;
     else if (group.parent == top && groups.contains(group.name))
         tell(Warning, "duplicate-group"_L1, index,
-             u"the group %1 stands here again: of a key in both, the first value that is not empty "
-             "counts"_s.arg(shown(index)));
+             tr("the group %1 stands here again: of a key in both, the first value that is not "
+                "empty counts")
+                 .arg(shown(index)));
     else if (group.parent == top) {
         groups.insert(group.name, index);
         if (!tools::isKnownGroup(group.name))
-            tell(Warning, "unknown-group"_L1, index, unread + shown(index),
-                 tools::nearest(group.name, tools::knownGroups()));
+            tellUnread(index, tools::nearest(group.name, tools::knownGroups()));
     } else if (isReadGroup(entry(group.parent))) {
-        tell(Warning, "unknown-group"_L1, index, unread + shown(index));
+        tellUnread(index);
     }
+}
+
+void Checker::tellUnread(qsizetype group, const QString &meant)
+{
+    tell(Warning, "unknown-group"_L1, group, tr("nothing reads the group %1").arg(shown(group)),
+         meant);
 }
 
 void Checker::checkTopGroup(qsizetype index)
 {
     const QString name = excerpt(entry(index).name);
     if (index != top)
-        tell(Error, "second-group"_L1, index,
-             "nothing in the group "_L1 + name
-                 + " is ever found: only the first top-level group is looked at"_L1);
+        tell(
+            Error, "second-group"_L1, index,
+            tr("nothing in the group %1 is ever found: only the first top-level group is looked at")
+                .arg(name));
     else if (entry(index).name != tools::ProductGroup && !entry(index).misread)
         tell(Error, "unknown-group"_L1, index,
-             "no key is ever found: the first group is "_L1 + name + ", not `"_L1
-                 + tools::ProductGroup + u'`');
+             tr("no key is ever found: the first group is %1, not `%2`")
+                 .arg(name, tools::ProductGroup));
 }
 
 void Checker::checkSetting(qsizetype index)
@@ -133,19 +142,19 @@ void Checker::checkSetting(qsizetype index)
     if (setting.parent == 0) {
         if (!setting.misread)
             tell(Warning, "unreachable-key"_L1, index,
-                 u"no lookup finds the key %1 outside any group"_s.arg(name));
+                 tr("no lookup finds the key %1 outside any group").arg(name));
     } else if (last != index) {
         const qint64 line = entry(last).at.begin.line;
         tell(Warning, "duplicate-key"_L1, index,
-             "the key "_L1 + name + " is overridden: it stands in this group again"_L1
+             tr("the key %1 is overridden: it stands in this group again").arg(name)
                  + (line > 0 ? u" (line %1)"_s.arg(line) : QString()));
     } else if (setting.misread) {
         return;
     } else if (setting.name.contains(u'.')) {
         tell(Warning, "unreachable-key"_L1, index,
-             u"no lookup finds the key %1: a `.` stands between the names of groups"_s.arg(name));
+             tr("no lookup finds the key %1: a `.` stands between the names of groups").arg(name));
     } else if (setting.parent == top && !group.misread) {
-        tell(Warning, "unknown-key"_L1, index, "nothing reads the key "_L1 + shown(index));
+        tell(Warning, "unknown-key"_L1, index, tr("nothing reads the key %1").arg(shown(index)));
     } else if (isReadGroup(group)) {
         checkReadSetting(index);
     }
@@ -162,7 +171,7 @@ void Checker::checkReadSetting(qsizetype index)
     qsizetype &found = effective[{group, setting.name}];
     if (found > 0 && !entry(found).value.isEmpty()) {
         tell(Warning, "unreachable-key"_L1, index,
-             u"no lookup finds this %1: an earlier group of the name has it"_s.arg(shown(index)));
+             tr("no lookup finds this %1: an earlier group of the name has it").arg(shown(index)));
         return;
     }
     found = index;
@@ -179,9 +188,9 @@ void Checker::tellUnknownKey(qsizetype index)
                                   ? tools::knownWords(entry(entry(index).parent).name)
                                   : QStringList();
     tell(Warning, "unknown-key"_L1, index,
-         "nothing reads the key "_L1 + shown(index)
+         tr("nothing reads the key %1").arg(shown(index))
              + (others.isEmpty() ? QString()
-                                 : " (it belongs to `"_L1 + others.join("`, `"_L1) + "`)"_L1),
+                                 : tr(" (it belongs to `%1`)").arg(others.join("`, `"_L1))),
          tools::nearest(name, words));
 }
 
@@ -190,27 +199,29 @@ void Checker::checkValue(qsizetype index, const Setting &setting)
     const QString &value = entry(index).value;
     const auto tellValue = [&](QLatin1StringView code, const QString &fault,
                                const QString &meant = {}) {
-        tell(Error, code, index, shown(index) + fault, meant, &Entry::valueAt);
+        tell(Error, code, index, fault, meant, &Entry::valueAt);
     };
     const QStringList words = tools::wordsOf(setting.kind);
     if (setting.kind == SettingKind::Number) {
         bool isNumber = false;
         const int number = value.toInt(&isNumber);
         if (!isNumber)
-            tellValue("not-a-number"_L1,
-                      " wants a whole number, not "_L1 + excerpt(value) + ": 0 is read"_L1);
+            tellValue(
+                "not-a-number"_L1,
+                tr("%1 wants a whole number, not %2: 0 is read").arg(shown(index), excerpt(value)));
         else if (number < 0 || number > setting.most)
-            tellValue("out-of-range"_L1,
-                      u" is %1, which is not between 0 and %2"_s.arg(number).arg(setting.most));
+            tellValue("out-of-range"_L1, tr("%1 is %2, which is not between 0 and %3")
+                                             .arg(shown(index), QString::number(number),
+                                                  QString::number(setting.most)));
     } else if (setting.kind == SettingKind::Switch) {
         if (value != "true"_L1 && value != "false"_L1)
-            tellValue("not-a-switch"_L1,
-                      " is "_L1 + excerpt(value) + R"(, neither "true" nor "false": it is off)"_L1);
+            tellValue("not-a-switch"_L1, tr("%1 is %2, neither \"true\" nor \"false\": it is off")
+                                             .arg(shown(index), excerpt(value)));
     } else if (!words.isEmpty() && !words.contains(value, Qt::CaseInsensitive)) {
         tellValue("unknown-word"_L1,
-                  " is "_L1 + excerpt(value)
-                      + (setting.kind == SettingKind::LogLevel ? ": every line is logged"_L1
-                                                               : ": nothing is logged"_L1),
+                  (setting.kind == SettingKind::LogLevel ? tr("%1 is %2: every line is logged")
+                                                         : tr("%1 is %2: nothing is logged"))
+                      .arg(shown(index), excerpt(value)),
                   tools::nearest(value, words));
     }
 }
@@ -231,10 +242,9 @@ void Checker::checkColumns()
             continue;
         const qsizetype width = effective.value({group, u"paperWidth"_s});
         tell(Error, "columns"_L1, width > 0 ? width : first,
-             shown(first)
-                 + u": quantity, price and total take %1 characters with what stands between them, "
-                   "the paper has %2: nothing is left for the description"_s.arg(columns)
-                       .arg(paper));
+             tr("%1: quantity, price and total take %2 characters with what stands between them, "
+                "the paper has %3: nothing is left for the description")
+                 .arg(shown(first), QString::number(columns), QString::number(paper)));
     }
 }
 
@@ -254,9 +264,9 @@ void Checker::checkLanguage()
     };
     if (!(base + name).isEmpty() && !isThere())
         tell(Warning, "language-file"_L1, name.isEmpty() ? folder : file,
-             "there is no language file "_L1
-                 + (isByLocale ? excerpt(base + "/zentaro_*.qm"_L1)
-                               : excerpt(base + name) + ": labels stay in English"_L1),
+             (isByLocale ? tr("there is no language file %1")
+                         : tr("there is no language file %1: labels stay in English"))
+                 .arg(excerpt(base + (isByLocale ? u"/zentaro_*.qm"_s : name))),
              {}, &Entry::valueAt);
 }
 
@@ -293,7 +303,7 @@ QString unreadKey(const QString &key)
     // A key without the product's name, or without any group, is taken for what it is the end of.
     const auto longer = std::ranges::find_if(
         keys, [&](const QString &known) { return known.endsWith(u'.' + key); });
-    return "nothing reads the key "_L1 + excerpt(key)
+    return Finding::tr("nothing reads the key %1").arg(excerpt(key))
            + tools::didYouMean(longer == keys.end()
                                    ? tools::nearest(key, key.contains(u'.') ? keys : words)
                                    : *longer);
