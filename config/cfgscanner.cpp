@@ -11,11 +11,10 @@ namespace libconfig {
 
 using namespace Qt::StringLiterals;
 
-std::string_view trimmed(std::string_view text)
+std::string_view withoutBlanks(std::string_view text)
 {
     // Of ISO 8859-1; the toolkit's own trimming would also take other characters.
     const auto isSpace = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r') || c == '\xA0'; };
-    text = text.substr(0, text.find('\0'));
     const auto begin = std::find_if_not(text.begin(), text.end(), isSpace);
     return {begin, std::find_if_not(text.rbegin(), std::reverse_iterator(begin), isSpace).base()};
 }

@@ -19,8 +19,13 @@ inline QLatin1StringView latin1(std::string_view bytes)
     return {bytes.data(), qsizetype(bytes.size())};
 }
 
-/// A name or a value as it is kept: up to the first NUL, without the white space at its ends.
-std::string_view trimmed(std::string_view text);
+/// The text without the white space at its ends; of white space alone, its end.
+std::string_view withoutBlanks(std::string_view text);
+/// A name or a value as it is kept: likewise, up to the first NUL.
+inline std::string_view trimmed(std::string_view text)
+{
+    return withoutBlanks(text.substr(0, text.find('\0')));
+}
 
 /// The grammar of the "cfg" form: takes a text apart, statement by statement. The store's reader
 /// stands on it, and so does whoever tells a person where a file goes wrong.

@@ -46,6 +46,13 @@ QStringList knownGroups()
 
 bool isDocumentGroup(QStringView group) { return typeOf(group) >= 0; }
 
+bool isKnownGroup(QStringView group)
+{
+    const qsizetype type = typeOf(group);
+    return std::ranges::any_of(allSettings,
+                               [=](const Setting &setting) { return isIn(setting, group, type); });
+}
+
 std::vector<const Setting *> settingsOf(QStringView group)
 {
     std::vector<const Setting *> settings;

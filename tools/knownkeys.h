@@ -24,7 +24,7 @@ bool isDocumentGroup(QStringView group);
 /// The settings of a group, in the order of a complete file; none for an unknown group.
 std::vector<const Setting *> settingsOf(QStringView group);
 /// Whether the suite reads anything of the group.
-inline bool isKnownGroup(QStringView group) { return !settingsOf(group).empty(); }
+bool isKnownGroup(QStringView group);
 /// The same, only their key words.
 QStringList knownWords(QStringView group);
 /// A setting, also by its dotted key; null for an unknown one.

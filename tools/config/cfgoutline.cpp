@@ -11,23 +11,16 @@ namespace configtool {
 
 using namespace Qt::StringLiterals;
 using libconfig::CfgScanner;
+using libconfig::withoutBlanks;
 using tools::excerpt;
 
 namespace {
 
-constexpr std::string_view WhiteSpace = " \t\n\v\f\r\xA0"; // what the reader trims
-constexpr std::string_view IdleText = " \t\n\v\f\r\xA0;";  // with semicolons too many
-
-/// As the reader trims, but NUL and what is behind it stay; of blanks alone, their end.
-std::string_view trimmed(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(WhiteSpace), text.size()));
-    return text.substr(0, text.find_last_not_of(WhiteSpace) + 1);
-}
+constexpr std::string_view IdleText = " \t\n\v\f\r\xA0;"; // with semicolons too many
 
 QString shown(std::string_view text)
 {
-    return excerpt(QString::fromLatin1(QByteArrayView(trimmed(text))));
+    return excerpt(QString::fromLatin1(QByteArrayView(withoutBlanks(text))));
 }
 
 /// Whether nothing is lost with the text.
@@ -66,7 +59,7 @@ private:
     /// The structural character.
     std::string_view mark() const { return bytes.substr(size_t(scanner.mark()), 1); }
     /// The name of the statement; right before its structural character where it has none.
-    std::string_view nameText() const { return trimmed(scanner.rawName()); }
+    std::string_view nameText() const { return withoutBlanks(scanner.rawName()); }
     void tell(Severity severity, QLatin1StringView code, std::string_view place,
               const QString &text);
     void tellLoss(QLatin1StringView code, std::string_view place, const QString &text,
@@ -129,17 +122,17 @@ void Reader::beginGroup()
     addEntry(Entry::Kind::Group).body = {scanner.end(), scanner.end()};
     open.push_back(index);
 
-    const QString name = excerpt(scanner.name());
-    const std::string_view skipped = trimmed(scanner.rawValue());
+    const auto name = [this] { return excerpt(scanner.name()); };
+    const std::string_view skipped = withoutBlanks(scanner.rawValue());
     if (!scanner.complete())
         tellLoss("missing-brace"_L1, mark(),
                  tr("no `{` follows the `:` of the group %1: the rest of the file is skipped")
-                     .arg(name));
+                     .arg(name()));
     else if (skipped.find_first_of(":=}") != skipped.npos)
         tellLoss("missing-brace"_L1, mark(),
                  tr("no `{` of its own follows the `:` of the group %1: it takes that of line %2, "
                     "and all between is lost: %3")
-                     .arg(name, lineOfEnd(), shown(skipped)));
+                     .arg(name(), lineOfEnd(), shown(skipped)));
     else if (!skipped.empty())
         tellLoss("text-lost"_L1, scanner.rawValue(),
                  tr("lost between `:` and `{`: %1").arg(shown(skipped)));
@@ -147,19 +140,19 @@ void Reader::beginGroup()
 
 void Reader::addSetting()
 {
-    const std::string_view value = trimmed(scanner.rawValue());
+    const std::string_view value = withoutBlanks(scanner.rawValue());
     const qint64 begin = offsetOf(value);
     Entry &setting = addEntry(Entry::Kind::Setting);
     setting.value = scanner.value();
     setting.valueAt = rangeOf(value);
     setting.body = {begin, begin + qint64(value.size())};
-    const QString key = excerpt(setting.name);
     if (value.find('\0') != value.npos)
-        tellLoss("stray-text"_L1, value, tr("a NUL byte ends the value of %1").arg(key));
+        tellLoss("stray-text"_L1, value,
+                 tr("a NUL byte ends the value of %1").arg(excerpt(setting.name)));
     if (!scanner.complete() || value.find('\n') != value.npos)
-        checkValueEnd(key, value);
+        checkValueEnd(excerpt(setting.name), value);
     else
-        checkQuotes(key, value);
+        checkQuotes(setting.name, value);
 }
 
 /// False at the `}` that ends the reading of the file.
@@ -238,7 +231,7 @@ void Reader::checkValueEnd(const QString &key, std::string_view value)
 {
     if (value.empty())
         value = scanner.rawValue().substr(0, 0);
-    const std::string_view line = trimmed(value.substr(0, value.find('\n')));
+    const std::string_view line = withoutBlanks(value.substr(0, value.find('\n')));
     const std::string_view rest = value.substr(line.size());
     const bool insideQuotes = std::ranges::count(line, '"') % 2 == 1;
     QString fault;
@@ -258,7 +251,7 @@ void Reader::checkQuotes(const QString &key, std::string_view value)
     if (std::ranges::count(value, '"') != (enclosed ? 2 : 0))
         tellLoss("lost-quotes"_L1, value,
                  tr("double quotes inside a value are lost: %1 is %2")
-                     .arg(key, excerpt(scanner.value())),
+                     .arg(excerpt(key), excerpt(scanner.value())),
                  Warning);
 }
 

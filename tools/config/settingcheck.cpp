@@ -121,38 +121,39 @@ void Checker::tellUnread(qsizetype group, const QString &meant)
 
 void Checker::checkTopGroup(qsizetype index)
 {
-    const QString name = excerpt(entry(index).name);
+    const auto name = [&] { return excerpt(entry(index).name); };
     if (index != top)
         tell(
             Error, "second-group"_L1, index,
             tr("nothing in the group %1 is ever found: only the first top-level group is looked at")
-                .arg(name));
+                .arg(name()));
     else if (entry(index).name != tools::ProductGroup && !entry(index).misread)
         tell(Error, "unknown-group"_L1, index,
              tr("no key is ever found: the first group is %1, not `%2`")
-                 .arg(name, tools::ProductGroup));
+                 .arg(name(), tools::ProductGroup));
 }
 
 void Checker::checkSetting(qsizetype index)
 {
     const Entry &setting = entry(index);
     const Entry &group = entry(setting.parent);
-    const QString name = excerpt(setting.name);
+    const auto name = [&setting] { return excerpt(setting.name); };
     const qsizetype last = settings.value({setting.parent, setting.name});
     if (setting.parent == 0) {
         if (!setting.misread)
             tell(Warning, "unreachable-key"_L1, index,
-                 tr("no lookup finds the key %1 outside any group").arg(name));
+                 tr("no lookup finds the key %1 outside any group").arg(name()));
     } else if (last != index) {
         const qint64 line = entry(last).at.begin.line;
         tell(Warning, "duplicate-key"_L1, index,
-             tr("the key %1 is overridden: it stands in this group again").arg(name)
+             tr("the key %1 is overridden: it stands in this group again").arg(name())
                  + (line > 0 ? u" (line %1)"_s.arg(line) : QString()));
     } else if (setting.misread) {
         return;
     } else if (setting.name.contains(u'.')) {
-        tell(Warning, "unreachable-key"_L1, index,
-             tr("no lookup finds the key %1: a `.` stands between the names of groups").arg(name));
+        tell(
+            Warning, "unreachable-key"_L1, index,
+            tr("no lookup finds the key %1: a `.` stands between the names of groups").arg(name()));
     } else if (setting.parent == top && !group.misread) {
         tell(Warning, "unknown-key"_L1, index, tr("nothing reads the key %1").arg(shown(index)));
     } else if (isReadGroup(group)) {
