@@ -49,7 +49,7 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
         words.append(QFile::decodeName(argv[i]));
         // The toolkit would open another file than the one that is named. Requests are looked at
         // one by one.
-        const bool namesRequests = words.first() == "check"_L1;
+        const bool namesRequests = words.first() == "check"_L1 || words.first() == "preview"_L1;
         if (QFile::encodeName(words.last()) != argv[i] && !namesRequests) {
             printError("zentaro: the word `"_L1 + words.last() + "` is not UTF-8\n"_L1);
             return Trouble;

@@ -47,8 +47,12 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
         return u"the XML declaration has to stand at the very beginning"_s;
     if (places.fault == "error occurred while parsing comment"_L1)
         return u"a comment holds no `--`"_s;
-    if (open || places.fault.contains("declaration"_L1))
+    if (open || places.fault.contains("declaration"_L1)
+        || places.fault.contains("document type"_L1))
         return places.fault;
+    if (places.head().startsWith("<?xml"_L1) && !places.head().contains("?>"_L1))
+        return u"the XML declaration holds `version`, `encoding` and `standalone` in this order, "
+               "in quotes, and ends with `?>`"_s;
     return device.rootTag().line > 0
                ? u"something stands behind the end of the root element"_s
                : u"no element begins here: the request is another file, or not in the encoding "

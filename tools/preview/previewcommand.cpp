@@ -82,6 +82,8 @@ QString readOptions(const tools::CommandLine &line, Options &options)
         return u"--against takes the name of a configuration"_s;
     if (line.isSet(u"output"_s) && options.picture.fileName.isEmpty())
         return u"--output takes the name of a picture"_s;
+    if (options.picture.fileName.contains(QChar::ReplacementCharacter))
+        return u"the name of the picture is not UTF-8"_s;
     if (options.annotate && !options.other.isEmpty())
         return u"--annotate and --against do not go together"_s;
     options.picture.inPairs = !options.other.isEmpty(); // before and after
@@ -98,15 +100,16 @@ QString readOptions(const tools::CommandLine &line, Options &options)
 class Preview
 {
 public:
-    Preview(const tools::Call &call, const Options &options, const QStringList &names)
-        : call(call)
+    Preview(const tools::Call &call, const Options &options, const tools::RequestFiles &files)
+        : status(files.isWhole ? tools::Fine : tools::Trouble)
+        , call(call)
         , options(options)
-        , names(names)
+        , names(files.names)
     {
     }
 
     bool draw();
-    int status = tools::Fine; ///< so far
+    int status; ///< so far
 
 private:
     std::optional<Document> documentOf(const Input &input);
@@ -121,6 +124,7 @@ private:
     {
         return tools::tellTrouble(call, name, trouble) == tools::Fine;
     }
+    std::optional<Input> read(const QString &name) const;
 
     const tools::Call &call;
     const Options &options;
@@ -137,13 +141,11 @@ bool Preview::draw()
 {
     const bool compares = !options.other.isEmpty();
     for (const QString &name : names) {
-        std::optional<Input> input = readInput(call, name);
-        if (!input)
-            return false;
-        if (!input->isRequest && compares)
-            return tell(name, u"not a print request, which --against renders anew"_s);
-        if (!input->isRequest && options.annotate)
-            return tell(name, u"a print file does not tell the lines of its request"_s);
+        std::optional<Input> input = read(name);
+        if (!input) {
+            status = tools::Trouble;
+            continue;
+        }
         std::optional<Document> document = documentOf(*input);
         if (!document)
             return false;
@@ -158,6 +160,17 @@ bool Preview::draw()
         return true;
     const QString fault = call.desktop->writePicture(sheets, options.picture);
     return fault.isEmpty() || tell(options.picture.fileName, fault);
+}
+
+/// A file that can be drawn as the options say.
+std::optional<Input> Preview::read(const QString &name) const
+{
+    std::optional<Input> input = readInput(call, name);
+    if (!input || input->isRequest || (options.other.isEmpty() && !options.annotate))
+        return input;
+    tell(name, options.annotate ? u"a print file does not tell the lines of its request"_s
+                                : u"not a print request, which --against renders anew"_s);
+    return std::nullopt;
 }
 
 /// The document of a print file, or of a request with the configuration that is in use, which is
@@ -178,7 +191,7 @@ std::optional<Document> Preview::documentOf(const Input &input)
                                         : Document{input.bytes, options.codec, {}, {}};
     if (!document.fault.isEmpty()) {
         tell(input.name, document.fault);
-        status = tools::Findings;
+        status = qMax(status, int(tools::Findings));
     }
     if (document.printFile.isEmpty())
         tell(input.name, u"nothing is printed"_s);
@@ -217,7 +230,7 @@ bool Preview::compare()
         if (after.printFile == before.printFile)
             continue;
         ++changes;
-        status = tools::Findings;
+        status = qMax(status, int(tools::Findings));
         if (!showChange(request.name, before, after))
             return false;
     }
@@ -260,16 +273,14 @@ int run(const tools::Call &call)
     Options options;
     if (const QString mistake = readOptions(line, options); !mistake.isEmpty())
         return line.wrongUsage(mistake);
-    const auto [names, isWhole] = tools::requestFiles(call, line.arguments());
-    if (!isWhole)
-        return tools::Trouble;
     if (!options.picture.fileName.isEmpty() && !call.desktop)
         return tools::startDesktop(call);
     // For the translation; for pictures one that draws.
     const auto application = options.picture.fileName.isEmpty()
                                  ? std::make_unique<QCoreApplication>(call.argc, call.argv)
                                  : call.desktop->pictureApplication(call.argv);
-    Preview preview(call, options, names);
+    const tools::RequestFiles files = tools::requestFiles(call, line.arguments());
+    Preview preview(call, options, files);
     return preview.draw() ? preview.status : tools::Trouble;
 }
 
