@@ -54,8 +54,12 @@ set(CPACK_COMPONENT_TOOLS_DESCRIPTION
     "checks, previews and configures the printed documents of a point-of-sale suite
 The companion tools of zentaro-print: they check and preview print requests,
 and read, check, convert and change the configuration of the suite.")
-set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "zentaro-print ${same_version}")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "xml-core, zentaro-print ${same_version}")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS zentaro-desktop)
+foreach(script postinst prerm postrm)
+    list(APPEND CPACK_DEBIAN_TOOLS_PACKAGE_CONTROL_EXTRA
+         "${PROJECT_SOURCE_DIR}/tools/debian/${script}")
+endforeach()
 
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME zentaro-desktop)
 set(CPACK_COMPONENT_DESKTOP_DESCRIPTION
