@@ -103,7 +103,7 @@ QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QSt
     if (QSqlDatabase::isDriverAvailable(toolkitName))
         added = QSqlDatabase::addDatabase(toolkitName, name);
     if (!added.isValid()) {
-        error(u"Failed to connect to driver"_s);
+        log(Logger::ERROR, u"Failed to connect to driver"_s);
         return nullptr;
     }
     added.setDatabaseName(dbname);
@@ -111,11 +111,11 @@ QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QSt
     added.setPassword(password);
     added.setHostName(hostname);
     if (!added.open()) {
-        error("Failed to open database: "_L1 + added.lastError().driverText());
-        error(added.lastError().databaseText());
+        log(Logger::ERROR, "Failed to open database: "_L1 + added.lastError().driverText());
+        log(Logger::ERROR, added.lastError().databaseText());
         return nullptr;
     }
-    debug("Connection With "_L1 + dbname + " DB established"_L1);
+    log(Logger::DEBUG, "Connection With "_L1 + dbname + " DB established"_L1);
     connection = added;
     return &connection;
 }
@@ -216,7 +216,8 @@ QString DatabaseManager::incrementSequence(const QString &sequence, qint64 n, QS
 {
     QString before = sequenceValue(sequence, db);
     if (qint64 after = 0; qAddOverflow(before.toLongLong(), n, &after))
-        error("incrementSequence( "_L1 + sequence + " ): the value leaves the 64-bit range"_L1);
+        log(Logger::ERROR,
+            "incrementSequence( "_L1 + sequence + " ): the value leaves the 64-bit range"_L1);
     else
         setSequence(sequence, after, db);
     return before;
@@ -226,7 +227,8 @@ QString DatabaseManager::decrementSequence(const QString &sequence, qint64 n, QS
 {
     if (qint64 step = 0; !qSubOverflow(qint64(0), n, &step))
         return incrementSequence(sequence, step, db);
-    error("decrementSequence( "_L1 + sequence + " ): the step leaves the 64-bit range"_L1);
+    log(Logger::ERROR,
+        "decrementSequence( "_L1 + sequence + " ): the step leaves the 64-bit range"_L1);
     return sequenceValue(sequence, db);
 }
 
@@ -248,7 +250,7 @@ void DatabaseManager::control(const QString &statement, bool (QSqlDatabase::*ope
         logError(statement.toLower(), "query: "_L1 + statement, u"Database not open"_s);
     else if (!(db->*operation)())
         logError(statement.toLower(), "query: "_L1 + statement, textOf(db->lastError()));
-    debug(statement + "\n\n"_L1);
+    log(Logger::DEBUG, statement + "\n\n"_L1);
 }
 
 QString DatabaseManager::getLastId(const QString &table, QSqlDatabase *db)
@@ -257,7 +259,7 @@ QString DatabaseManager::getLastId(const QString &table, QSqlDatabase *db)
     QSqlQuery query = run(u"getLastId"_s, text, db);
     if (query.next())
         return valueOf(query, 0);
-    error("getLastId( "_L1 + table + " ): "_L1 + text + " return empty result"_L1);
+    log(Logger::ERROR, "getLastId( "_L1 + table + " ): "_L1 + text + " return empty result"_L1);
     return u"Error"_s;
 }
 
@@ -290,25 +292,19 @@ void DatabaseManager::showCursorError(const QString &method, const QSqlTableMode
 
 void DatabaseManager::logQuery(const QString &method, const QString &text, int rowsAffected)
 {
-    debug("Query called from method "_L1 + method + ": "_L1 + text);
-    debug("    numRowsAffected: "_L1 + QString::number(rowsAffected));
+    log(Logger::DEBUG, "Query called from method "_L1 + method + ": "_L1 + text);
+    log(Logger::DEBUG, "    numRowsAffected: "_L1 + QString::number(rowsAffected));
 }
 
 void DatabaseManager::logError(const QString &method, const QString &subject,
                                const QString &databaseText)
 {
-    error("Error in the method "_L1 + method + ", to "_L1 + subject);
-    error(databaseText);
+    log(Logger::ERROR, "Error in the method "_L1 + method + ", to "_L1 + subject);
+    log(Logger::ERROR, databaseText);
 }
 
-void DatabaseManager::debug(const QString &text)
+void DatabaseManager::log(Logger::Level level, const QString &text)
 {
     if (logger)
-        logger->debug(text);
-}
-
-void DatabaseManager::error(const QString &text)
-{
-    if (logger)
-        logger->error(text);
+        logger->write(level, text);
 }

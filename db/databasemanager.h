@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "log/logger.h"
+
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
@@ -8,7 +10,6 @@
 
 #include <map>
 
-class Logger;
 class QSqlTableModel;
 
 /// SQL helpers over named connections; every query and every error goes to the "default" Logger of
@@ -128,8 +129,7 @@ private:
     void control(const QString &statement, bool (QSqlDatabase::*operation)(), QSqlDatabase *db);
     void logQuery(const QString &method, const QString &text, int rowsAffected);
     void logError(const QString &method, const QString &subject, const QString &databaseText);
-    void debug(const QString &text);
-    void error(const QString &text);
+    void log(Logger::Level level, const QString &text);
     void closeConnections();
     static void closeConnectionsAtExit();
 

@@ -142,6 +142,8 @@ void PrinterDriver::printCustomerHeader(const QXmlAttributes &atts)
 
 bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &atts)
 {
+    if (name == element::receipe)
+        return false; // as most elements are
     if (name == element::printers) {
         printerInfo = valueOf(atts, "name"_L1);
         charsize = valueOf(atts, "charsize"_L1);

@@ -28,9 +28,9 @@ bool isUtf8(QByteArrayView piece)
 
 void Entities::declare(const QString &name, const QString &value)
 {
-    if (!values.contains(name))
-        values.insert(name, value);
-    known.clear();
+    entities.try_emplace(name, Entity{value});
+    for (auto &[_, entity] : entities)
+        entity.expansion = Unknown;
 }
 
 qint64 Entities::expansionOf(QStringView text)
@@ -43,26 +43,24 @@ qint64 Entities::expansionOf(QStringView text)
         const auto end = std::find_if(at + 1, text.end(), endsName);
         const QString name = QStringView(*at == u'%' ? at : at + 1, end).toString();
         if (end == text.end()) { // what follows may end the name: any that begins so
-            for (const QString &whole : values.keys())
-                expansion += whole.startsWith(name) ? expansionOfEntity(whole) : 0;
-        } else if (*end == u';') {
-            expansion += expansionOfEntity(name);
+            for (auto &[whole, entity] : entities)
+                expansion += whole.startsWith(name) ? expansionOf(entity) : 0;
+        } else if (const auto found = entities.find(name);
+                   *end == u';' && found != entities.end()) {
+            expansion += expansionOf(found->second);
         }
         at = std::find_if(end, text.end(), isSign);
     }
     return expansion;
 }
 
-qint64 Entities::expansionOfEntity(const QString &name)
+qint64 Entities::expansionOf(Entity &entity)
 {
-    const auto value = values.constFind(name);
-    if (value == values.cend())
-        return 0;
-    if (!known.contains(name)) {
-        known.insert(name, MaxExpansion + 1); // for one that holds itself
-        known.insert(name, value->size() + expansionOf(*value));
+    if (entity.expansion == Unknown) {
+        entity.expansion = MaxExpansion + 1; // for one that holds itself
+        entity.expansion = entity.value.size() + expansionOf(entity.value);
     }
-    return known.value(name);
+    return entity.expansion;
 }
 
 RequestSource::RequestSource(QIODevice &request, Observer *observer)
@@ -71,7 +69,7 @@ RequestSource::RequestSource(QIODevice &request, Observer *observer)
     , piece(PieceBytes, Qt::Uninitialized)
 {
     if (!request.isOpen())
-        request.open(QIODevice::ReadOnly); // else there is nothing to read
+        request.open(QIODevice::ReadOnly | QIODevice::Unbuffered); // else there is nothing to read
 }
 
 void RequestSource::tellStop(std::optional<Stop> otherwise, const QString &fault)
@@ -139,10 +137,12 @@ void RequestSource::decodePiece(QByteArrayView bytes)
     const bool first = bytesRead == 0;
     if (first)
         utf8 = isUtf8(bytes);
-    if (utf8)
-        text = decodeUtf8(bytes);
-    else
+    if (utf8) { // in place: the piece before it is done with
+        text.resize(decodeUtf8.requiredSpace(bytes.size()));
+        text.truncate(decodeUtf8.appendToBuffer(text.data(), bytes) - text.constData());
+    } else {
         text = fromRawData(QByteArray::fromRawData(bytes.data(), bytes.size()), first);
+    }
 }
 
 } // namespace requestreader

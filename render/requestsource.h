@@ -3,10 +3,10 @@
 
 #include "render/requestreader.h"
 
-#include <QHash>
 #include <QStringDecoder>
 #include <QXmlInputSource>
 
+#include <map>
 #include <optional>
 
 class QIODevice;
@@ -19,16 +19,22 @@ class Entities
 public:
     /// The name of a parameter entity begins with `%`. Of two declarations the first counts.
     void declare(const QString &name, const QString &value);
-    bool isEmpty() const { return values.isEmpty(); }
+    bool isEmpty() const { return entities.empty(); }
     /// The characters that the reader goes through for the references in `text`, and for those in
     /// what they stand for; somewhere above MaxExpansion where it goes through more.
     qint64 expansionOf(QStringView text);
 
 private:
-    qint64 expansionOfEntity(const QString &name);
+    static constexpr qint64 Unknown = -1;
+    struct Entity
+    {
+        QString value;
+        qint64 expansion = Unknown; // of what is declared so far
+    };
 
-    QHash<QString, QString> values;
-    QHash<QString, qint64> known; // expansions, since something was declared last
+    qint64 expansionOf(Entity &entity);
+
+    std::map<QString, Entity> entities;
 };
 
 /// Feeds the reader piece by piece, until the request ends or exceeds a limit. Pieces of 16 KiB,

@@ -30,13 +30,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The types of documents, and the groups of their settings.
-constexpr std::pair<QLatin1StringView, QLatin1StringView> copyNumberGroups[] = {
-    {"order"_L1, "doc"_L1},          {"prefiscal"_L1, "prefiscaldoc"_L1},
-    {"fiscal"_L1, "fiscaldoc"_L1},   {"receipt"_L1, "receiptdoc"_L1},
-    {"invoice"_L1, "invoicedoc"_L1}, {"delivery"_L1, "deliverydoc"_L1},
-    {"report"_L1, "reportdoc"_L1},
-};
+/// The types of documents that have a number of copies.
+constexpr std::array documentTypes = {"order"_L1,   "prefiscal"_L1, "fiscal"_L1, "receipt"_L1,
+                                      "invoice"_L1, "delivery"_L1,  "report"_L1};
 
 /// A copy on its way, line by line; a line longer than the buffer goes in pieces.
 class LineCopy
@@ -145,13 +141,13 @@ int HLibrary::comboBoxIndexOf(QComboBox *box, const QString &text)
 
 QString HLibrary::copyNumber(const QString &documentType)
 {
-    const QString type = documentType.toLower();
-    const auto *const found =
-        std::ranges::find(copyNumberGroups, type, [](auto &row) { return row.first; });
-    const bool known = found != std::end(copyNumberGroups);
-    if (!known)
+    QString type = documentType.toLower();
+    if (std::ranges::find(documentTypes, type) == documentTypes.end()) {
         text::printLine("Error into HLibrary::copyNumber::documentPath: " + text::toLocale(type));
-    return setting("zentaro."_L1 + (known ? found->second : "prefiscaldoc"_L1) + ".copyNumber"_L1);
+        type = u"prefiscal"_s;
+    }
+    const QString group = type == documentTypes.front() ? u"doc"_s : type + "doc"_L1;
+    return setting("zentaro."_L1 + group + ".copyNumber"_L1);
 }
 
 QString HLibrary::truncateDecimal(double value)
