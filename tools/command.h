@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
 #include <span>
 
 /// What the companion program and its sub-commands share: tables of commands, the common options
@@ -16,6 +15,12 @@ enum ExitStatus : int {
     Fine = 0,
     Findings = 1, ///< what was asked for ran, and found something to tell
     Trouble = 2,  ///< wrong usage, or a file that cannot be read or written
+};
+
+/// Thrown to end a command, after what there is to say has been told.
+struct Ended
+{
+    int exitStatus = Trouble;
 };
 
 struct Desktop;
@@ -57,35 +62,22 @@ struct CommandGroup
 int dispatch(const Call &call, const CommandGroup &group);
 
 /// The options and arguments of one command, with `--help` among them.
-class CommandLine
+class CommandLine : public QCommandLineParser
 {
 public:
     CommandLine(const Call &call, const QString &description);
 
-    void addOption(const QCommandLineOption &option) { parser.addOption(option); }
-    void addOptions(const QList<QCommandLineOption> &options) { parser.addOptions(options); }
-    /// `syntax` as the usage line shows it, as "KEY...".
-    void addArgument(const QString &name, const QString &description, const QString &syntax = {});
-    /// Leaves options that follow the first argument to whoever reads the arguments.
-    void stopAtFirstArgument();
+    /// Reads the words, `mostArguments` is -1 for any number of arguments. Ends the command when
+    /// help was asked for, or the words are wrong, which is told.
+    void read(int leastArguments, int mostArguments);
+    /// Only the words; help and the number of arguments are left to the caller.
+    void readWords();
+    /// Tells a mistake in the words, and where help is; ends the command.
+    [[noreturn]] void wrongUsage(const QString &mistake) const;
+    /// The toolkit's help, under the whole command instead of the program's name alone.
+    QString help() const;
 
-    /// Reads the words; false when they are wrong, which has been told.
-    bool parse();
-    /// Reads the words. Answers an exit status when nothing is left to do: help was asked for, or
-    /// the words are wrong, which has been told.
-    std::optional<int> read(int leastArguments, int mostArguments);
-    bool isSet(const QString &option) const { return parser.isSet(option); }
-    QString value(const QString &option) const { return parser.value(option); }
-    QStringList arguments() const { return parser.positionalArguments(); }
-
-    /// Tells a mistake in the words, and where help is; answers Trouble.
-    int wrongUsage(const QString &mistake) const;
-    QString helpText() const;
-
-private:
     const Call &call;
-    QString usage;
-    QCommandLineParser parser;
 };
 
 } // namespace tools

@@ -55,8 +55,12 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
             return Trouble;
         }
     }
-    return dispatch({u"zentaro"_s, words, argc, argv, desktop},
-                    {u"The companion of zentaro-print."_s, commands, {}, versions});
+    try {
+        return dispatch({u"zentaro"_s, words, argc, argv, desktop},
+                        {u"The companion of zentaro-print."_s, commands, {}, versions});
+    } catch (const Ended &end) {
+        return end.exitStatus;
+    }
 }
 
 QString programFolder()

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <unistd.h>
 #include <vector>
 
 namespace tools {
@@ -64,17 +63,6 @@ int printBytes(const QByteArray &bytes)
 }
 
 void printError(const QString &text) { write(text::toLocale(text), stderr); }
-
-bool canAsk() { return isatty(STDIN_FILENO) != 0; }
-
-bool confirmed(const QString &question)
-{
-    printError(question + " [y/N] "_L1);
-    const int answer = std::getchar();
-    for (int rest = answer; rest != '\n' && rest != EOF;)
-        rest = std::getchar();
-    return answer == 'y' || answer == 'Y';
-}
 
 QString inOneLine(const QString &text)
 {

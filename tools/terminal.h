@@ -15,11 +15,6 @@ int printBytes(const QByteArray &bytes);
 /// Writes to standard error.
 void printError(const QString &text);
 
-/// Whether a person sits at standard input and can be asked.
-bool canAsk();
-/// Asks a question on standard error; true for an answer that begins with `y`.
-bool confirmed(const QString &question);
-
 /// The text in one line: line ends, tabs and other control characters as `\n`, `\t`, `\x1b`.
 QString inOneLine(const QString &text);
 /// The beginning of the text in one line, between backquotes; `…` stands for the rest.

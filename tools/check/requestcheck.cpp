@@ -139,15 +139,14 @@ int run(const tools::Call &call)
     tools::addConfigurationOption(line);
     line.addOption({u"json"_s, u"Prints a JSON array instead."_s});
     line.addOption({u"werror"_s, u"Makes every warning an error."_s});
-    line.addArgument(u"REQUEST"_s, u"A print request, or a folder of them."_s, u"REQUEST..."_s);
-    if (const auto done = line.read(1, -1))
-        return *done;
+    line.addPositionalArgument(u"REQUEST"_s, u"A print request, or a folder of them."_s,
+                               u"REQUEST..."_s);
+    line.read(1, -1);
     const QCoreApplication application(call.argc, call.argv);
     tools::ConfigurationInUse configuration; // its labels have the lengths that they have on paper
-    if (!configuration.use(call, line.value(u"config"_s)))
-        return tools::Trouble;
-    return checkFiles(call, tools::requestFiles(call, line.arguments()), line,
-                      !configuration.isMissing());
+    const bool isConfigured = configuration.use(call, line.value(u"config"_s));
+    return checkFiles(call, tools::requestFiles(call, line.positionalArguments()), line,
+                      isConfigured);
 }
 
 } // namespace requestcheck

@@ -16,6 +16,7 @@
 namespace configtool {
 
 using namespace Qt::StringLiterals;
+using namespace tools;
 
 QList<QCommandLineOption> sourceOptions()
 {
@@ -30,26 +31,20 @@ QList<QCommandLineOption> sourceOptions()
          u"FORMAT"_s}};
 }
 
-std::optional<Source> sourceOf(const tools::CommandLine &line)
+Source sourceOf(const CommandLine &line)
 {
     const QString queue = line.value(u"queue"_s);
-    QString path = ZTConfiguration::userFile();
-    QString mistake;
-    if (line.isSet(u"file"_s))
-        path = line.value(u"file"_s);
-    else if (line.isSet(u"queue"_s))
-        path = ZTConfiguration::queueFile(queue);
-    const QString format = line.isSet(u"format"_s) ? line.value(u"format"_s) : formatOf(path);
     if (line.isSet(u"queue"_s) && !ZTConfiguration::isQueueName(queue))
-        mistake = u'`' + queue + "` is no name of a print queue"_L1;
-    else if (line.isSet(u"queue"_s) && line.isSet(u"file"_s))
-        mistake = u"--file and --queue name one file each"_s;
-    else if (format != "cfg"_L1 && format != "xml"_L1)
-        mistake = "unknown format `"_L1 + format + "`, it is cfg or xml"_L1;
-    else
-        return Source{path, format};
-    line.wrongUsage(mistake);
-    return std::nullopt;
+        line.wrongUsage(u'`' + queue + "` is no name of a print queue"_L1);
+    if (line.isSet(u"queue"_s) && line.isSet(u"file"_s))
+        line.wrongUsage(u"--file and --queue name one file each"_s);
+    const QString path = line.isSet(u"file"_s)    ? line.value(u"file"_s)
+                         : line.isSet(u"queue"_s) ? ZTConfiguration::queueFile(queue)
+                                                  : ZTConfiguration::userFile();
+    const QString format = line.isSet(u"format"_s) ? line.value(u"format"_s) : formatOf(path);
+    if (format != "cfg"_L1 && format != "xml"_L1)
+        line.wrongUsage("unknown format `"_L1 + format + "`, it is cfg or xml"_L1);
+    return {path, format};
 }
 
 QString formatOf(const QString &path)
@@ -64,148 +59,124 @@ bool isMissing(const QString &path)
            == std::filesystem::file_type::not_found;
 }
 
-std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source)
+QByteArray contentOf(const Call &call, const Source &source)
 {
     QFile file(source.path);
-    const QByteArray content =
+    QByteArray content =
         file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
     if (isMissing(source.path))
-        tools::tellTrouble(call, source.path,
-                           file.errorString() + "; `zentaro config init` writes one"_L1);
-    else if (file.error() != QFile::NoError)
-        tools::tellTrouble(call, source.path, file.errorString());
-    else if (content.size() > MaxContentBytes)
-        tools::tellTrouble(call, source.path, u"more than 64 MiB, which nothing reads"_s);
-    else
-        return content;
-    return std::nullopt;
+        throw Ended{tellTrouble(call, source.path,
+                                file.errorString() + "; `zentaro config init` writes one"_L1)};
+    if (file.error() != QFile::NoError)
+        throw Ended{tellTrouble(call, source.path, file.errorString())};
+    if (content.size() > libconfig::CfgScanner::MaxBytes)
+        throw Ended{tellTrouble(call, source.path, u"more than 64 MiB, which nothing reads"_s)};
+    return content;
 }
 
-int writeContent(const tools::Call &call, const QString &path, const QByteArray &content)
+int writeContent(const Call &call, const QString &path, const QByteArray &content)
 {
     const QString fault = libconfig::replaceFile(path, content);
-    return fault.isEmpty() ? int(tools::Fine) : tools::tellTrouble(call, path, fault);
+    return fault.isEmpty() ? int(Fine) : tellTrouble(call, path, fault);
 }
 
-OpenedFile::OpenedFile(const tools::Call &call, tools::CommandLine &line, int least, int most)
+OpenedFile::OpenedFile(CommandLine &line, int leastArguments, int mostArguments)
 {
     line.addOptions(sourceOptions());
-    if ((exitStatus = line.read(least, most)))
-        return;
-    exitStatus = tools::Trouble;
-    const auto named = sourceOf(line);
-    const auto read = named ? contentOf(call, *named) : std::nullopt;
-    if (!read)
-        return;
-    source = *named;
-    content = *read;
+    line.read(leastArguments, mostArguments);
+    source = sourceOf(line);
+    content = contentOf(line.call, source);
     config.readContent(content, source.path, source.format);
-    exitStatus.reset();
 }
 
 namespace {
 
-int getValues(const tools::Call &call)
+int getValues(const Call &call)
 {
-    tools::CommandLine line(call,
-                            u"Prints the values of keys such as zentaro.doc.paperWidth, a line "
-                            u"each, as the print run reads them.\nA key without a value prints "
-                            u"an empty line; the exit status is then 1, as for a key that "
-                            u"nothing reads."_s);
-    line.addArgument(u"KEY"_s, u"A dotted key."_s, u"KEY..."_s);
-    const OpenedFile file(call, line, 1, -1);
-    if (file.exitStatus)
-        return *file.exitStatus;
+    CommandLine line(call, u"Prints the values of keys such as zentaro.doc.paperWidth, a line "
+                           u"each, as the print run reads them.\nA key without a value prints "
+                           u"an empty line; the exit status is then 1, as for a key that "
+                           u"nothing reads."_s);
+    line.addPositionalArgument(u"KEY"_s, u"A dotted key."_s, u"KEY..."_s);
+    const OpenedFile file(line, 1, -1);
     QString values;
     bool complete = true;
-    for (const QString &key : line.arguments()) {
+    for (const QString &key : line.positionalArguments()) {
         const QByteArray value = file.config.lookup(key).toLatin1();
         values += QString::fromLatin1(value) + u'\n';
         const QString unread = unreadKey(key);
         if (!unread.isEmpty())
-            tools::refuse(call, unread);
+            refuse(call, unread);
         complete = complete && !value.isEmpty() && unread.isEmpty();
     }
-    const int printed = tools::printOut(values);
-    return printed == tools::Fine && !complete ? tools::Findings : printed;
+    const int printed = printOut(values);
+    return printed == Fine && !complete ? Findings : printed;
 }
 
-int listValues(const tools::Call &call)
+int listValues(const Call &call)
 {
-    tools::CommandLine line(call,
-                            u"Prints every key and its value, one a line, in the order of the "
-                            u"file; also those that no lookup finds (check tells which)."_s);
-    const OpenedFile file(call, line, 0, 0);
-    if (file.exitStatus)
-        return *file.exitStatus;
+    CommandLine line(call, u"Prints every key and its value, one a line, in the order of the "
+                           u"file; also those that no lookup finds (check tells which)."_s);
+    const OpenedFile file(line, 0, 0);
     constexpr qsizetype Portion = 65'536; // characters printed at once
     QString list;
     file.config.forEachSetting([&list](const QString &key, const QString &value) {
-        list += tools::inOneLine(key + " = "_L1 + value) + u'\n';
+        list += inOneLine(key + " = "_L1 + value) + u'\n';
         if (list.size() > Portion)
-            tools::printOut(std::exchange(list, {}));
+            printOut(std::exchange(list, {}));
     });
-    return tools::printOut(list);
+    return printOut(list);
 }
 
-int listKeys(const tools::Call &call)
+int listKeys(const Call &call)
 {
-    tools::CommandLine line(call, u"Prints every key that something reads, and what counts where "
-                                  u"the configuration gives none."_s);
+    CommandLine line(call, u"Prints every key that something reads, and what counts where "
+                           u"the configuration gives none."_s);
     line.addOptions(sourceOptions());
-    if (const auto done = line.read(0, 0))
-        return *done;
+    line.read(0, 0);
     QString list;
-    for (const QString &group : tools::knownGroups()) {
-        for (const Setting *const setting : tools::settingsOf(group))
-            list += tools::keyOf(group, setting->word) + " = "_L1 + setting->byDefault + u'\n';
+    for (const QString &group : knownGroups()) {
+        for (const Setting *const setting : settingsOf(group))
+            list += keyOf(group, setting->word) + " = "_L1 + setting->byDefault + u'\n';
     }
-    return tools::printOut(list);
+    return printOut(list);
 }
 
-int showTree(const tools::Call &call)
+int showTree(const Call &call)
 {
-    tools::CommandLine line(call, u"Prints the tree of groups and settings that the file gives."_s);
-    const OpenedFile file(call, line, 0, 0);
-    if (file.exitStatus)
-        return *file.exitStatus;
-    return tools::printOut(file.config.configTreeText());
+    CommandLine line(call, u"Prints the tree of groups and settings that the file gives."_s);
+    const OpenedFile file(line, 0, 0);
+    return printOut(file.config.configTreeText());
 }
 
-int check(const tools::Call &call)
+int check(const Call &call)
 {
-    tools::CommandLine line(
+    CommandLine line(
         call, u"Reads the file as the suite does and tells what is wrong with it:\n"
               u"FILE:LINE:COLUMN: SEVERITY: TEXT [CODE], at most a hundred lines of a code.\n"
               u"The exit status is 1 when there is something to tell."_s);
     line.addOption({u"json"_s, u"Prints a JSON array instead."_s});
-    const OpenedFile file(call, line, 0, 0);
-    if (file.exitStatus)
-        return *file.exitStatus;
+    const OpenedFile file(line, 0, 0);
     const std::vector<Finding> findings =
-        tools::abridged(findingsIn(readOutline(file.content, file.source.format)));
+        abridged(findingsIn(readOutline(file.content, file.source.format)));
     const QString &path = file.source.path;
     const int printed = line.isSet(u"json"_s)
-                            ? tools::printBytes(tools::findingsAsJson({{path, findings}}).toUtf8())
-                            : tools::printOut(tools::findingLines(path, findings));
-    return printed == tools::Fine && !findings.empty() ? tools::Findings : printed;
+                            ? printBytes(findingsAsJson({{path, findings}}).toUtf8())
+                            : printOut(findingLines(path, findings));
+    return printed == Fine && !findings.empty() ? Findings : printed;
 }
 
-int edit(const tools::Call &call)
+int edit(const Call &call)
 {
-    tools::CommandLine line(call,
-                            u"Opens the configuration in a window, to look through it, change "
-                            u"it and save it.\nWhat is wrong with it stands beside it."_s);
+    CommandLine line(call, u"Opens the configuration in a window, to look through it, change "
+                           u"it and save it.\nWhat is wrong with it stands beside it."_s);
     line.addOptions(sourceOptions());
-    if (const auto done = line.read(0, 0))
-        return *done;
-    const std::optional<Source> source = sourceOf(line);
-    if (!source)
-        return tools::Trouble;
-    return call.desktop ? call.desktop->edit(call, *source) : tools::startDesktop(call);
+    line.read(0, 0);
+    const Source source = sourceOf(line);
+    return call.desktop ? call.desktop->edit(call, source) : startDesktop(call);
 }
 
-constexpr std::array<tools::Command, 10> commands = {{
+constexpr std::array<Command, 10> commands = {{
     {"get"_L1, "prints the values of keys"_L1, getValues},
     {"set"_L1, "gives keys a value"_L1, setValues},
     {"unset"_L1, "takes settings away"_L1, unsetValues},
@@ -220,12 +191,12 @@ constexpr std::array<tools::Command, 10> commands = {{
 
 } // namespace
 
-int run(const tools::Call &call)
+int run(const Call &call)
 {
-    return tools::dispatch(call, {u"Reads, checks and changes the configuration of the suite."_s,
-                                  commands,
-                                  sourceOptions(),
-                                  {}});
+    return dispatch(call, {u"Reads, checks and changes the configuration of the suite."_s,
+                           commands,
+                           sourceOptions(),
+                           {}});
 }
 
 } // namespace configtool

@@ -5,8 +5,6 @@
 #include "config/config.h"
 #include "tools/command.h"
 
-#include <optional>
-
 /// The command `zentaro config`, and the configuration that its sub-commands work on.
 namespace configtool {
 
@@ -23,27 +21,26 @@ struct Source
 QList<QCommandLineOption> sourceOptions();
 
 /// What these options say: the user's own file unless they name another or a print queue, in the
-/// format that its name ends in unless they name one. Nothing for an unknown format or what is no
-/// name of a queue, which is told.
-std::optional<Source> sourceOf(const tools::CommandLine &line);
+/// format that its name ends in unless they name one. An unknown format and what is no name of a
+/// queue end the command.
+Source sourceOf(const tools::CommandLine &line);
 
 /// "xml" for a name that ends in `.xml`, otherwise "cfg".
 QString formatOf(const QString &path);
 /// Whether there is no such file; false where that cannot be seen.
 bool isMissing(const QString &path);
 
-/// The content of the file; nothing when it cannot be read or has more bytes than the store reads,
-/// which is told, and for one that is missing what writes it.
-std::optional<QByteArray> contentOf(const tools::Call &call, const Source &source);
+/// The content of the file. Where it cannot be read, or has more bytes than the store reads, the
+/// command ends, and for one that is missing names what writes it.
+QByteArray contentOf(const tools::Call &call, const Source &source);
 /// Writes a file, all at once; answers an exit status. What went wrong has been told.
 int writeContent(const tools::Call &call, const QString &path, const QByteArray &content);
 
-/// Reads a command's words, and the configuration that they name.
+/// Reads a command's words, and the configuration that they name, or ends the command.
 struct OpenedFile
 {
-    OpenedFile(const tools::Call &call, tools::CommandLine &line, int least, int most);
+    OpenedFile(tools::CommandLine &line, int leastArguments, int mostArguments);
 
-    std::optional<int> exitStatus = tools::Trouble; ///< to end with; none where the file was read
     Source source;
     QByteArray content;
     libconfig::Config config; ///< what the store makes of it

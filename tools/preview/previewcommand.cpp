@@ -112,7 +112,7 @@ public:
     int status; ///< so far
 
 private:
-    std::optional<Document> documentOf(const Input &input);
+    Document documentOf(const Input &input);
     bool show(const QString &name, const Document &document);
     bool compare();
     bool showChange(const QString &name, const Document &before, const Document &after);
@@ -146,12 +146,10 @@ bool Preview::draw()
             status = tools::Trouble;
             continue;
         }
-        std::optional<Document> document = documentOf(*input);
-        if (!document)
-            return false;
+        Document document = documentOf(*input);
         if (compares)
-            compared.emplace_back(*std::move(input), *std::move(document));
-        else if (!show(name, *document))
+            compared.emplace_back(*std::move(input), std::move(document));
+        else if (!show(name, document))
             return false;
     }
     if (compares && !compare())
@@ -175,17 +173,13 @@ std::optional<Input> Preview::read(const QString &name) const
 
 /// The document of a print file, or of a request with the configuration that is in use, which is
 /// loaded when the first request comes. What cannot be printed to its end, or prints nothing, is
-/// told. Nothing for a configuration that cannot be read.
-std::optional<Document> Preview::documentOf(const Input &input)
+/// told.
+Document Preview::documentOf(const Input &input)
 {
-    if (input.isRequest && !std::exchange(isConfigured, true)) {
-        if (!configuration.use(call, options.configuration))
-            return std::nullopt;
-        if (configuration.isMissing())
-            tell(
-                first,
-                u"no such file: every setting has its default; `zentaro config init` writes one"_s);
-    }
+    if (input.isRequest && !std::exchange(isConfigured, true)
+        && !configuration.use(call, options.configuration))
+        tell(first,
+             u"no such file: every setting has its default; `zentaro config init` writes one"_s);
     const text::LineSink errors(text::LineSink::toErrors);
     Document document = input.isRequest ? render(input.bytes, options.annotate)
                                         : Document{input.bytes, options.codec, {}, {}};
@@ -222,11 +216,10 @@ bool Preview::show(const QString &name, const Document &document)
 /// Renders the requests with the second configuration too, and shows those that change.
 bool Preview::compare()
 {
-    if (!configuration.use(call, options.other))
-        return false;
+    configuration.use(call, options.other);
     int changes = 0;
     for (const auto &[request, before] : compared) {
-        const Document after = documentOf(request).value();
+        const Document after = documentOf(request);
         if (after.printFile == before.printFile)
             continue;
         ++changes;
@@ -267,19 +260,18 @@ int run(const tools::Call &call)
                             u"terminal or in a picture.\nA folder stands for the requests in it, "
                             u"- for standard input."_s);
     addOptions(line);
-    line.addArgument(u"FILE"_s, u"A print request or a print file."_s, u"FILE..."_s);
-    if (const auto done = line.read(1, -1))
-        return *done;
+    line.addPositionalArgument(u"FILE"_s, u"A print request or a print file."_s, u"FILE..."_s);
+    line.read(1, -1);
     Options options;
     if (const QString mistake = readOptions(line, options); !mistake.isEmpty())
-        return line.wrongUsage(mistake);
+        line.wrongUsage(mistake);
     if (!options.picture.fileName.isEmpty() && !call.desktop)
         return tools::startDesktop(call);
     // For the translation; for pictures one that draws.
     const auto application = options.picture.fileName.isEmpty()
                                  ? std::make_unique<QCoreApplication>(call.argc, call.argv)
                                  : call.desktop->pictureApplication(call.argv);
-    const tools::RequestFiles files = tools::requestFiles(call, line.arguments());
+    const tools::RequestFiles files = tools::requestFiles(call, line.positionalArguments());
     Preview preview(call, options, files);
     return preview.draw() ? preview.status : tools::Trouble;
 }

@@ -2,11 +2,11 @@
 #include "tools/queue/queuecommand.h"
 
 #include "app/ztconfiguration.h"
+#include "tools/companion.h"
 #include "tools/terminal.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -19,7 +19,7 @@
 namespace queuetool {
 
 using namespace Qt::StringLiterals;
-using tools::Call;
+using namespace tools;
 
 namespace {
 
@@ -33,45 +33,39 @@ QString inShell(QString word)
 }
 
 /// The options and arguments of a command about queues, and the scheduler's commands that do it.
-class QueueCommand : public tools::CommandLine
+struct QueueCommand : CommandLine
 {
-public:
     QueueCommand(const Call &call, const QString &description)
         : CommandLine(call, description)
-        , call(call)
     {
         addOption({{u"v"_s, u"verbose"_s}, u"Shows the scheduler's commands that it runs."_s});
     }
 
-    /// As CommandLine::read(), and the first argument is the name of a queue.
-    std::optional<int> readNames(int arguments)
+    /// As read(), and the first argument is the name of a queue, which is answered.
+    QString readQueue(int arguments)
     {
-        if (const std::optional<int> status = read(arguments, arguments))
-            return status;
-        const QString name = this->arguments().first();
-        if (ZTConfiguration::isQueueName(name))
-            return std::nullopt;
-        return wrongUsage(u'`' + name + "` cannot be the name of a queue"_L1);
+        read(arguments, arguments);
+        QString name = positionalArguments().first();
+        if (!ZTConfiguration::isQueueName(name))
+            wrongUsage(u'`' + name + "` cannot be the name of a queue"_L1);
+        return name;
     }
 
-    /// What one of the scheduler's commands writes; nothing when it fails, which is told in its own
-    /// words.
-    std::optional<QString> ran(const QString &name, const QStringList &words,
-                               const QByteArray &input = {}) const
+    /// What one of the scheduler's commands writes. Where it fails, which is told in its own words,
+    /// the command ends.
+    QString ran(const QString &name, const QStringList &words, const QByteArray &input = {}) const
     {
         if (isSet(u"verbose"_s)) {
             QString shown = name;
             for (const QString &word : words)
                 shown += u' ' + inShell(word);
-            tools::printError(shown + u'\n');
+            printError(shown + u'\n');
         }
         QString program = QStandardPaths::findExecutable(name);
         if (program.isEmpty()) // few people have the administrator's commands in their path
             program = QStandardPaths::findExecutable(name, {u"/usr/sbin"_s});
-        if (program.isEmpty()) {
-            tools::tellTrouble(call, name, u"the package cups-client is needed for this"_s);
-            return std::nullopt;
-        }
+        if (program.isEmpty())
+            throw Ended{tellTrouble(call, name, u"the package cups-client is needed for this"_s)};
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s); // the words that are looked for here
@@ -86,13 +80,8 @@ public:
         if ((process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
             || errors.endsWith("No destinations added."_L1)) // which is no trouble in a list
             return QString::fromUtf8(process.readAllStandardOutput());
-        tools::printError(call.command + ": "_L1 + tools::inOneLine(errors.section(u'\n', -1))
-                          + u'\n');
-        return std::nullopt;
+        throw Ended{refuse(call, inOneLine(errors.section(u'\n', -1)))};
     }
-
-private:
-    const Call &call;
 };
 
 int add(const Call &call)
@@ -100,28 +89,25 @@ int add(const Call &call)
     QueueCommand line(call, u"Makes a queue of the receipt printer at the device URI, as "
                             "socket://192.0.2.7:9100 or serial:/dev/ttyS0?baud=9600, or changes "
                             "one."_s);
-    line.addArgument(u"QUEUE"_s, u"The queue's name."_s);
-    line.addArgument(u"URI"_s, u"The printer's; `lpinfo -v` lists some."_s);
+    line.addPositionalArgument(u"QUEUE"_s, u"The queue's name."_s);
+    line.addPositionalArgument(u"URI"_s, u"The printer's; `lpinfo -v` lists some."_s);
     line.addOption({u"encoding"_s, u"The print files' encoding; UTF-8 unless given."_s, u"NAME"_s});
     line.addOption({u"hold-faulty"_s, u"Keeps a request that breaks off instead of printing its "
                                       "beginning."_s});
     line.addOption({u"shared"_s, u"Lets other machines print to it."_s});
-    if (const std::optional<int> status = line.readNames(2))
-        return *status;
-    static const QRegularExpression scheme(u"^[a-z][a-z0-9+.-]*:."_s);
-    const QString uri = line.arguments().at(1);
-    if (!uri.contains(scheme))
-        return line.wrongUsage(u'`' + uri + "` is no device URI"_L1);
-    QFile description(QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path()
+    const QString name = line.readQueue(2);
+    const QString uri = line.positionalArguments().at(1);
+    if (!uri.contains(QRegularExpression(u"^[a-z][a-z0-9+.-]*:."_s)))
+        line.wrongUsage(u'`' + uri + "` is no device URI"_L1);
+    QFile description(programFolder()
                       + "/" ZENTARO_DATA_FROM_BIN "/ppd/zentaro/zentaro-receipt.ppd"_L1);
     if (!description.open(QIODevice::ReadOnly))
-        return tools::tellTrouble(call, description.fileName(),
-                                  u"the package zentaro-cups is needed for this"_s);
+        return tellTrouble(call, description.fileName(),
+                           u"the package zentaro-cups is needed for this"_s);
     const QString encoding = line.isSet(u"encoding"_s) ? line.value(u"encoding"_s) : u"UTF-8"_s;
     if (!description.readAll().contains("\n*Encoding " + encoding.toUtf8() + '/'))
-        return line.wrongUsage("no queue has the encoding `"_L1 + encoding + u'`');
-    QStringList words = {u"-p"_s, line.arguments().first(), u"-E"_s, u"-v"_s, uri,
-                         u"-P"_s, description.fileName()};
+        line.wrongUsage("no queue has the encoding `"_L1 + encoding + u'`');
+    QStringList words = {u"-p"_s, name, u"-E"_s, u"-v"_s, uri, u"-P"_s, description.fileName()};
     for (const QString &option :
          {"Encoding="_L1 + encoding,
           "Faulty="_L1 + (line.isSet(u"hold-faulty"_s) ? "hold"_L1 : "print"_L1),
@@ -129,17 +115,16 @@ int add(const Call &call)
           // A printer that breaks off prints the ticket again; the scheduler would stop the queue.
           u"printer-error-policy=retry-current-job"_s})
         words += {u"-o"_s, option};
-    return line.ran(u"lpadmin"_s, words) ? tools::Fine : tools::Trouble;
+    line.ran(u"lpadmin"_s, words);
+    return Fine;
 }
 
 int remove(const Call &call)
 {
     QueueCommand line(call, u"Removes a queue and its jobs. Its settings stay."_s);
-    line.addArgument(u"QUEUE"_s, u"The queue's name."_s);
-    if (const std::optional<int> status = line.readNames(1))
-        return *status;
-    return line.ran(u"lpadmin"_s, {u"-x"_s, line.arguments().first()}) ? tools::Fine
-                                                                       : tools::Trouble;
+    line.addPositionalArgument(u"QUEUE"_s, u"The queue's name."_s);
+    line.ran(u"lpadmin"_s, {u"-x"_s, line.readQueue(1)});
+    return Fine;
 }
 
 /// What the pattern, in which `QUEUE` stands for the name of a queue, finds in a list.
@@ -155,22 +140,18 @@ int list(const Call &call)
                       u"Lists the queues with their state, the jobs that wait, their printers "
                       "and what is told of them. The status is 1 when a printer or a job is "
                       "stopped."_s);
-    if (const std::optional<int> status = line.read(0, 0))
-        return *status;
-    const std::optional<QString> lists =
-        line.ran(u"lpstat"_s, {u"-v"_s, u"-p"_s, u"-l"_s, u"-o"_s});
-    if (!lists)
-        return tools::Trouble;
+    line.read(0, 0);
+    const QString lists = line.ran(u"lpstat"_s, {u"-v"_s, u"-p"_s, u"-l"_s, u"-o"_s});
     bool stopped = false;
     QString text;
-    for (const auto &device : found(u"^device for (\\S+): (.*)$"_s, {}, *lists)) {
+    for (const auto &device : found(u"^device for (\\S+): (.*)$"_s, {}, lists)) {
         const QString name = device.captured(1);
         QString state;
         QString told;
         for (const auto &it :
              found(u"^printer QUEUE (?:is )?(idle|now printing|disabled|holding new "
                    "jobs).*\\n(?:\\t(.+)\\n)?"_s,
-                   name, *lists)) {
+                   name, lists)) {
             state = it.captured(1);
             stopped |= state == "disabled"_L1;
             if (it.hasCaptured(2))
@@ -179,7 +160,7 @@ int list(const Call &call)
         int count = 0;
         for (const auto &job :
              found(u"^(QUEUE-\\d+) .*\\n(?:\\tStatus: (.*)\\n)?(?:\\tAlerts: (.*)\\n)?"_s, name,
-                   *lists)) {
+                   lists)) {
             ++count;
             stopped |= job.captured(3).contains("errors"_L1);
             if (!job.captured(2).isEmpty())
@@ -188,8 +169,8 @@ int list(const Call &call)
         text += name + ": "_L1 + state + ", "_L1 + QString::number(count) + " waiting, "_L1
                 + device.captured(2) + u'\n' + told;
     }
-    const int status = tools::printOut(text);
-    return status == tools::Fine && stopped ? tools::Findings : status;
+    const int status = printOut(text);
+    return status == Fine && stopped ? Findings : status;
 }
 
 /// Characters of European print files; what an encoding lacks comes out as `?`.
@@ -237,25 +218,19 @@ int test(const Call &call)
 {
     QueueCommand line(call, u"Prints a page with the columns, the settings and the characters of a "
                             "queue."_s);
-    line.addArgument(u"QUEUE"_s, u"The queue's name."_s);
-    if (const std::optional<int> status = line.readNames(1))
-        return *status;
-    const QString name = line.arguments().first();
-    const std::optional<QString> options = line.ran(u"lpoptions"_s, {u"-p"_s, name, u"-l"_s});
-    if (!options)
-        return tools::Trouble;
+    line.addPositionalArgument(u"QUEUE"_s, u"The queue's name."_s);
+    const QString name = line.readQueue(1);
+    const QString options = line.ran(u"lpoptions"_s, {u"-p"_s, name, u"-l"_s});
     QString encoding;
-    for (const auto &it : found(u"^Encoding/.*\\*(\\S+)"_s, {}, *options))
+    for (const auto &it : found(u"^Encoding/.*\\*(\\S+)"_s, {}, options))
         encoding = it.captured(1);
-    const std::optional<QString> sent =
-        line.ran(u"lp"_s,
-                 {u"-d"_s, name, u"-t"_s, u"test page"_s, u"-o"_s,
-                  u"document-format=application/vnd.zentaro.print-request"_s},
-                 testPage(name, encoding));
-    return sent ? tools::printOut(*sent) : tools::Trouble;
+    return printOut(line.ran(u"lp"_s,
+                             {u"-d"_s, name, u"-t"_s, u"test page"_s, u"-o"_s,
+                              u"document-format=application/vnd.zentaro.print-request"_s},
+                             testPage(name, encoding)));
 }
 
-constexpr std::array<tools::Command, 4> commands = {{
+constexpr std::array<Command, 4> commands = {{
     {"add"_L1, "makes a queue of a printer"_L1, add},
     {"list"_L1, "tells of the queues and their jobs"_L1, list},
     {"remove"_L1, "removes a queue"_L1, remove},
@@ -266,7 +241,7 @@ constexpr std::array<tools::Command, 4> commands = {{
 
 int run(const Call &call)
 {
-    return tools::dispatch(call, {u"The queues of receipt printers."_s, commands, {}, {}});
+    return dispatch(call, {u"The queues of receipt printers."_s, commands, {}, {}});
 }
 
 } // namespace queuetool

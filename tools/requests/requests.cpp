@@ -97,22 +97,20 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
 {
     const bool isOwn = fileName.isEmpty();
     const QString path = isOwn ? ZTConfiguration::userFile() : fileName;
-    const configtool::Source source{path, isOwn ? u"cfg"_s : configtool::formatOf(path)};
-    missing = isOwn && configtool::isMissing(path);
-    const auto content = missing ? QByteArray() : configtool::contentOf(call, source);
-    if (!content)
-        return false;
+    const QString format = isOwn ? u"cfg"_s : configtool::formatOf(path);
+    const bool isThere = !isOwn || !configtool::isMissing(path);
+    const QByteArray content = isThere ? configtool::contentOf(call, {path, format}) : QByteArray();
     // The first use reads the user's own file, whose absence is told by whoever minds it.
     const text::LineSink quiet(text::LineSink::drop);
     ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();
     if (!isOwn)
-        configuration->readContent(*content, path, source.format);
-    if (hasError(configtool::findingsIn(configtool::readOutline(*content, source.format))))
+        configuration->readContent(content, path, format);
+    if (hasError(configtool::findingsIn(configtool::readOutline(content, format))))
         tellTrouble(call, path, u"it has faults, which `zentaro config check` tells"_s);
     QCoreApplication::removeTranslator(&translator);
     if (loadTranslation(translator, *configuration))
         QCoreApplication::installTranslator(&translator);
-    return true;
+    return isThere;
 }
 
 } // namespace tools

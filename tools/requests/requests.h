@@ -38,15 +38,12 @@ class ConfigurationInUse
 public:
     ~ConfigurationInUse();
     /// Uses a file, cfg or xml by its name; for an empty name the user's own, as the print run
-    /// reads it, and where there is none a configuration without settings. False when the file
-    /// cannot be read, which is told; faults in it are told too.
+    /// reads it, and where there is none, which answers false, a configuration without settings.
+    /// Faults in it are told; a file that cannot be read ends the command.
     bool use(const Call &call, const QString &fileName);
-    /// Whether the user's own was to be used and there is none.
-    bool isMissing() const { return missing; }
 
 private:
     QTranslator translator;
-    bool missing = false;
 };
 
 } // namespace tools

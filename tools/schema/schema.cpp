@@ -250,8 +250,7 @@ int run(const tools::Call &call)
                                   u"and validators\ntell what a document reads."_s);
     line.addOption({u"method"_s, u"Of requests for one document, unless for any."_s, u"NAME"_s});
     line.addOption({u"compact"_s, u"Writes the compact syntax instead of XML."_s});
-    if (const auto done = line.read(0, 0))
-        return *done;
+    line.read(0, 0);
     qsizetype method = -1;
     if (line.isSet(u"method"_s)) {
         const QString name = line.value(u"method"_s);
@@ -261,8 +260,8 @@ int run(const tools::Call &call)
             names.reserve(documentMethods.size());
             for (const DocumentMethod &other : documentMethods)
                 names.push_back(other.name);
-            return line.wrongUsage("unknown method `"_L1 + name + u'`'
-                                   + tools::didYouMean(tools::nearest(name, names)));
+            line.wrongUsage("unknown method `"_L1 + name + u'`'
+                            + tools::didYouMean(tools::nearest(name, names)));
         }
         method = chosen - documentMethods.data();
     }
