@@ -75,7 +75,7 @@ void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
 {
     print(indent, text);
-    line += "\"@\n"_L1;
+    print(0, u"\"@\n"_s); // as a derived device may want it otherwise
     const qsizetype room = qsizetype(getPaperWidth()) - line.size() + CentringSlack;
     if (justify == "center"_L1 && room > 1)
         line.insert(1, QString(room / 2, u' '));
