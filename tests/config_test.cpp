@@ -2,14 +2,14 @@
 #include "config/config.h"
 
 #include "app/ztconfiguration.h"
-#include "tests/support.h"
+#include "tests/configfiles.h"
 
 #include <QDomDocument>
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 using libconfig::Config;
+using support::rewritten;
+using support::treeOf;
 
 namespace {
 
@@ -74,20 +74,6 @@ TEST(Config, AnswersDottedKeys)
     }
     EXPECT_EQ(config.lookup(QDomNode(), u"zentaro.logger.level"_s), u""_s);
     EXPECT_EQ(Config().lookup(u"zentaro.logger.level"_s), u""_s);
-}
-
-TEST(Config, KeepsTextOfAnyLengthAndGroupsOfAnyDepth)
-{
-    const QByteArray name(5'000, 'n');
-    const QByteArray value(100'000, 'v');
-    const Loaded lengthy("z:{" + name + '=' + value + ";};");
-    EXPECT_EQ(lengthy.lookup(u"z."_s + QString::fromLatin1(name)), QString::fromLatin1(value));
-
-    constexpr int depth = 200'000;
-    Loaded nested(QByteArray("z:{").repeated(depth) + "k=1;");
-    EXPECT_EQ(nested.lookup(u"z."_s.repeated(depth) + u'k'), u"1"_s);
-    nested.loadFile(); // beside what is there
-    EXPECT_EQ(nested.lookup(u"z."_s.repeated(depth) + u'k'), u"1"_s);
 }
 
 TEST(Config, ReadsXmlUpToALimit)
@@ -165,6 +151,40 @@ TEST(Config, TakesInAFileThatIsReadBesideAnother)
         EXPECT_EQ(config.lookup(u"z.k"_s), u"1"_s); // the first has the first element
         EXPECT_EQ(config.elements(), 2 + i);
     }
+}
+
+TEST(ConfigWriter, PrintsTheTree)
+{
+    const support::Folder folder;
+    const QString path = folder.path(u"t\u00e9st"_s);
+    support::writeFile(path, "t = 1; g : { k\xE9 = \"\xFC\"; n : { x = y; }; };");
+    Config config(path, u"cfg"_s);
+    testing::internal::CaptureStdout();
+    config.printConfigTree();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Tree \n" + path.toLatin1().toStdString() + "\nt = 1\ng\nk\xE9 = \xFC\nn\nx = y\n");
+    testing::internal::CaptureStdout();
+    Config().printConfigTree();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Tree \n");
+}
+
+TEST(ConfigWriter, WritesGroupsNestedToAnyDepth)
+{
+    const auto nested = [](int depth) {
+        return QByteArray("g:{").repeated(depth) + "k=1;" + QByteArray("};").repeated(depth);
+    };
+    EXPECT_EQ(treeOf(nested(100'000)), u"g\n"_s.repeated(100'000) + u"k = 1\n"_s);
+    const QByteArray deep = rewritten(nested(500));
+    EXPECT_EQ(treeOf(deep), treeOf(nested(500)));
+    EXPECT_TRUE(rewritten(deep, u"cfg"_s, u"xml"_s).endsWith("\n    </g>\n</g>\n"));
+}
+
+TEST(ConfigWriter, NeedsAName)
+{
+    testing::internal::CaptureStdout();
+    EXPECT_FALSE(Config().buildConfigFile({}));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Error in the method Config::buildConfigFile(  ): No such file or directory\n");
 }
 
 TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "tests/printqueue.h"
+#include "tests/receiptprinter.h"
 
 #include <QDir>
 #include <QMap>
+#include <QProcess>
 #include <QTextCodec>
 
 #include <gtest/gtest.h>
@@ -12,7 +13,6 @@
 using namespace Qt::StringLiterals;
 using support::Home;
 using support::Printer;
-using support::Scheduler;
 
 namespace {
 
@@ -28,57 +28,123 @@ QByteArray ticket(const QByteArray &word, int lines = 30)
     return "<print><method name='printPartialOrder'/>\n" + item.repeated(lines) + "</print>";
 }
 
-/// What the scheduler says of a job: its reason and, behind a colon, the filter's word.
-QString told(const Scheduler &scheduler, const QString &job)
+/// Tests with a scheduler that they share, and queues of their own.
+class Queue : public testing::Test
 {
-    for (const QString &which : {u"not-completed"_s, u"completed"_s}) {
-        const QString jobs =
-            QString::fromUtf8(scheduler.run(u"lpstat"_s, {u"-W"_s, which, u"-l"_s, u"-o"_s}));
-        const QString lines =
-            (u'\n' + jobs).section(u'\n' + job + u' ', 1, 1).section(u"queued"_s, 0, 0);
-        if (!lines.isEmpty())
-            return which + ": "_L1 + lines.section(u"Status: "_s, 1).section(u'\n', 0, 0);
+protected:
+    static void SetUpTestSuite()
+    {
+        scheduler = std::make_unique<QProcess>();
+        scheduler->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        scheduler->start(support::sourceDir() + "/tests/print-scheduler"_L1,
+                         {QStringLiteral(ZENTARO_FILTER)});
+        ASSERT_TRUE(scheduler->waitForReadyRead(30'000));
+        folder = QString::fromUtf8(scheduler->readLine()).trimmed();
     }
-    return {};
-}
+    static void TearDownTestSuite()
+    {
+        scheduler->closeWriteChannel();
+        EXPECT_TRUE(scheduler->waitForFinished(30'000));
+        scheduler.reset();
+    }
+    ~Queue() override
+    {
+        if (HasFailure())
+            std::cerr << support::readFile(folder + "/error_log"_L1).right(9'000).data();
+        run(u"sh"_s,
+            {u"-c"_s,
+             u"cancel -a -x; lpstat -e | while read -r name; do lpadmin -x $name; done"_s});
+    }
 
-TEST(Queue, PrintsRequestsAsThePrintRunDoes)
+    /// Runs a command as the scheduler's client.
+    static support::Outcome outcomeOf(const QString &program, const QStringList &words)
+    {
+        return support::run(program, words, Home(),
+                            {"CUPS_SERVER="_L1 + folder + "/socket"_L1,
+                             "ZENTARO_CONFIG_FOLDER="_L1 + folder + "/zentaro"_L1});
+    }
+    /// Fails the test unless the status is as expected.
+    static QByteArray run(const QString &program, const QStringList &words, int status = 0)
+    {
+        const support::Outcome outcome = outcomeOf(program, words);
+        EXPECT_EQ(outcome.exitStatus, status)
+            << words.join(u' ').toStdString() << outcome.errors.toStdString();
+        return status == 2 ? outcome.errors : outcome.output;
+    }
+    /// Runs `zentaro queue`.
+    static QByteArray queue(const QStringList &words, int status = 0)
+    {
+        return run(support::zentaroProgram(), QStringList(u"queue"_s) + words, status);
+    }
+    static void addQueue(const QString &name, const Printer &printer,
+                         const QStringList &options = {})
+    {
+        queue(QStringList{u"add"_s, name, printer.uri} + options);
+    }
+    /// Sends a request with `lp -d` and answers the job's name.
+    static QString print(const QString &queue, const QByteArray &request,
+                         const QStringList &options = {})
+    {
+        const support::Folder files;
+        const QString file = files.path(u"request"_s);
+        support::writeFile(file, request);
+        const QStringList words = QStringList{u"-d"_s, queue} + options + QStringList(file);
+        return QString::fromUtf8(run(u"lp"_s, words)).section(u' ', 3, 3);
+    }
+    /// What the scheduler says of a job: its reason and, behind a colon, the filter's word.
+    static QString told(const QString &job)
+    {
+        for (const QString &which : {u"not-completed"_s, u"completed"_s}) {
+            const QString jobs =
+                QString::fromUtf8(run(u"lpstat"_s, {u"-W"_s, which, u"-l"_s, u"-o"_s}));
+            const QString lines =
+                (u'\n' + jobs).section(u'\n' + job + u' ', 1, 1).section(u"queued"_s, 0, 0);
+            if (!lines.isEmpty())
+                return which + ": "_L1 + lines.section(u"Status: "_s, 1).section(u'\n', 0, 0);
+        }
+        return {};
+    }
+
+    static inline std::unique_ptr<QProcess> scheduler; // as tests/print-scheduler runs it
+    static inline QString folder;
+};
+
+TEST_F(Queue, PrintsRequestsAsThePrintRunDoes)
 {
-    const Scheduler scheduler;
     Printer printer;
     printer.switchOn();
-    scheduler.addQueue(u"kitchen"_s, printer);
-    scheduler.addQueue(u"wide"_s, printer, {u"--encoding"_s, u"CP858"_s});
+    addQueue(u"kitchen"_s, printer);
+    addQueue(u"wide"_s, printer, {u"--encoding"_s, u"CP858"_s});
     const Home narrow(sample(u"zentaro-32.conf"_s));
     const Home wide(sample(u"zentaro-40.conf"_s));
     QList<QByteArray> expected;
-    const auto print = [&](const QString &queue, const QByteArray &request, const QByteArray &file,
-                           const QStringList &options = {}) {
-        scheduler.print(queue, request, options);
+    const auto send = [&](const QString &queue, const QByteArray &request, const QByteArray &file,
+                          const QStringList &options = {}) {
+        print(queue, request, options);
         expected += file;
     };
     const QDir samples(support::sourceDir() + u"/samples"_s);
     for (const QString &name : samples.entryList({u"*.xml"_s}))
-        print(u"kitchen"_s, sample(name), support::printed(sample(name), narrow));
+        send(u"kitchen"_s, sample(name), support::printed(sample(name), narrow));
     const QByteArray letters = ticket("Caff\u00e8 5 \u20ac \u4e00", 1);
     const QString text = QString::fromUtf8(support::printed(letters, wide));
     const auto in = [&text](const char *encoding) {
         return QTextCodec::codecForName(encoding)->fromUnicode(text);
     };
-    print(u"wide"_s, letters, in("IBM00858"));
-    print(u"wide"_s, letters, in("ISO-8859-15"), {u"-o"_s, u"Encoding=ISO-8859-15"_s});
-    print(u"wide"_s, letters, text.toUtf8(),
-          {u"-o"_s, u"note='a Encoding=CP437 b'"_s, u"-o"_s, u"encoding=nosuch"_s});
-    print(u"kitchen"_s, letters, support::printed(letters, narrow).repeated(3),
-          {u"-n"_s, u"3"_s, u"-t"_s, u"\u00fc \"x\" 'y' $(z) \\ -o raw"_s});
-    print(u"kitchen"_s, "\x1b@ a print file", "\x1b@ a print file", {u"-o"_s, u"raw"_s});
+    send(u"wide"_s, letters, in("IBM00858"));
+    send(u"wide"_s, letters, in("ISO-8859-15"), {u"-o"_s, u"Encoding=ISO-8859-15"_s});
+    send(u"wide"_s, letters, text.toUtf8(),
+         {u"-o"_s, u"note='a Encoding=CP437 b'"_s, u"-o"_s, u"encoding=nosuch"_s});
+    send(u"kitchen"_s, letters, support::printed(letters, narrow).repeated(3),
+         {u"-n"_s, u"3"_s, u"-t"_s, u"\u00fc \"x\" 'y' $(z) \\ -o raw"_s});
+    send(u"kitchen"_s, "\x1b@ a print file", "\x1b@ a print file", {u"-o"_s, u"raw"_s});
     QList<QByteArray> found = printer.documents(expected.size());
     std::ranges::sort(found); // the two queues take turns
     std::ranges::sort(expected);
     EXPECT_EQ(found, expected);
 }
 
-TEST(Queue, TellsWhatIsWrongWithARequest)
+TEST_F(Queue, TellsWhatIsWrongWithARequest)
 {
     struct Row
     {
@@ -102,76 +168,72 @@ TEST(Queue, TellsWhatIsWrongWithARequest)
          "\nj\n"},
         {"<print><method name='printSold'/></print>", "Faulty=hold", "completed: ", "\nj\nJ\n"},
     };
-    const Scheduler scheduler;
     Printer printer;
     printer.switchOn();
-    scheduler.addQueue(u"kitchen"_s, printer);
+    addQueue(u"kitchen"_s, printer);
     QStringList jobs;
     QList<QByteArray> expected;
     for (const Row &row : rows) {
-        jobs +=
-            scheduler.print(u"kitchen"_s, row.request, {u"-o"_s, QString::fromLatin1(row.options)});
+        jobs += print(u"kitchen"_s, row.request, {u"-o"_s, QString::fromLatin1(row.options)});
         if (*row.printed)
             expected += row.printed;
     }
     EXPECT_EQ(printer.documents(expected.size()), expected);
     for (size_t i = 0; i < std::size(rows); ++i)
-        EXPECT_EQ(told(scheduler, jobs[qsizetype(i)]), QString::fromUtf8(rows[i].told)) << i;
-    EXPECT_TRUE(scheduler.run(support::zentaroProgram(), {u"queue"_s, u"list"_s}, 1)
-                    .contains("tag mismatch"));
+        EXPECT_EQ(told(jobs[qsizetype(i)]), QString::fromUtf8(rows[i].told)) << i;
+    EXPECT_TRUE(queue({u"list"_s}, 1).contains("tag mismatch"));
     // A person has looked, and wants it printed as it is.
-    scheduler.run(u"lp"_s, {u"-i"_s, jobs[3], u"-o"_s, u"Faulty=print"_s});
-    scheduler.run(u"lp"_s, {u"-i"_s, jobs[3], u"-H"_s, u"restart"_s});
+    run(u"lp"_s, {u"-i"_s, jobs[3], u"-o"_s, u"Faulty=print"_s});
+    run(u"lp"_s, {u"-i"_s, jobs[3], u"-H"_s, u"restart"_s});
     EXPECT_EQ(printer.documents(expected.size() + 1).last(), "\nj\n");
 }
 
-TEST(Queue, LosesNoJob)
+TEST_F(Queue, LosesNoJob)
 {
-    Scheduler scheduler;
     Printer off;
     Printer breaking;
     breaking.switchOn();
     breaking.isBreaking = true;
-    scheduler.addQueue(u"kitchen"_s, off);
-    scheduler.addQueue(u"bar"_s, breaking);
+    addQueue(u"kitchen"_s, off);
+    addQueue(u"bar"_s, breaking);
     const Home home(sample(u"zentaro-32.conf"_s));
     QList<QByteArray> expected;
     for (int i = 0; i < 4; ++i) {
         const QByteArray request = ticket("T" + QByteArray::number(i), 10'000);
         expected += support::printed(request, home);
-        scheduler.print(u"kitchen"_s, request);
-        scheduler.print(u"bar"_s, request);
+        print(u"kitchen"_s, request);
+        print(u"bar"_s, request);
     }
     EXPECT_EQ(breaking.documents(4), expected); // the first one at the second try
-    const QByteArray list = scheduler.run(support::zentaroProgram(), {u"queue"_s, u"list"_s});
+    const QByteArray list = queue({u"list"_s});
     EXPECT_TRUE(list.contains("kitchen: now printing, 4 waiting, socket://127.0.0.1:"))
         << list.data();
     EXPECT_TRUE(list.contains("\n  The printer may not exist or is unavailable at this time.\n"));
-    scheduler.restart();
+    scheduler->write("\n"); // is killed and starts again
+    EXPECT_TRUE(scheduler->waitForReadyRead(30'000));
     off.switchOn();
     EXPECT_EQ(off.documents(4), expected);
 }
 
-TEST(Queue, TakesTheJobsOfManyClients)
+TEST_F(Queue, TakesTheJobsOfManyClients)
 {
-    const Scheduler scheduler;
     Printer printers[3];
     for (int i = 0; i < 3; ++i) {
         printers[i].switchOn();
-        scheduler.addQueue(u"q%1"_s.arg(i), printers[i]);
+        addQueue(u"q%1"_s.arg(i), printers[i]);
     }
-    const support::Folder folder;
-    support::writeFile(folder.path(u"ticket"_s), ticket("CLIENT"));
-    scheduler.run(u"bash"_s,
-                  {u"-c"_s,
-                   u"for c in {10..19}; do for j in {10..29}; do sed s/CLIENT/c$c.$j/ \"$0\" |"
-                   " lp -d q$((j % 3)); done & done; wait"_s,
-                   folder.path(u"ticket"_s)});
+    const support::Folder files;
+    support::writeFile(files.path(u"ticket"_s), ticket("CLIENT"));
+    const int each = qEnvironmentVariable("ZENTARO_JOBS_OF_A_CLIENT", u"6"_s).toInt();
+    run(u"bash"_s, {u"-c"_s,
+                    u"for c in {10..19}; do for j in $(seq 10 $((9 + $1))); do"
+                    " sed s/CLIENT/c$c.$j/ \"$0\" | lp -d q$((j % 3)); done & done; wait"_s,
+                    files.path(u"ticket"_s), QString::number(each)});
     const Home home(sample(u"zentaro-32.conf"_s));
     const QByteArray pattern = support::printed(ticket("c00.00"), home);
     for (int i = 0; i < 3; ++i) {
         QMap<QByteArray, QByteArray> last; // of each client
-        for (const QByteArray &document : printers[i].documents(i == 0 ? 60 : 70)) {
+        for (const QByteArray &document : printers[i].documents(10 * each / 3)) {
             const QByteArray word = document.mid(document.indexOf('c'), 6);
             EXPECT_EQ(document, QByteArray(pattern).replace("c00.00", word));
             EXPECT_GT(word, last[word.first(3)]); // as they were sent, and only once
@@ -180,31 +242,26 @@ TEST(Queue, TakesTheJobsOfManyClients)
     }
 }
 
-TEST(Queue, StopsALongDocumentThatIsCancelled)
+TEST_F(Queue, StopsALongDocumentThatIsCancelled)
 {
-    const Scheduler scheduler;
     Printer printer;
     printer.isSlow = true;
     printer.switchOn();
-    scheduler.addQueue(u"kitchen"_s, printer);
-    const QString job = scheduler.print(u"kitchen"_s, ticket("x", 60'000));
+    addQueue(u"kitchen"_s, printer);
+    const QString job = print(u"kitchen"_s, ticket("x", 60'000));
     while (!printer.isConnected)
         std::this_thread::yield();
-    scheduler.run(u"cancel"_s, {job});
+    run(u"cancel"_s, {job});
     EXPECT_LT(printer.documents(1).first().size(), 1'000'000); // of two million
-    scheduler.print(u"kitchen"_s, ticket("next", 1));
+    print(u"kitchen"_s, ticket("next", 1));
     EXPECT_TRUE(printer.documents(2).last().contains("next"));
 }
 
-TEST(Queue, IsSetUpByOneCommand)
+TEST_F(Queue, IsSetUpByOneCommand)
 {
-    const Scheduler scheduler;
     Printer printer;
     printer.switchOn();
-    const auto queue = [&](const QStringList &words, int status = 0) {
-        return scheduler.run(support::zentaroProgram(), QStringList(u"queue"_s) + words, status);
-    };
-    const QString uri = printer.uri() + u"/?a=$(reboot)'b"_s;
+    const QString uri = printer.uri + u"/?a=$(reboot)'b"_s;
     EXPECT_EQ(queue({u"list"_s}), "");
     queue({u"add"_s, u"k\u00fcche;x"_s, uri, u"--encoding"_s, u"CP850"_s});
     EXPECT_EQ(queue({u"list"_s}), (u"k\u00fcche;x: idle, 0 waiting, "_s + uri + u'\n').toUtf8());
@@ -228,17 +285,15 @@ TEST(Queue, IsSetUpByOneCommand)
         EXPECT_TRUE(queue(words, 2).contains(trouble)) << trouble.data();
 }
 
-TEST(Queue, KnowsRequestsByTheirContent)
+TEST_F(Queue, KnowsRequestsByTheirContent)
 {
-    const Scheduler scheduler;
     const Printer off;
-    scheduler.addQueue(u"kitchen"_s, off);
+    addQueue(u"kitchen"_s, off);
     const support::Folder files;
     const auto isRequest = [&](const QString &name, const QByteArray &content) {
         support::writeFile(files.path(name), content);
         const support::Outcome outcome =
-            support::run(u"lp"_s, {u"-d"_s, u"kitchen"_s, files.path(name)}, Home(),
-                         {"CUPS_SERVER="_L1 + scheduler.path(u"socket"_s)});
+            outcomeOf(u"lp"_s, {u"-d"_s, u"kitchen"_s, files.path(name)});
         EXPECT_TRUE(outcome.exitStatus == 0
                     || outcome.errors.contains("Unsupported document-format"));
         return outcome.exitStatus == 0;
