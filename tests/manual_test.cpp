@@ -221,8 +221,8 @@ TEST(Manual, NamesEveryCodeOfFindings)
             support::sourceDir() + u"/tests/golden/transcripts/"_s + name + u".txt"_s));
     QString manual = manualPage(u"zentaro-check.1"_s);
     qsizetype codes = 0;
-    for (const requestcheck::CodesOf &row : requestcheck::codes) {
-        for (const std::string_view name : row.names) {
+    for (const auto &names : requestcheck::codes) {
+        for (const std::string_view name : names) {
             const QString code = QString::fromLatin1(name);
             ++codes;
             EXPECT_TRUE(manual.contains(u".It Cm "_s + code + u'\n')) << name;

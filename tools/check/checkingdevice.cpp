@@ -4,11 +4,9 @@
 #include "render/vocabulary.h"
 #include "tools/terminal.h"
 
-#include <QRegularExpression>
 #include <QTextCodec>
 
 #include <algorithm>
-#include <array>
 
 namespace requestcheck {
 
@@ -50,36 +48,21 @@ CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &fin
     stream = std::make_unique<QTextStream>(&paper);
 }
 
-CheckingDevice::~CheckingDevice() { stream.reset(); } // before the text that it writes to
-
-void CheckingDevice::tell(Code code, const QString &text, const Range &at,
-                          const QString &suggestion)
-{
-    findings.add(finding(code, text, at, suggestion));
-}
-
-Range CheckingDevice::placeOf(QLatin1StringView attribute) const
-{
-    return places.attribute(current.atts.index(attribute));
-}
-
 bool CheckingDevice::startElement(const QString &namespaceURI, const QString &localName,
                                   const QString &qName, const QXmlAttributes &atts)
 {
     unlessGroup.reset(); // it groups this one
     if (root.begin.line == 0) {
-        root = places.range();
+        root = places.tag();
         checkDeclaration();
     }
-    open.push_back({qName, places.tag().line});
+    open.push_back({qName, places.tag().begin.line});
     current = {qName, atts, nullptr};
     hasPrinted = false;
-    if (qName == element::method) {
-        if (!startMethod(atts))
-            return false;
-    } else {
+    if (qName != element::method)
         checkElement();
-    }
+    else if (!startMethod())
+        return false;
     const bool accepted = CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
     checkDescription();
     paper.truncate(0);
@@ -120,15 +103,19 @@ bool CheckingDevice::endDocument()
 /// The encoding that the XML declaration names.
 void CheckingDevice::checkDeclaration()
 {
-    static const QRegularExpression declaration(u"^<\\?xml[^?]*?encoding[^?\"']*[\"']([^\"']*)"_s);
-    const QRegularExpressionMatch match = declaration.match(places.head());
-    const QString name = match.captured(1);
-    if (!match.hasMatch() || name.startsWith("utf"_L1, Qt::CaseInsensitive))
+    const QString &head = places.head();
+    const std::u16string_view text(QStringView(head).utf16(), size_t(head.size()));
+    const size_t quote = text.find_first_of(u"\"'", text.find(u"encoding"));
+    if (!head.startsWith("<?xml"_L1) || quote == text.npos || quote > text.find(u"?>"))
+        return;
+    const QStringView before = QStringView(head).first(qsizetype(quote) + 1);
+    const QString name = head.sliced(before.size(), qsizetype(text.find_first_of(u"\"'", quote + 1))
+                                                        - before.size());
+    if (name.startsWith("utf"_L1, Qt::CaseInsensitive))
         return;
     requestCodec = QTextCodec::codecForName(name.toLatin1());
     if (requestCodec)
         return;
-    const QStringView before = QStringView(places.head()).first(match.capturedStart(1));
     const qint64 column = before.size() - before.lastIndexOf(u'\n');
     const qint64 line = 1 + before.count(u'\n');
     tell("unknown-encoding",
@@ -137,27 +124,23 @@ void CheckingDevice::checkDeclaration()
          {{line, column}, {line, column + name.size()}});
 }
 
-bool CheckingDevice::startMethod(const QXmlAttributes &atts)
+bool CheckingDevice::startMethod()
 {
-    const QString name = valueOf(atts, "name"_L1);
+    const QString name = valueOf(current.atts, "name"_L1);
     const DocumentMethod *const chosen = documentMethod(name);
     if (!chosen) {
-        std::vector<QString> names;
-        names.reserve(documentMethods.size());
-        for (const DocumentMethod &other : documentMethods)
-            names.push_back(other.name);
         tell("unknown-method",
-             (atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
-                                        : "unknown method "_L1 + tools::excerpt(name))
+             (current.atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
+                                                : "unknown method "_L1 + tools::excerpt(name))
                  + ": the print run stops here"_L1,
-             placeOf("name"_L1), tools::nearest(name, names));
+             placeOf("name"_L1), methodNear(name));
         return false;
     }
     if (method >= 0)
-        tell("second-method", u"a second `method`, which opens another section"_s, places.range());
+        tell("second-method", u"a second `method`, which opens another section"_s, places.tag());
     checkComplete();
     method = chosen - documentMethods.data();
-    methodTag = places.range();
+    methodTag = places.tag();
     seenRoles.clear();
     knownElements.clear();
     for (const ElementRow *const row : rowsOf(method))
@@ -166,8 +149,8 @@ bool CheckingDevice::startMethod(const QXmlAttributes &atts)
         tell("prints-nothing", u'`' + name + "` prints nothing, whatever the request holds"_L1,
              methodTag);
     current.row = &methodElement();
-    for (int i = 0; i < atts.count(); ++i) {
-        if (fateOf(*current.row, atts, i, settings) == Fate::Unread)
+    for (int i = 0; i < current.atts.count(); ++i) {
+        if (fateOf(*current.row, current.atts, i, settings) == Fate::Unread)
             tellUnread(i);
     }
     return true;
@@ -187,7 +170,6 @@ void CheckingDevice::checkComplete()
 
 void CheckingDevice::checkElement()
 {
-    const bool isRoot = open.size() == 1;
     if (method >= 0) {
         current.row = elementRow(current.name, method);
         if (current.row)
@@ -196,23 +178,21 @@ void CheckingDevice::checkElement()
             checkUnknownElement();
         return;
     }
-    const bool isKnown = !documentsWith(current.name).empty();
-    if (isRoot && !isKnown)
+    const bool isKnown = isElement(current.name);
+    if (open.size() == 1 && !isKnown) // the root
         return;
-    const std::array names = {element::method.toString()};
-    const QString meant = isKnown ? QString() : tools::nearest(current.name, names);
-    tellUnlessGroup(finding("before-method",
-                            tools::excerpt(current.name)
-                                + " stands before the `method` element and prints nothing"_L1,
-                            places.range(), meant),
-                    isKnown);
+    const QString meant = element::method.toString();
+    tellUnlessGroup(finding(
+        "before-method",
+        tools::excerpt(current.name) + " stands before the `method` element and prints nothing"_L1,
+        places.tag(), isKnown ? QString() : tools::nearest(current.name, {&meant, 1})));
 }
 
 /// An element of a name that nobody knows, without attributes, may group others.
-void CheckingDevice::tellUnlessGroup(const tools::Finding &told, bool isKnown)
+void CheckingDevice::tellUnlessGroup(const tools::Finding &told)
 {
     unlessGroup = told;
-    if (isKnown || !told.suggestion.isEmpty() || hasPlainAttributes(current.atts))
+    if (!told.suggestion.isEmpty() || hasPlainAttributes(current.atts) || isElement(current.name))
         finish();
 }
 
@@ -229,10 +209,10 @@ QString CheckingDevice::meantElement() const
             meant.push_back(same);
         }
     }
-    const QString near = tools::nearest(current.name, names);
-    const size_t found = std::ranges::find(names, near) - names.begin();
+    const size_t found =
+        std::ranges::find(names, tools::nearest(current.name, names)) - names.begin();
     const bool isRead = found < knownElements.size();
-    if (found == names.size() || (isRead && !documentsWith(current.name).empty()))
+    if (found == names.size() || (isRead && isElement(current.name)))
         return {}; // an element of another document is none that is misspelt
     return meant[found];
 }
@@ -240,16 +220,17 @@ QString CheckingDevice::meantElement() const
 void CheckingDevice::checkUnknownElement()
 {
     const Code code = "unknown-element";
-    const bool isFull = findings.isFull(code.name); // then it is only counted
-    const QString meant = isFull ? QString() : meantElement();
-    const std::vector<QString> readers =
-        isFull ? std::vector<QString>() : documentsWith(current.name);
-    QString text = tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`';
-    if (!readers.empty())
-        text += ": it is read in "_L1 + someOf(readers);
-    else if (meant.isEmpty() && !isFull)
-        text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
-    tellUnlessGroup(finding(code, text, places.range(), meant), !readers.empty());
+    QString meant;
+    QString text;
+    if (!findings.isFull(code.name)) { // else it is only counted
+        meant = meantElement();
+        text = tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`';
+        if (isElement(current.name))
+            text += ": it is read in "_L1 + someOf(documentsWith(current.name));
+        else if (meant.isEmpty())
+            text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
+    }
+    tellUnlessGroup(finding(code, text, places.tag(), meant));
 }
 
 void CheckingDevice::checkAttributes()
@@ -260,13 +241,13 @@ void CheckingDevice::checkAttributes()
     else if (current.name == element::headers && printer.begin.line == 0)
         tell("no-printer",
              u"`headers` prints the printer's name, which no `printers` before it gives"_s,
-             places.range());
+             places.tag());
     if (row.rest == Rest::Ignored) {
         if (hasPlainAttributes(current.atts))
             tell("prints-nothing",
                  u'`' + current.name + "` prints nothing in `"_L1 + currentMethod
                      + "`, its payments included"_L1,
-                 places.range());
+                 places.tag());
         return;
     }
     if (row.isHidden(current.atts))
@@ -275,7 +256,7 @@ void CheckingDevice::checkAttributes()
     else
         seenRoles.insert(row.role);
     if (isOff(settings, row.onlyIf))
-        tellSwitchedOff(row.onlyIf, current.name, places.range());
+        tellSwitchedOff(row.onlyIf, current.name, places.tag());
     for (int i = 0; i < current.atts.count(); ++i)
         checkAttribute(i);
     checkMissing();
@@ -347,7 +328,7 @@ void CheckingDevice::checkMissing()
         const auto instead = use.column == Column::Sign ? "`-`"_L1 : "empty"_L1;
         tell("missing-attribute",
              u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints "_L1 + instead,
-             places.range());
+             places.tag());
     }
 }
 

@@ -28,10 +28,10 @@ public:
     /// `places` follows the same reading. Without a configuration, what switches leave away is not
     /// told: they are all off.
     CheckingDevice(const TagPlaces &places, tools::FindingStore &findings, bool isConfigured);
-    ~CheckingDevice() override;
+    ~CheckingDevice() override { stream.reset(); } // before the text that it writes to
 
-    /// The innermost one; null outside the root.
-    const OpenElement *openElement() const { return open.empty() ? nullptr : &open.back(); }
+    /// The innermost last.
+    const std::vector<OpenElement> &openElements() const { return open; }
     /// Tells what is left where the reading ends early.
     void finish();
     /// The root's tag; line 0 before it.
@@ -60,14 +60,20 @@ private:
         const ElementRow *row = nullptr; ///< null: the method does not react to it
     };
 
-    void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {});
-    Range placeOf(QLatin1StringView attribute) const;
+    void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {})
+    {
+        findings.add(finding(code, text, at, suggestion));
+    }
+    Range placeOf(QLatin1StringView attribute) const
+    {
+        return places.attribute(current.atts.index(attribute));
+    }
 
     void checkDeclaration();
-    bool startMethod(const QXmlAttributes &atts);
+    bool startMethod();
     void checkElement();
     void checkUnknownElement();
-    void tellUnlessGroup(const tools::Finding &told, bool isKnown);
+    void tellUnlessGroup(const tools::Finding &told);
     QString meantElement() const;
     void checkComplete();
     // The attributes against the table.
@@ -79,9 +85,7 @@ private:
     void checkTriples();
     // The value of a printed attribute.
     void checkValue(int position);
-    void checkCharacters(const QString &value, const QString &name, const Range &at);
     void checkEncoding(const QString &value, const QString &name, const Range &at);
-    void checkColumns(const QString &value, const QString &name, const Range &at);
     void checkMeaning(int position, const AttributeUse &use);
     // The paper.
     void checkLine(const QString &text, qsizetype pad);

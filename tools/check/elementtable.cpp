@@ -3,6 +3,7 @@
 
 #include "render/settings.h"
 #include "render/vocabulary.h"
+#include "tools/terminal.h"
 
 #include <algorithm>
 #include <array>
@@ -304,6 +305,11 @@ QString elementWith(Role role, qsizetype method)
     return found == rows.end() ? QString() : found->element.toString();
 }
 
+bool isElement(QStringView name)
+{
+    return std::ranges::find(rows, name, &ElementRow::element) != rows.end();
+}
+
 std::vector<QString> documentsWith(QStringView element)
 {
     std::vector<QString> names;
@@ -312,6 +318,13 @@ std::vector<QString> documentsWith(QStringView element)
             names.push_back(documentMethods[i].name);
     }
     return names;
+}
+
+QString methodNear(QStringView word)
+{
+    std::array<QString, documentMethods.size()> names;
+    std::ranges::transform(documentMethods, names.begin(), &DocumentMethod::name);
+    return tools::nearest(word, names);
 }
 
 QLatin1StringView summaryOf(qsizetype method)

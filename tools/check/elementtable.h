@@ -84,10 +84,14 @@ const ElementRow *elementRow(QStringView element, qsizetype method);
 const ElementRow &methodElement();
 /// The first element that has the role in a document; empty without one.
 QString elementWith(Role role, qsizetype method);
+/// Whether any document reads an element of this name.
+bool isElement(QStringView name);
 /// The names of the documents that read the element.
 std::vector<QString> documentsWith(QStringView element);
 /// The rows that a document reads, those of its top first.
 std::vector<const ElementRow *> rowsOf(qsizetype method);
+/// The name of the document method that is nearest to a word; empty when none is near.
+QString methodNear(QStringView word);
 /// What a document is, in half a sentence.
 QLatin1StringView summaryOf(qsizetype method);
 /// All rows.

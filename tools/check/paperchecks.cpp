@@ -28,14 +28,6 @@ bool hasControl(QStringView text)
     return std::ranges::any_of(text, [](QChar c) { return c.unicode() < 0x20; });
 }
 
-/// Without the blanks at its end, which nobody sees.
-qsizetype visibleSize(QStringView text)
-{
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text.size();
-}
-
 /// How much of the beginning of `text`, `most` characters at most, stands in the line.
 qsizetype printedPart(QStringView text, qsizetype most, const QString &line)
 {
@@ -48,16 +40,6 @@ qsizetype printedPart(QStringView text, qsizetype most, const QString &line)
 QString inCharacters(qsizetype count)
 {
     return QString::number(count) + (count == 1 ? " character"_L1 : " characters"_L1);
-}
-
-bool isControl(QChar c)
-{
-    return c.unicode() < 0x20 || (c.unicode() >= 0x7F && c.unicode() < 0xA0);
-}
-
-bool isAscii(QStringView text)
-{
-    return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
 }
 
 /// The first of the characters that `is`; 0 where none is.
@@ -76,60 +58,40 @@ void CheckingDevice::checkValue(int position)
     const QString value = current.atts.value(position);
     const QString name = tools::excerpt(current.atts.qName(position));
     const Range at = places.attribute(position);
-    checkCharacters(value, name, at);
-    if (!isAscii(value))
-        checkEncoding(value, name, at);
-    const AttributeUse *const use = current.row->find(current.atts.qName(position));
-    if (use)
-        checkMeaning(position, *use);
-}
-
-void CheckingDevice::checkCharacters(const QString &value, const QString &name, const Range &at)
-{
-    if (value.contains(u'\n') || value.contains(u'\r')) {
+    const auto *const control = std::ranges::find_if(
+        value, [](QChar c) { return c.category() == QChar::Other_Control; });
+    if (value.contains(u'\n') || value.contains(u'\r'))
         tell("line-feed",
              "a line end in "_L1 + name + ": the printer takes what follows for a command"_L1, at);
-    } else {
-        const auto *const control = std::ranges::find_if(value, isControl);
-        if (control != value.end())
-            tell("control-character",
-                 "the control character "_L1 + tools::excerpt(QString(*control)) + " in "_L1 + name,
-                 at);
-    }
+    else if (control != value.end())
+        tell("control-character",
+             "the control character "_L1 + tools::excerpt(QString(*control)) + " in "_L1 + name,
+             at);
     const bool isFramed = !current.row->find(u"department"); // unlike a fiscal command
     if (isFramed && value.contains("\"@"_L1))
         tell("end-mark", "`\"@` in "_L1 + name + " ends the printed line early"_L1, at);
+    if (std::ranges::any_of(value, [](QChar c) { return c.unicode() >= 0x80; }))
+        checkEncoding(value, name, at);
+    if (const AttributeUse *const use = current.row->find(current.atts.qName(position)))
+        checkMeaning(position, *use);
 }
 
-/// Whether the characters are those that were meant.
+/// Whether the characters are those that were meant, and each is printed, in one column.
 void CheckingDevice::checkEncoding(const QString &value, const QString &name, const Range &at)
 {
-    if (value.contains(QChar::ReplacementCharacter)) {
-        tell("undecodable", name + " has bytes that are not in the encoding of the request"_L1, at);
-        return;
-    }
     const preview::Cells characters = preview::cellsOf(value);
-    const auto isNone = [](char32_t c) { return QChar::isNonCharacter(c); };
-    if (!value.isValidUtf16() || firstOf(characters, isNone)) {
-        tell("no-character", "a reference in "_L1 + name + " is to no character"_L1, at);
-        return;
-    }
-    if (requestCodec) {
-        const QByteArray bytes = requestCodec->fromUnicode(value);
-        if (QUtf8StringView(bytes).isValidUtf8()) {
-            tell("mistaken-encoding",
-                 name + " is "_L1 + tools::excerpt(value)
-                     + " in the encoding that the request names, and text in UTF-8"_L1,
-                 at, QString::fromUtf8(bytes));
-            return;
-        }
-    }
-    checkColumns(value, name, at);
-}
-
-/// Whether every character is printed, and in one column.
-void CheckingDevice::checkColumns(const QString &value, const QString &name, const Range &at)
-{
+    if (value.contains(QChar::ReplacementCharacter))
+        return tell("undecodable",
+                    name + " has bytes that are not in the encoding of the request"_L1, at);
+    if (!value.isValidUtf16()
+        || firstOf(characters, [](char32_t c) { return QChar::isNonCharacter(c); }))
+        return tell("no-character", "a reference in "_L1 + name + " is to no character"_L1, at);
+    const QByteArray bytes = requestCodec ? requestCodec->fromUnicode(value) : QByteArray();
+    if (requestCodec && QUtf8StringView(bytes).isValidUtf8())
+        return tell("mistaken-encoding",
+                    name + " is "_L1 + tools::excerpt(value)
+                        + " in the encoding that the request names, and text in UTF-8"_L1,
+                    at, QString::fromUtf8(bytes));
     QTextCodec *const codec = text::localeCodec(); // null for UTF-8, which has them all
     const auto isUnknown = [codec](char32_t c) {
         return codec && c >= 0x80 && text::encoded(QString::fromUcs4(&c, 1), codec) == "?";
@@ -137,7 +99,6 @@ void CheckingDevice::checkColumns(const QString &value, const QString &name, con
     const auto shifts = [&](char32_t c) {
         return c >= 0xA0 && !preview::fillsOneColumn(c) && !isUnknown(c);
     };
-    const preview::Cells characters = preview::cellsOf(value);
     if (const char32_t c = firstOf(characters, isUnknown))
         tell("not-in-encoding",
              preview::numberOf(c) + " in "_L1 + name + " prints as `?`: it is not in "_L1
@@ -208,7 +169,7 @@ void CheckingDevice::println(unsigned int indent, const QString &text)
 void CheckingDevice::checkLine(const QString &text, qsizetype pad)
 {
     const qsizetype width = settings.paperWidth;
-    const qsizetype size = visibleSize(text);
+    const qsizetype size = tools::beyondEdge(text, 0);
     if (size == 0)
         return;
     if (const qsizetype excess = tools::beyondEdge(text, width); excess > 0) {
@@ -272,8 +233,8 @@ void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
                              ? "the line of "_L1 + tools::excerpt(current.atts.qName(longest))
                              : tools::excerpt(text);
     tell(code,
-         what + " has "_L1 + inCharacters(visibleSize(text)) + ", "_L1 + QString::number(excess)
-             + " more than the paper"_L1,
+         what + " has "_L1 + inCharacters(tools::beyondEdge(text, 0)) + ", "_L1
+             + QString::number(excess) + " more than the paper"_L1,
          isPrinterName ? printer : places.attribute(longest));
 }
 

@@ -20,28 +20,28 @@ namespace {
 QString faultIn(const TagPlaces &places, const CheckingDevice &device)
 {
     using enum TagPlaces::In;
-    const auto *const open = device.openElement();
+    const bool open = !device.openElements().empty();
     const QString inside =
-        open ? u"`%1`, open since line %2,"_s.arg(open->name).arg(open->line) : QString();
+        open ? u"`%1`, open since line %2, is not closed"_s.arg(device.openElements().back().name)
+                   .arg(device.openElements().back().line)
+             : QString();
     const TagPlaces::In in = places.wasIn();
     const QStringView two = places.lastTwo();
-    if (places.fault == "unexpected end of file"_L1) {
-        if (places.isIn() == Quotes)
-            return u"the request ends in a value, whose quote is missing"_s;
-        return open ? "the request ends, and "_L1 + inside + " is not closed"_L1
-                    : u"the request ends without an element"_s;
-    }
+    if (places.fault == "unexpected end of file"_L1)
+        return places.isIn() == Quotes ? u"the request ends in a value, whose quote is missing"_s
+               : open                  ? "the request ends, and "_L1 + inside
+                                       : u"the request ends without an element"_s;
     if (places.fault == "tag mismatch"_L1)
-        return inside + " is not closed before this end tag"_L1;
+        return inside + " before this end tag"_L1;
     if (two.contains(u'&'))
         return u"a bare `&` is written `&amp;`"_s;
     if (places.fault == "error occurred while parsing reference"_L1)
         return u"a reference ends with `;`, and a bare `&` is written `&amp;`"_s;
     if (two.contains(u'<') && (in == Quotes || (open && two.back().isSpace())))
         return u"a bare `<` is written `&lt;`"_s;
-    if (in == Name || in == Value)
+    if (in == Attribute)
         return u"an attribute is a name, `=` and a value in quotes"_s;
-    if (open && in == TagStart)
+    if (open && two.front() == u'<')
         return u"a name begins with a letter"_s;
     if (places.fault == "invalid name for processing instruction"_L1)
         return u"the XML declaration has to stand at the very beginning"_s;
@@ -62,7 +62,7 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
 void tellStop(const TagPlaces &places, const CheckingDevice &device, tools::FindingStore &findings)
 {
     const QString limit = requestreader::exceededLimit(*places.stop);
-    if (places.isEmpty())
+    if (places.last().line == 0)
         return findings.add(finding("xml", u"the request is empty"_s));
     if (limit.isEmpty() && *places.stop != requestreader::Stop::Fault)
         return;
@@ -111,11 +111,6 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
 }
 
 } // namespace
-
-tools::Finding finding(Code code, const QString &text, const Range &at, const QString &suggestion)
-{
-    return {code.severity, code.name, text + tools::didYouMean(suggestion), at, -1, suggestion};
-}
 
 std::vector<tools::Finding> check(QIODevice &request, bool isConfigured)
 {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/check/tagplaces.h"
 #include "tools/command.h"
 #include "tools/finding.h"
+#include "tools/terminal.h"
 
 #include <algorithm>
 #include <span>
@@ -15,7 +15,6 @@ class QIODevice;
 namespace requestcheck {
 
 // What the check finds, each under a name that stays.
-
 /// What stops the print run, or reaches the printer as another command.
 inline constexpr std::string_view errorCodes[] = {"xml",           "limit",
                                                   "no-method",     "unknown-method",
@@ -34,30 +33,19 @@ inline constexpr std::string_view warningCodes[] = {
 inline constexpr std::string_view noteCodes[] = {"no-configuration", "switch-off", "prints-nothing",
                                                  "hidden-item"};
 
-struct CodesOf
-{
-    tools::Severity severity;
-    std::span<const std::string_view> names;
-};
-inline constexpr CodesOf codes[] = {{tools::Severity::Error, errorCodes},
-                                    {tools::Severity::Warning, warningCodes},
-                                    {tools::Severity::Note, noteCodes}};
-
-void noSuchCode(); // is nowhere, and so no part of a constant
+/// By severity.
+inline constexpr std::span<const std::string_view> codes[] = {noteCodes, warningCodes, errorCodes};
 
 /// One of them; any other name does not compile.
-class Code
+struct Code
 {
-public:
     consteval Code(const char *word)
         : name(word)
     {
-        for (const CodesOf &row : codes) {
-            severity = row.severity;
-            if (std::ranges::count(row.names, word) > 0)
-                return;
-        }
-        noSuchCode();
+        int row = 0; // past the last one is no part of a constant
+        while (std::ranges::count(codes[row], word) == 0)
+            ++row;
+        severity = tools::Severity(row);
     }
 
     QLatin1StringView name;
@@ -65,8 +53,11 @@ public:
 };
 
 /// A finding whose text asks whether the suggestion was meant, unless that is empty.
-tools::Finding finding(Code code, const QString &text, const Range &at = {},
-                       const QString &suggestion = {});
+inline tools::Finding finding(Code code, const QString &text, const tools::Range &at = {},
+                              const QString &suggestion = {})
+{
+    return {code.severity, code.name, text + tools::didYouMean(suggestion), at, -1, suggestion};
+}
 
 /// What is wrong with a request, in the order of its text; in constant memory. The request is read
 /// and printed as by the print run, with the process's configuration and translation, but nothing

@@ -7,12 +7,6 @@ namespace requestcheck {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isBlank(QChar c) { return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r'; }
-
-} // namespace
-
 void TagPlaces::taken(QStringView text, bool utf8)
 {
     constexpr qsizetype HeadSize = 256; // characters
@@ -38,58 +32,40 @@ void TagPlaces::stopped(requestreader::Stop why, const QString &word)
 void TagPlaces::step(QChar c)
 {
     if (c == u'<' || (in == In::Text && c == u'&')) {
-        tagPlace = here;
+        tagBegin = here;
         attributes.clear();
-        in = c == u'<' ? In::TagStart : In::Text;
-        return;
-    }
-    switch (in) {
-    case In::Text:
-        break;
-    case In::TagStart:
-        in = c == u'!' || c == u'?' || c == u'/' ? In::Text : In::Tag;
-        break;
-    case In::Tag:
-    case In::Blanks:
-        if (isBlank(c))
+        in = c == u'<' ? In::Name : In::Text;
+    } else if (in == In::Quotes) {
+        if (c != quote)
+            return;
+        in = In::Blanks;
+        if (!attributes.empty() && attributes.back().end.line == 0)
+            attributes.back().end = {here.line, here.column + 1};
+    } else if (in == In::Attribute) {
+        word += c;
+        if (c != u'"' && c != u'\'')
+            return;
+        in = In::Quotes;
+        quote = c;
+        if (word.startsWith("xmlns"_L1) && ":= \t\r\n"_L1.contains(word[5]))
+            attributes.pop_back(); // as the reader takes it out
+    } else if (in != In::Text) {
+        if (c == u' ' || c == u'\n' || c == u'\t' || c == u'\r')
             in = In::Blanks;
-        else if (c == u'>' || c == u'/')
+        else if (c == u'>' || c == u'/' || (two[0] == u'<' && (c == u'!' || c == u'?')))
             in = In::Text;
         else if (in == In::Blanks) {
-            in = In::Name;
-            name = c;
+            in = In::Attribute;
+            word = c;
             attributes.push_back({here, {}});
         }
-        break;
-    case In::Name:
-        if (c != u'=' && !isBlank(c)) {
-            name += c;
-            break;
-        }
-        in = In::Value;                                         // which may be some blanks away
-        if (name == "xmlns"_L1 || name.startsWith("xmlns:"_L1)) // the reader takes these out
-            attributes.pop_back();
-        break;
-    case In::Value:
-        if (c == u'"' || c == u'\'') {
-            in = In::Quotes;
-            quote = c;
-        }
-        break;
-    case In::Quotes:
-        if (c == quote) {
-            in = In::Blanks;
-            if (!attributes.empty() && attributes.back().end.line == 0)
-                attributes.back().end = {here.line, here.column + 1};
-        }
-        break;
     }
 }
 
 Range TagPlaces::attribute(int position) const
 {
     return position >= 0 && size_t(position) < attributes.size() ? attributes[size_t(position)]
-                                                                 : range();
+                                                                 : tag();
 }
 
 } // namespace requestcheck

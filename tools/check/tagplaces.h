@@ -4,10 +4,7 @@
 #include "render/requestreader.h"
 #include "tools/finding.h"
 
-#include <QString>
-
 #include <optional>
-#include <vector>
 
 namespace requestcheck {
 
@@ -21,18 +18,17 @@ public:
     void taken(QStringView text, bool utf8) override;
     void stopped(requestreader::Stop why, const QString &fault) override;
 
-    /// The `<` of the tag that was read last; the `&` where it came from an entity.
-    tools::Place tag() const { return tagPlace; }
-    /// The same, and the place behind the tag.
-    Range range() const { return {tagPlace, here}; }
-    /// The name of its attribute at `position`, declarations of name spaces not counted, and the
-    /// place behind its value; the tag for an attribute that does not stand in it.
+    /// From the `<` of the tag that was read last, the `&` where it came from an entity, to the
+    /// place behind the tag.
+    Range tag() const { return {tagBegin, here}; }
+    /// From the name of its attribute at `position`, declarations of name spaces not counted, to
+    /// the place behind its value; the tag for an attribute that does not stand in it.
     Range attribute(int position) const;
-    /// The character that was taken last.
+    /// The character that was taken last; line 0 before the first.
     tools::Place last() const { return lastPlace; }
 
     /// What the text taken so far ends in, and what it ended in before its last character.
-    enum class In { Text, TagStart, Tag, Blanks, Name, Value, Quotes };
+    enum class In { Text, Name, Blanks, Attribute, Quotes };
     In isIn() const { return in; }
     In wasIn() const { return before; }
     /// The last two characters that were taken.
@@ -40,7 +36,6 @@ public:
     /// The beginning of the request, where its XML declaration stands.
     const QString &head() const { return beginning; }
 
-    bool isEmpty() const { return lastPlace.line == 0; }
     /// Why the reading ended early, if it did, and the reader's word for the fault.
     std::optional<requestreader::Stop> stop;
     QString fault;
@@ -55,9 +50,9 @@ private:
     QString beginning;
     tools::Place here{1, 1};
     tools::Place lastPlace;
-    tools::Place tagPlace;
+    tools::Place tagBegin;
     std::vector<Range> attributes;
-    QString name; // of the attribute that is being read
+    QString word; // the attribute that is being read, up to its value
 };
 
 } // namespace requestcheck

@@ -255,14 +255,9 @@ int run(const tools::Call &call)
     if (line.isSet(u"method"_s)) {
         const QString name = line.value(u"method"_s);
         const DocumentMethod *const chosen = documentMethod(name);
-        if (!chosen) {
-            std::vector<QString> names;
-            names.reserve(documentMethods.size());
-            for (const DocumentMethod &other : documentMethods)
-                names.push_back(other.name);
+        if (!chosen)
             line.wrongUsage("unknown method `"_L1 + name + u'`'
-                            + tools::didYouMean(tools::nearest(name, names)));
-        }
+                            + tools::didYouMean(requestcheck::methodNear(name)));
         method = chosen - documentMethods.data();
     }
     return tools::printBytes(requestSchema(method, line.isSet(u"compact"_s)).toUtf8());
