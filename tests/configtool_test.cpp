@@ -58,10 +58,9 @@ QByteArray outcomeOf(const QByteArray &content, const QString &form)
     told += "== tree\n"_L1 + support::treeOf(content, form);
     told += writtenAs(u"cfg"_s, content, form) + writtenAs(u"xml"_s, content, form);
 
-    const Outline outline = readOutline(content, form);
-    std::vector<Finding> findings = checkSettings(outline);
-    findings.insert(findings.end(), outline.faults.begin(), outline.faults.end());
-    told += "== found\n"_L1 + tools::findingLines(u"file"_s, tools::abridged(findings));
+    told +=
+        "== found\n"_L1
+        + tools::findingLines(u"file"_s, tools::abridged(findingsIn(readOutline(content, form))));
     return told.toUtf8();
 }
 

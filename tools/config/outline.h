@@ -2,11 +2,9 @@
 #pragma once
 
 #include "tools/finding.h"
+#include "tools/terminal.h"
 
-#include <QByteArray>
-#include <QString>
-
-#include <vector>
+#include <string_view>
 
 /// A configuration as a person sees it: every group and setting that the file names, also those
 /// that the store drops, with the place of each.
@@ -16,6 +14,25 @@ using tools::Finding;
 using tools::Place;
 using tools::Range;
 using tools::Severity;
+
+/// The words of a finding with their arguments: names and values as excerpts, bytes likewise (in
+/// ISO 8859-1, without the blanks around them), numbers, and what is plain as it is.
+struct Plain
+{
+    QString text;
+};
+QString shown(std::string_view bytes);
+inline QString shown(const QString &text) { return tools::excerpt(text); }
+inline QString shown(qint64 number) { return QString::number(number); }
+inline QString shown(const Plain &plain) { return plain.text; }
+template <typename... Arguments>
+QString worded(const QString &words, const Arguments &...arguments)
+{
+    if constexpr (sizeof...(arguments) == 0)
+        return words;
+    else
+        return words.arg(shown(arguments)...);
+}
 
 /// Bytes of a file, from one offset to another.
 struct Extent

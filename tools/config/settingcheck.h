@@ -7,12 +7,10 @@
 /// entries of the outline.
 namespace configtool {
 
-/// What is wrong with the settings, whatever the file's form: keys and groups that nothing reads or
-/// no lookup reaches, settings that others override, values that are not what their key wants,
-/// columns that do not fit the paper, a language file that does not exist.
-std::vector<Finding> checkSettings(const Outline &outline);
-
-/// These, and where the file does not say what it seems to say.
+/// Where the file does not say what it seems to say, and what is wrong with its settings: keys and
+/// groups that nothing reads or no lookup reaches, settings that others override, values that are
+/// not what their key wants, columns that do not fit the paper, a language file that does not
+/// exist.
 std::vector<Finding> findingsIn(const Outline &outline);
 
 /// That nothing reads a dotted key, and which key may be meant; empty when something reads it.

@@ -212,7 +212,7 @@ void ConfigEditor::listFindings()
     pause.stop();
     updateHint();
     listed = tree->outlineIn(source.format);
-    std::vector<Finding> found = checkSettings(listed.outline);
+    std::vector<Finding> found = findingsIn(listed.outline);
     for (Finding &loss : lossesInFormat(listed.outline, source.format)) {
         if (loss.code == "lost-group"_L1 || loss.code == "lost-duplicate"_L1)
             continue; // found above
