@@ -135,13 +135,4 @@ std::vector<Finding> lossesInFormat(const Outline &outline, const QString &forma
     return std::move(finder.findings);
 }
 
-bool nestsTooDeep(const Outline &outline)
-{
-    constexpr int Most = 1'000; // levels
-    std::vector<int> levels;
-    for (const Entry &entry : outline.entries)
-        levels.push_back(entry.parent < 0 ? 0 : levels[size_t(entry.parent)] + 1);
-    return std::ranges::any_of(levels, [](int level) { return level > Most; });
-}
-
 } // namespace configtool

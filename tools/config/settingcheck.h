@@ -20,8 +20,4 @@ QString unreadKey(const QString &key);
 /// none means that it reads back the same.
 std::vector<Finding> lossesInFormat(const Outline &outline, const QString &format);
 
-/// Whether groups stand so deep within each other (1,000 levels) that no file is written for them:
-/// every level indents the lines below it, and they would fill the disk with blanks.
-bool nestsTooDeep(const Outline &outline);
-
 } // namespace configtool

@@ -2,11 +2,8 @@
 #include "tools/window/configeditor.h"
 
 #include "config/configviews.h"
-#include "text/standardoutput.h"
-#include "tools/companion.h"
+#include "text/localeencoding.h"
 #include "tools/config/settingcheck.h"
-#include "tools/terminal.h"
-#include "tools/window/paperpane.h"
 #include "tools/window/settingpane.h"
 
 #include <QCloseEvent>
@@ -17,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QStatusBar>
 
+#include <algorithm>
 #include <cerrno>
 #include <unistd.h>
 
@@ -25,19 +23,6 @@ namespace configtool {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int SubjectRole = Qt::UserRole; // of a finding's row: the entry it is about
-
-/// The store of a file, empty until it is read: it need not be there yet.
-class EditedFile : public libconfig::Config
-{
-public:
-    explicit EditedFile(const Source &source)
-    {
-        fileName = source.path;
-        fileType = source.format;
-    }
-};
 
 QByteArray contentOfFile(const QString &path)
 {
@@ -52,10 +37,35 @@ QString whyUnwritable(const QString &path)
     while (!place.exists() && place.path() != place.filePath())
         place.setFile(place.path());
     if (place.filePath() != path && !place.isDir())
-        return qt_error_string(ENOTDIR);
+        return text::systemMessage(ENOTDIR);
     return access(QFile::encodeName(place.filePath()).constData(), W_OK) == 0
                ? QString()
-               : qt_error_string(errno);
+               : text::systemMessage(errno);
+}
+
+/// Whether groups stand so deep within each other that the toolkit, which goes down and up again
+/// for each of them, would take too long.
+bool nestsTooDeep(const Outline &outline)
+{
+    constexpr int Most = 1'000; // levels
+    std::vector<int> levels;
+    for (const Entry &entry : outline.entries)
+        levels.push_back(entry.parent < 0 ? 0 : levels[size_t(entry.parent)] + 1);
+    return std::ranges::any_of(levels, [](int level) { return level > Most; });
+}
+
+std::pair<qint64, qint64> placeOf(const auto &found)
+{
+    return {found.at.begin.line, found.at.begin.column};
+}
+
+/// The item in the tree below `file` that stands for an entry; null where the store has dropped it.
+QTreeWidgetItem *itemOf(const Outline &outline, qsizetype index, QTreeWidgetItem *file)
+{
+    const Entry &entry = outline.entries[size_t(index)];
+    return index <= 0 ? file
+                      : ConfigTree::childOf(itemOf(outline, entry.parent, file),
+                                            entry.kind == Entry::Kind::Group, entry.name);
 }
 
 QString listOf(const std::vector<Finding> &findings)
@@ -93,20 +103,25 @@ bool ConfigEditor::open(const Source &file)
     if (nestsTooDeep(outline))
         return refuse(trouble, tr("Its groups stand too deep within each other."));
     written = content;
-    fileFaults = std::move(outline.faults);
     fileLosses = std::move(outline.losses);
-    EditedFile stored(file);
-    if (info.exists())
-        stored.readFile(file.path, file.format);
-    const std::unique_ptr<QTreeWidget> view(stored.newConfigListView());
+    configuration.readContent(content, file.path, file.format);
+    const std::unique_ptr<QTreeWidget> view(configuration.newConfigListView());
     std::unique_ptr<QTreeWidgetItem> item(view->takeTopLevelItem(0));
     if (!item) {
         item.reset(libconfig::newGroupItem(file.path));
         item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     }
+    fileFaults.clear();
+    for (Finding &fault : outline.faults) { // each stands in or behind what it is about
+        const auto next =
+            std::ranges::upper_bound(outline.entries, placeOf(fault), {}, placeOf<Entry>);
+        const qsizetype index = next - outline.entries.begin() - 1;
+        fileFaults.push_back({std::move(fault), itemOf(outline, index, item.get())});
+    }
     tree->take(std::move(item));
     nameFile(file);
     listFindings();
+    drawing.start();
     tree->setFocus();
     return true;
 }
@@ -147,14 +162,16 @@ void ConfigEditor::chooseRequest()
 
 bool ConfigEditor::saveTo(const Source &target)
 {
-    tree->finishTyping();
     if (!confirmSaving(target))
         return false;
+    configuration.take(*tree);
+    const std::optional<QByteArray> content = configuration.writtenAs(target.format);
     QDir().mkpath(QFileInfo(target.path).path());
-    const text::LineSink quiet(text::LineSink::drop); // the box tells
-    if (!EditedFile(target).loadListView(tree))
-        return refuse(tr("%1 could not be written.").arg(target.path), whyUnwritable(target.path));
-    written = contentOfFile(target.path);
+    const QString fault =
+        content ? libconfig::replaceFile(target.path, *content) : text::systemMessage(EFBIG);
+    if (!fault.isEmpty())
+        return refuse(tr("%1 could not be written.").arg(target.path), fault);
+    written = *content;
     fileFaults.clear();
     fileLosses.clear();
     tree->changes.setClean();
@@ -175,8 +192,8 @@ bool ConfigEditor::confirmSaving(const Source &target)
                != QMessageBox::Save)
         return false;
     std::vector<Finding> lost = fileLosses;
-    for (Finding &loss : lossesInFormat(tree->outlineIn(target.format).outline, target.format))
-        lost.push_back(std::move(loss));
+    std::ranges::move(lossesInFormat(tree->outlineIn(target.format).outline, target.format),
+                      std::back_inserter(lost));
     return lost.empty()
            || ask(tr("The file that is written will lack something:"), listOf(lost), Choice)
                   == QMessageBox::Save;
@@ -185,7 +202,6 @@ bool ConfigEditor::confirmSaving(const Source &target)
 /// Whether the present file may be left, saved or not.
 bool ConfigEditor::confirmLeaving()
 {
-    tree->finishTyping();
     if (tree->changes.isClean())
         return true;
     const auto answer =
@@ -199,10 +215,8 @@ void ConfigEditor::closeEvent(QCloseEvent *event)
     event->setAccepted(!tree->fileItem() || confirmLeaving());
 }
 
-/// The tree is not what the findings are about any more.
 void ConfigEditor::treeChanged()
 {
-    listed = {};
     pause.start();
     drawing.start();
 }
@@ -211,7 +225,7 @@ void ConfigEditor::listFindings()
 {
     pause.stop();
     updateHint();
-    listed = tree->outlineIn(source.format);
+    const TreeOutline listed = tree->outlineIn(source.format);
     std::vector<Finding> found = findingsIn(listed.outline);
     for (Finding &loss : lossesInFormat(listed.outline, source.format)) {
         if (loss.code == "lost-group"_L1 || loss.code == "lost-duplicate"_L1)
@@ -224,85 +238,40 @@ void ConfigEditor::listFindings()
     const size_t count = fileFaults.size() + found.size();
     const QSignalBlocker silence(findings);
     findings->clear();
-    const auto list = [this](const QString &text, const Finding &finding) {
-        const auto icon = finding.severity == tools::Severity::Error ? QStyle::SP_MessageBoxCritical
-                                                                     : QStyle::SP_MessageBoxWarning;
-        auto *const row = new QListWidgetItem(style()->standardIcon(icon), text, findings);
-        row->setData(SubjectRole, finding.subject);
+    subjects.clear();
+    const auto list = [this](const QString &text, Severity severity, QTreeWidgetItem *subject) {
+        const auto icon = severity == Severity::Error ? QStyle::SP_MessageBoxCritical
+                                                      : QStyle::SP_MessageBoxWarning;
+        new QListWidgetItem(style()->standardIcon(icon), text, findings);
+        subjects.push_back(subject);
     };
-    for (const Finding &fault : fileFaults)
-        list(tr("In the file, line %1: %2").arg(fault.at.begin.line).arg(fault.text), fault);
+    for (const auto &[fault, item] : fileFaults)
+        list(tr("In the file, line %1: %2").arg(fault.at.begin.line).arg(fault.text),
+             fault.severity, item);
     for (const Finding &finding : tools::abridged(std::move(found)))
-        list(finding.text, finding);
+        list(finding.text, finding.severity,
+             finding.subject < 0 ? nullptr : listed.items[size_t(finding.subject)]);
     findingsTitle->setText(count == 0 ? tr("Nothing wrong") : tr("Findings: %1").arg(count));
-    tree->showMatching(listed, searchLine->text());
+    tree->showMatching(searchLine->text());
 }
 
 /// Goes to the item that a finding is about.
 void ConfigEditor::showFinding(int row)
 {
-    if (listed.items.empty())
+    if (pause.isActive()) // the items may not be there any more
         listFindings();
-    const QListWidgetItem *const finding = findings->item(row);
-    const qsizetype subject = finding ? finding->data(SubjectRole).toLongLong() : -1;
-    if (subject >= 0 && subject < qsizetype(listed.items.size()))
-        tree->showItem(listed.items[size_t(subject)]);
+    if (row < 0 || row >= int(subjects.size()))
+        return;
+    QTreeWidgetItem *const item = subjects[size_t(row)];
+    if (item && item->treeWidget())
+        tree->showItem(item);
 }
 
 void ConfigEditor::currentChanged()
 {
-    ++session;
-    showSetting();
+    setting->showCurrent();
     if (const QTreeWidgetItem *const item = tree->currentItem())
         paper->follow(libconfig::isGroupItem(*item) ? item->text(0) : item->parent()->text(0));
-}
-
-/// Shows the current item's value and what it is for.
-void ConfigEditor::showSetting()
-{
-    const QTreeWidgetItem *const item = tree->currentItem();
-    if (!item)
-        return;
-    QString group;
-    for (const QTreeWidgetItem *above = item->parent(); above && above->parent();
-         above = above->parent())
-        group.prepend(above->text(0) + u'.');
-    if (libconfig::isGroupItem(*item))
-        return setting->showGroup(group + item->text(0));
-    const auto [key, value] = libconfig::settingOf(item->text(0));
-    setting->show(group + key, tree->settingOf(item), value);
-}
-
-/// Gives the current setting the value that the person gives it.
-void ConfigEditor::edit(const QString &value)
-{
-    QTreeWidgetItem *const item = tree->currentItem();
-    if (!SettingPane::isLanguage(tree->settingOf(item)))
-        return tree->setValue(item, value, session);
-    tree->changes.beginMacro({});
-    tree->give(item->parent(), u"basedir"_s, value.isEmpty() ? QString() : labelsFolder());
-    tree->setValue(item, value);
-    tree->changes.endMacro();
-}
-
-/// The folder of the labels' translations: that of the settings, or the suite's own.
-QString ConfigEditor::labelsFolder() const
-{
-    const QTreeWidgetItem *const group = tree->groupOf(u"language"_s);
-    const QTreeWidgetItem *const item =
-        group ? ConfigTree::settingIn(*group, u"basedir"_s) : nullptr;
-    const QString folder = item ? libconfig::settingOf(item->text(0)).second : QString();
-    const bool isUsed = !folder.isEmpty() && !QDir(folder, u"*.qm"_s).isEmpty();
-    return isUsed ? folder : tools::translationsFolder();
-}
-
-QStringList ConfigEditor::languages() const
-{
-    const QString folder = labelsFolder();
-    QStringList values{QString(), u"/"_s};
-    for (const QString &file : QDir(folder).entryList({u"*.qm"_s}))
-        values.append((folder.endsWith(u'/') ? u""_s : u"/"_s) + file.chopped(3));
-    return values;
 }
 
 void ConfigEditor::updateHint()

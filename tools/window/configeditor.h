@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "config/config.h"
 #include "tools/config/configcommand.h"
-#include "tools/window/configtree.h"
+#include "tools/window/paperpane.h"
 
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QTimer>
 
 #include <functional>
-#include <memory>
 
 class QLabel;
 class QLineEdit;
@@ -18,7 +16,6 @@ class QListWidget;
 
 namespace configtool {
 
-class PaperPane;
 class SettingPane;
 
 /// The window in which a configuration is edited: its tree with a search field above it, what the
@@ -53,12 +50,15 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// What is wrong with the file as it was read, and the item that it is about, if any.
+    struct FileFault
+    {
+        Finding finding;
+        QTreeWidgetItem *item;
+    };
+
     void buildWindow();
-    void buildFileMenu();
-    void buildEditMenu();
-    void buildPaperMenu();
-    QAction *addEntry(QMenu *menu, const QString &text, QStyle::StandardPixmap icon,
-                      const QKeySequence &shortcut, const std::function<void()> &run);
+    void buildMenus();
 
     bool refuse(const QString &text, const QString &details);
     void chooseFile();
@@ -67,20 +67,16 @@ private:
     bool confirmLeaving();
     bool confirmSaving(const Source &target);
     void nameFile(const Source &file);
-
     void treeChanged();
     void currentChanged();
-    void showSetting();
-    void edit(const QString &value);
-    QString labelsFolder() const;
-    QStringList languages() const;
     void showFinding(int row);
     void updateHint();
 
     Source source;
-    QByteArray written;              ///< the file's content as it was last read or written
-    std::vector<Finding> fileFaults; ///< of the file as it was read
-    std::vector<Finding> fileLosses; ///< what reading it lost
+    QByteArray written; ///< the file's content as it was last read or written
+    std::vector<FileFault> fileFaults;
+    std::vector<Finding> fileLosses; ///< what reading the file lost
+    UnsavedConfiguration configuration;
 
     QLineEdit *const searchLine;
     ConfigTree *const tree;
@@ -90,10 +86,9 @@ private:
     QLabel *const findingsTitle;
     QListWidget *const findings;
 
-    int session = 0;    ///< counts the settings that have been shown
-    TreeOutline listed; ///< what the findings are about; empty when it has changed since
-    QTimer pause;       ///< after a change, before the findings are listed
-    QTimer drawing;     ///< draws the paper when all of a change is there
+    std::vector<QTreeWidgetItem *> subjects; ///< what the findings' rows are about; null: the file
+    QTimer pause;                            ///< after a change, before the findings are listed
+    QTimer drawing;                          ///< draws the paper when all of a change is there
     Ask ask;
 };
 

@@ -7,7 +7,6 @@
 #include <QCompleter>
 #include <QHash>
 #include <QLineEdit>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyledItemDelegate>
 
@@ -36,102 +35,146 @@ QStringList proposals(const QTreeWidgetItem &item)
     return texts;
 }
 
-Entry entryOf(const QTreeWidgetItem &item, qsizetype parent)
+QString nameOf(const QTreeWidgetItem &item)
 {
-    if (libconfig::isGroupItem(item))
-        return {Entry::Kind::Group, parent, item.text(0), {}, {}, {}, item.childCount() > 0, false};
-    const auto [key, value] = libconfig::settingOf(item.text(0));
-    return {Entry::Kind::Setting, parent, key, value, {}, {}, false, false};
-}
-
-/// Whether each entry is shown for a search.
-std::vector<bool> matching(const Outline &outline, const QString &text)
-{
-    const size_t count = outline.entries.size();
-    std::vector<bool> within(count); // it or a group above it matches
-    std::vector<bool> shown(count);
-    for (size_t i = 0; i < count; ++i) {
-        const qsizetype parent = outline.entries[i].parent;
-        within[i] = text.isEmpty() || (parent >= 0 && within[size_t(parent)])
-                    || outline.pathOf(qsizetype(i)).contains(text, Qt::CaseInsensitive);
-    }
-    for (size_t i = count; i-- > 0;) {
-        shown[i] = shown[i] || within[i];
-        if (const qsizetype parent = outline.entries[i].parent; shown[i] && parent >= 0)
-            shown[size_t(parent)] = true;
-    }
-    return shown;
+    return libconfig::isGroupItem(item) ? item.text(0) : libconfig::settingOf(item.text(0)).first;
 }
 
 } // namespace
+
+/// Items that join the tree, leave it or get another text, undone and done again as one.
+class ConfigTree::Change : public QUndoCommand
+{
+public:
+    /// What is done in one `session`, -1 meaning none, is about one item. `shown` becomes the
+    /// current item with the change; null means the one that changes.
+    explicit Change(ConfigTree &tree, int session = -1, QTreeWidgetItem *shown = nullptr)
+        : session(session)
+        , tree(tree)
+        , shown(shown)
+    {
+    }
+    void setText(QTreeWidgetItem *item, const QString &text) { steps.push_back({item, text}); }
+    void add(QTreeWidgetItem *item, QTreeWidgetItem *parent, int index)
+    {
+        steps.push_back({item, {}, parent, index, std::unique_ptr<QTreeWidgetItem>(item)});
+    }
+    void remove(QTreeWidgetItem *item) { steps.push_back({item, {}, item->parent()}); }
+    bool isEmpty() const { return steps.empty(); }
+
+    void redo() override { exchange(); }
+    void undo() override
+    {
+        exchange();
+        setObsolete(tree.isForgetting);
+    }
+    int id() const override { return session; }
+    bool mergeWith(const QUndoCommand *) override
+    {
+        const Step &only = steps.front();
+        setObsolete(!only.parent && only.item->text(0) == only.other);
+        return true;
+    }
+
+    int session;
+
+private:
+    struct Step
+    {
+        QTreeWidgetItem *item;
+        QString other;                     // the text that it does not have now
+        QTreeWidgetItem *parent = nullptr; // of one that joins the tree or leaves it
+        int index = 0;
+        std::unique_ptr<QTreeWidgetItem> outside = {}; // `item`, while the tree does not have it
+    };
+
+    void exchange()
+    {
+        const Step &first = steps.front();
+        // Or the view would go from item to item as they leave, and lay itself out each time.
+        if (!shown && first.parent)
+            tree.setCurrentItem(first.parent);
+        for (Step &step : steps) {
+            if (!step.parent) {
+                const QString present = step.item->text(0);
+                step.item->setText(0, std::exchange(step.other, present));
+            } else if (step.outside) {
+                step.parent->insertChild(step.index, step.outside.release());
+            } else {
+                step.index = step.parent->indexOfChild(step.item);
+                step.outside.reset(step.parent->takeChild(step.index));
+            }
+        }
+        std::ranges::reverse(steps); // the other way round next time
+        tree.showItem(shown ? shown : first.outside ? first.parent : first.item);
+    }
+
+    ConfigTree &tree;
+    QTreeWidgetItem *const shown;
+    std::vector<Step> steps;
+};
 
 /// Has an item's text typed in place, with the key words of its group to choose from.
 class ConfigTree::Delegate : public QStyledItemDelegate
 {
 public:
-    explicit Delegate(ConfigTree *tree)
-        : QStyledItemDelegate(tree)
+    explicit Delegate(ConfigTree &tree)
+        : QStyledItemDelegate(&tree)
         , tree(tree)
     {
     }
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
                           const QModelIndex &index) const override
     {
-        QTreeWidgetItem *const item = tree->itemFromIndex(index);
-        tree->typed = item;
-        tree->before = item->text(0);
-        auto *const line = new QLineEdit(parent);
+        QTreeWidgetItem *const item = tree.itemFromIndex(index);
+        tree.typed = item;
+        tree.before = item->text(0);
+        ++tree.session;
+        auto *const line = new QLineEdit(tree.before, parent);
         auto *const completer = new QCompleter(proposals(*item), line);
         completer->setCaseSensitivity(Qt::CaseInsensitive);
         completer->setFilterMode(Qt::MatchContains);
         line->setCompleter(completer);
-        connect(line, &QLineEdit::textChanged, tree, [this](const QString &text) {
-            if (tree->typed)
-                tree->typed->setText(0, text);
+        connect(line, &QLineEdit::textChanged, &tree, [this, item](const QString &text) {
+            if (tree.typed == item)
+                tree.setText(item, text);
         });
+        // Mostly the value changes; the view selects all before.
+        if (const qsizetype equals = tree.before.indexOf(" = "_L1); equals > 0)
+            QMetaObject::invokeMethod(
+                line,
+                [line, begin = int(equals) + 3] { line->setSelection(begin, line->maxLength()); },
+                Qt::QueuedConnection);
         return line;
     }
     void setEditorData(QWidget *editor, const QModelIndex &index) const override
     {
         auto *const line = qobject_cast<QLineEdit *>(editor);
-        const QString text = index.data().toString();
-        if (line->text() == text)
-            return;
-        line->setText(text);
-        const qsizetype equals = text.indexOf(" = "_L1);
-        if (equals > 0) // mostly the value changes; the view selects all before
-            QMetaObject::invokeMethod(
-                line,
-                [line, begin = int(equals) + 3] { line->setSelection(begin, line->maxLength()); },
-                Qt::QueuedConnection);
+        if (const QString text = index.data().toString(); line->text() != text)
+            line->setText(text);
     }
 
 private:
-    ConfigTree *const tree;
+    ConfigTree &tree;
 };
 
 ConfigTree::ConfigTree()
 {
     setHeaderHidden(true);
-    setItemDelegate(new Delegate(this));
+    setItemDelegate(new Delegate(*this));
     setSelectionMode(ExtendedSelection);
     setUniformRowHeights(true);
     setEditTriggers(DoubleClicked | EditKeyPressed | SelectedClicked);
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    const auto tell = [this] {
-        shade({});
-        changed();
-    };
-    connect(this, &QTreeWidget::itemChanged, this, tell);
-    connect(model(), &QAbstractItemModel::rowsInserted, this, tell);
-    connect(model(), &QAbstractItemModel::rowsRemoved, this, tell);
+    connect(&changes, &QUndoStack::indexChanged, this, [this] { shade({}); });
+    connect(this, &QTreeWidget::currentItemChanged, this, [this] { ++session; });
 }
 
 void ConfigTree::take(std::unique_ptr<QTreeWidgetItem> file)
 {
-    changes.clear();
     shaded.clear();
     typed = nullptr;
+    changes.clear();
     clear();
     addTopLevelItem(file.release());
     expandToDepth(1);
@@ -147,7 +190,15 @@ TreeOutline ConfigTree::outlineIn(const QString &format) const
         const auto [item, parent] = pending.back();
         pending.pop_back();
         const auto index = qsizetype(result.items.size());
-        result.outline.entries.push_back(entryOf(*item, parent));
+        const bool isGroup = libconfig::isGroupItem(*item);
+        result.outline.entries.push_back(
+            {isGroup ? Entry::Kind::Group : Entry::Kind::Setting,
+             parent,
+             nameOf(*item),
+             isGroup ? QString() : libconfig::settingOf(item->text(0)).second,
+             {},
+             {},
+             item->childCount() > 0});
         result.items.push_back(item);
         for (int i = item->childCount() - 1; i >= 0; --i)
             pending.emplace_back(item->child(i), index);
@@ -157,32 +208,138 @@ TreeOutline ConfigTree::outlineIn(const QString &format) const
 
 const Setting *ConfigTree::settingOf(const QTreeWidgetItem *item) const
 {
-    const QTreeWidgetItem *const group = item ? item->parent() : nullptr;
-    if (!group || group == fileItem() || group->parent()->parent() != fileItem()
-        || libconfig::isGroupItem(*item))
-        return nullptr;
-    return tools::findSetting(group->text(0), libconfig::settingOf(item->text(0)).first);
+    return item && !libconfig::isGroupItem(*item) && groups().contains(item->parent())
+               ? tools::findSetting(item->parent()->text(0), nameOf(*item))
+               : nullptr;
 }
 
-QTreeWidgetItem *ConfigTree::settingIn(const QTreeWidgetItem &group, const QString &key)
+QString ConfigTree::keyOf(const QTreeWidgetItem *item) const
 {
-    for (int i = 0; i < group.childCount(); ++i) {
-        QTreeWidgetItem *const item = group.child(i);
-        if (!libconfig::isGroupItem(*item) && libconfig::settingOf(item->text(0)).first == key)
-            return item;
+    QString key = nameOf(*item);
+    for (const QTreeWidgetItem *above = item->parent(); above && above != fileItem();
+         above = above->parent())
+        key.prepend(above->text(0) + u'.');
+    return key;
+}
+
+QTreeWidgetItem *ConfigTree::childOf(const QTreeWidgetItem *group, bool isGroup,
+                                     const QString &name)
+{
+    QTreeWidgetItem *found = nullptr;
+    for (int i = 0; group && i < group->childCount() && !(found && isGroup); ++i) {
+        QTreeWidgetItem *const item = group->child(i);
+        if (libconfig::isGroupItem(*item) == isGroup && nameOf(*item) == name)
+            found = item;
     }
-    return nullptr;
+    return found;
 }
 
-QTreeWidgetItem *ConfigTree::groupOf(const QString &name) const
+QList<QTreeWidgetItem *> ConfigTree::groups() const
 {
-    const QTreeWidgetItem *const product = fileItem()->child(0);
+    QList<QTreeWidgetItem *> found;
+    const QTreeWidgetItem *const product = childOf(fileItem(), true, tools::ProductGroup);
     for (int i = 0; product && i < product->childCount(); ++i) {
-        QTreeWidgetItem *const item = product->child(i);
-        if (libconfig::isGroupItem(*item) && item->text(0) == name)
-            return item;
+        if (libconfig::isGroupItem(*product->child(i)))
+            found.append(product->child(i));
     }
-    return nullptr;
+    return found;
+}
+
+void ConfigTree::add(QTreeWidgetItem *item)
+{
+    finishTyping();
+    QTreeWidgetItem *group = currentItem() ? currentItem() : fileItem();
+    if (!libconfig::isGroupItem(*group))
+        group = group->parent();
+    int index = group->indexOfChild(currentItem()) + 1; // behind the current setting
+    if (libconfig::isGroupItem(*item))
+        index = group->childCount();
+    else if (index == 0) // or behind the last one: groups come after settings
+        while (index < group->childCount() && !libconfig::isGroupItem(*group->child(index)))
+            ++index;
+    auto *const added = new Change(*this);
+    added->add(item, group, index);
+    changes.push(added);
+    editItem(item);
+    added->session = session; // what is typed is a part of it
+}
+
+void ConfigTree::setText(QTreeWidgetItem *item, const QString &text)
+{
+    if (item->text(0) == text)
+        return;
+    auto *const change = new Change(*this, session);
+    change->setText(item, text);
+    changes.push(change);
+}
+
+void ConfigTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const QTreeWidgetItem *const item = std::exchange(typed, nullptr);
+    const int ended = session++;
+    const bool goes =
+        item && (hint == QAbstractItemDelegate::RevertModelCache || item->text(0) == before);
+    QTreeWidget::closeEditor(editor, hint);
+    const QUndoCommand *const last = changes.command(changes.index() - 1);
+    if (!goes || !last || last->id() != ended)
+        return;
+    isForgetting = true;
+    changes.undo();
+    isForgetting = false;
+}
+
+void ConfigTree::finishTyping()
+{
+    if (QWidget *const line = typed ? indexWidget(indexFromItem(typed)) : nullptr)
+        closeEditor(line, QAbstractItemDelegate::NoHint);
+}
+
+void ConfigTree::removeSelected()
+{
+    finishTyping();
+    auto removal = std::make_unique<Change>(*this);
+    for (QTreeWidgetItem *const item : selectedItems()) {
+        const QTreeWidgetItem *above = item->parent();
+        while (above && !above->isSelected())
+            above = above->parent();
+        if (item != fileItem() && !above) // with which it would go
+            removal->remove(item);
+    }
+    if (!removal->isEmpty())
+        changes.push(removal.release());
+}
+
+void ConfigTree::setValue(QTreeWidgetItem *item, const QString &value)
+{
+    setText(item, libconfig::settingText(nameOf(*item), value));
+}
+
+void ConfigTree::setValues(const std::vector<Value> &values)
+{
+    auto change = std::make_unique<Change>(*this, -1, currentItem());
+    for (const auto &[group, key, value] : values) {
+        QTreeWidgetItem *const present = childOf(group, false, key);
+        if (!present)
+            change->add(libconfig::newSettingItem(key, value), group, 0);
+        else if (libconfig::settingOf(present->text(0)).second != value)
+            change->setText(present, libconfig::settingText(key, value));
+    }
+    if (!change->isEmpty())
+        changes.push(change.release());
+}
+
+void ConfigTree::setEverywhere()
+{
+    const Setting *const setting = settingOf(currentItem());
+    if (!setting || !setting->group.isEmpty())
+        return;
+    const auto [key, value] = libconfig::settingOf(currentItem()->text(0));
+    std::vector<Value> values;
+    for (QTreeWidgetItem *const group : groups()) {
+        if (tools::isDocumentGroup(group->text(0)) && tools::findSetting(group->text(0), key))
+            values.push_back({group, key, value});
+    }
+    setValues(values);
 }
 
 void ConfigTree::showItem(QTreeWidgetItem *item)
@@ -193,16 +350,22 @@ void ConfigTree::showItem(QTreeWidgetItem *item)
     scrollToItem(item);
 }
 
-void ConfigTree::showMatching(const TreeOutline &outline, const QString &text)
+/// Shows what matches in and below an item; answers whether something does.
+bool ConfigTree::showWhere(QTreeWidgetItem *item, const QString &key, const QString &text,
+                           bool isWithin)
 {
-    const std::vector<bool> shown = matching(outline.outline, text);
-    for (size_t i = 0; i < shown.size(); ++i) {
-        QTreeWidgetItem *const item = outline.items[i];
-        if (item->isHidden() == shown[i])
-            item->setHidden(!shown[i] && i > 0);
-        if (shown[i] && !text.isEmpty() && item->childCount() > 0)
-            item->setExpanded(true);
+    isWithin = isWithin || key.contains(text, Qt::CaseInsensitive);
+    bool isShown = isWithin;
+    for (int i = 0; i < item->childCount(); ++i) {
+        const QString name = nameOf(*item->child(i));
+        isShown |=
+            showWhere(item->child(i), key.isEmpty() ? name : key + u'.' + name, text, isWithin);
     }
+    if (item->isHidden() == isShown)
+        item->setHidden(!isShown && item != fileItem());
+    if (isShown && !text.isEmpty() && item->childCount() > 0)
+        item->setExpanded(true);
+    return isShown;
 }
 
 void ConfigTree::mark(const TreeOutline &outline, const std::vector<Finding> &findings)
@@ -212,11 +375,9 @@ void ConfigTree::mark(const TreeOutline &outline, const std::vector<Finding> &fi
         tools::Severity &severity = marks[outline.items[size_t(finding.subject)]];
         severity = std::max(severity, finding.severity);
     }
-    const QSignalBlocker silence(this);
     for (QTreeWidgetItem *const item : outline.items) {
         const auto found = marks.constFind(item);
-        const bool isPresent = found != marks.constEnd();
-        if (isPresent)
+        if (found != marks.constEnd())
             item->setIcon(0, style()->standardIcon(*found == tools::Severity::Error
                                                        ? QStyle::SP_MessageBoxCritical
                                                        : QStyle::SP_MessageBoxWarning));
@@ -227,7 +388,6 @@ void ConfigTree::mark(const TreeOutline &outline, const std::vector<Finding> &fi
 
 void ConfigTree::shade(const QList<QTreeWidgetItem *> &items)
 {
-    const QSignalBlocker silence(this);
     for (QTreeWidgetItem *const item : std::as_const(shaded))
         item->setBackground(0, {});
     for (QTreeWidgetItem *const item : items)

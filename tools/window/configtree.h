@@ -7,7 +7,6 @@
 #include <QTreeWidget>
 #include <QUndoStack>
 
-#include <functional>
 #include <memory>
 
 namespace configtool {
@@ -19,12 +18,23 @@ struct TreeOutline
     std::vector<QTreeWidgetItem *> items; ///< borrowed from the tree
 };
 
-/// The tree of a configuration, in which every change can be undone. An item's text is what is
-/// being typed for it, too, and becomes its old one again where that is not entered.
+/// The tree of a configuration, in which every change can be undone, and is one as soon as it is
+/// typed.
 class ConfigTree : public QTreeWidget
 {
 public:
+    /// What a group's setting is to be.
+    struct Value
+    {
+        QTreeWidgetItem *group;
+        QString key;
+        QString value;
+    };
+
     ConfigTree();
+    Q_DISABLE_COPY_MOVE(ConfigTree)
+    /// Nobody hears of the changes that end with it.
+    ~ConfigTree() override { changes.blockSignals(true); }
 
     /// Shows another file; what was done before cannot be undone any more.
     void take(std::unique_ptr<QTreeWidgetItem> file);
@@ -33,54 +43,56 @@ public:
     TreeOutline outlineIn(const QString &format) const;
     /// The setting that the item is; null for a group, and for a key that nothing reads.
     const Setting *settingOf(const QTreeWidgetItem *item) const;
-    /// The first setting of the name in a group; null where there is none.
-    static QTreeWidgetItem *settingIn(const QTreeWidgetItem &group, const QString &key);
-    /// The first group `zentaro.NAME`; null where there is none.
-    QTreeWidgetItem *groupOf(const QString &name) const;
+    /// The dotted key of a group or a setting.
+    QString keyOf(const QTreeWidgetItem *item) const;
+    /// The item of a name in a group: the first group, or of settings the last, which counts. Null
+    /// where there is none, and in no group.
+    static QTreeWidgetItem *childOf(const QTreeWidgetItem *group, bool isGroup,
+                                    const QString &name);
+    /// The groups `zentaro.NAME`.
+    QList<QTreeWidgetItem *> groups() const;
 
-    /// Enters what is being typed; the other edits do so first.
+    /// Closes the line in which an item is typed.
     void finishTyping();
-    /// Adds a setting or a group to the current group, and begins to type its text.
-    void addSetting();
-    void addGroup();
+    /// Adds a new setting or group, which it owns then, to the current group, and begins to type
+    /// its text. It goes again where nothing is entered.
+    void add(QTreeWidgetItem *item);
     void removeSelected();
-    /// Gives a setting another value. Changes of one `session` other than 0 are undone as one.
-    void setValue(QTreeWidgetItem *item, const QString &value, int session = 0);
-    /// Gives a group's setting a value, and the group the setting where it has none; shows neither.
-    void give(QTreeWidgetItem *group, const QString &key, const QString &value);
+    /// Gives a setting another value; undone as one with the others that it gets while it is the
+    /// current one.
+    void setValue(QTreeWidgetItem *item, const QString &value);
+    /// Gives groups' settings values, and groups the settings that they miss.
+    void setValues(const std::vector<Value> &values);
     /// Gives the current setting's value to every document of the file, and the setting to those
     /// that miss it.
     void setEverywhere();
-    /// Turns the current setting from true to false or the other way.
-    void toggleSwitch();
 
     /// Makes the item the current one, and visible.
     void showItem(QTreeWidgetItem *item);
     /// Shows only the items whose dotted key contains the text, in any letter case, with everything
     /// below them and the groups above them; all for an empty text.
-    void showMatching(const TreeOutline &outline, const QString &text);
+    void showMatching(const QString &text) { showWhere(fileItem(), {}, text, false); }
     /// Marks what has something wrong with it.
     void mark(const TreeOutline &outline, const std::vector<Finding> &findings);
-    /// Shades these items, and no others.
+    /// Shades these items, and no others, until the next change.
     void shade(const QList<QTreeWidgetItem *> &items);
 
-    /// Told of every change, also while it is typed.
-    std::function<void()> changed = [] {};
     QUndoStack changes;
 
 protected:
-    void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
+    class Change;
     class Delegate;
 
-    QTreeWidgetItem *currentGroup() const;
-    void addAndEdit(QTreeWidgetItem *item, int index);
+    void setText(QTreeWidgetItem *item, const QString &text);
+    bool showWhere(QTreeWidgetItem *item, const QString &key, const QString &text, bool isWithin);
 
     QTreeWidgetItem *typed = nullptr; ///< the item whose text is being typed
     QString before;                   ///< its text
-    bool isNew = false;               ///< it goes again where nothing is entered
+    int session = 0;                  ///< of changes that are undone as one
+    bool isForgetting = false;        ///< what is undone cannot be done again
     QList<QTreeWidgetItem *> shaded;
 };
 

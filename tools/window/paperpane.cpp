@@ -16,8 +16,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
+#include <QPainter>
 #include <QScrollArea>
-#include <QSignalBlocker>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -28,17 +28,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto SamplesFolder = ":/samples/"_L1;
-
-/// The group of the settings that a document method prints with; empty for an unknown method.
-QString groupOfMethod(QStringView name)
+/// The group of the settings that a document method prints with; empty for none.
+QString groupOf(const DocumentMethod *method)
 {
-    const DocumentMethod *const method = documentMethod(name);
-    for (const DocumentType &type : documentTypes) {
-        if (method && type.name == method->settingsType)
-            return QString(type.keyPrefix).section(u'.', 1, 1);
-    }
-    return {};
+    const auto *const type = std::ranges::find_if(documentTypes, [method](const auto &row) {
+        return method && row.name == method->settingsType;
+    });
+    return type == std::end(documentTypes) ? QString()
+                                           : QString(type->keyPrefix).section(u'.', 1, 1);
 }
 
 /// The groups whose settings a request is printed with.
@@ -48,7 +45,7 @@ QStringList groupsOfRequest(const QByteArray &request)
     QXmlStreamReader reader(request);
     while (!reader.atEnd()) {
         if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element::method)
-            groups.append(groupOfMethod(reader.attributes().value(u"name"_s)));
+            groups.append(groupOf(documentMethod(reader.attributes().value(u"name"_s))));
     }
     groups.removeDuplicates();
     return groups;
@@ -66,6 +63,77 @@ QStringList otherValues(const Setting &setting, const QString &value)
 }
 
 } // namespace
+
+SheetView::SheetView()
+{
+    setFocusPolicy(Qt::StrongFocus);
+    measure();
+}
+
+void SheetView::show(preview::Sheet shown)
+{
+    sheet = std::move(shown);
+    current = std::min(current, qsizetype(sheet.rows.size()) - 1);
+    measure();
+}
+
+void SheetView::fade()
+{
+    sheet.changed.clear();
+    update();
+}
+
+void SheetView::setPaper(const preview::PaperSize &size)
+{
+    paper = size;
+    measure();
+}
+
+void SheetView::measure()
+{
+    painter.emplace(sheet, paper, preview::SheetPainter::Frame::Bare);
+    resize(painter->size());
+    update();
+}
+
+void SheetView::paintEvent(QPaintEvent *event)
+{
+    QPainter canvas(this);
+    canvas.setClipRect(event->rect());
+    painter->paint(canvas, {});
+    const int height = 2 * painter->cellWidth();
+    if (current >= 0)
+        canvas.drawRect(0, int(current) * height, width() - 1, height - 1);
+}
+
+void SheetView::setCurrent(qsizetype row)
+{
+    current = row;
+    update();
+    const int height = 2 * painter->cellWidth();
+    if (auto *const area = qobject_cast<QScrollArea *>(parentWidget()->parentWidget()))
+        area->ensureVisible(0, int(row) * height, 0, 2 * height);
+}
+
+void SheetView::mousePressEvent(QMouseEvent *event)
+{
+    setCurrent(painter->rowAt(int(event->position().y())));
+    if (current >= 0)
+        chosen(current);
+}
+
+void SheetView::keyPressEvent(QKeyEvent *event)
+{
+    const qsizetype last = qsizetype(sheet.rows.size()) - 1;
+    if (event->key() == Qt::Key_Down && current < last)
+        setCurrent(current + 1);
+    else if (event->key() == Qt::Key_Up && current > 0)
+        setCurrent(current - 1);
+    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && current >= 0)
+        chosen(current);
+    else
+        QWidget::keyPressEvent(event);
+}
 
 UnsavedConfiguration::UnsavedConfiguration()
     : ZTConfiguration({}, {})
@@ -91,8 +159,9 @@ void UnsavedConfiguration::take(const ConfigTree &tree)
         QCoreApplication::installTranslator(&translator);
 }
 
-PaperPane::PaperPane(ConfigTree &tree)
+PaperPane::PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration)
     : tree(tree)
+    , configuration(configuration)
     , documents(new QComboBox)
     , widths(new QComboBox)
     , area(new QScrollArea)
@@ -147,7 +216,7 @@ void PaperPane::addSamples()
         const QLatin1StringView method = documentMethods[i].name;
         const QString summary = requestcheck::summaryOf(qsizetype(i));
         const QString text = translated.translate("Document", summary.toLatin1().data());
-        documents->addItem(text.isEmpty() ? summary : text, SamplesFolder + method + ".xml"_L1);
+        documents->addItem(text.isEmpty() ? summary : text, ":/samples/"_L1 + method + ".xml"_L1);
         documents->setItemData(int(i), QString(method), Qt::ToolTipRole);
     }
     documents->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -184,13 +253,11 @@ QString PaperPane::openRequest(const QString &path)
 
 void PaperPane::follow(const QString &group)
 {
-    const bool isSample = documents->currentData().toString().startsWith(SamplesFolder);
-    if (!isSample || groups.contains(group))
-        return;
-    for (int i = 0; i < documents->count(); ++i) {
-        if (groupOfMethod(documents->itemData(i, Qt::ToolTipRole).toString()) == group)
-            return documents->setCurrentIndex(i);
-    }
+    const auto method = std::ranges::find(documentMethods, group,
+                                          [](const DocumentMethod &row) { return groupOf(&row); });
+    if (documents->currentIndex() < int(documentMethods.size()) && !groups.contains(group)
+        && method != documentMethods.end())
+        documents->setCurrentIndex(int(method - documentMethods.begin()));
 }
 
 void PaperPane::zoomBy(double factor)
@@ -246,12 +313,13 @@ void PaperPane::explain(size_t row)
 {
     QList<QTreeWidgetItem *> shaping;
     QStringList names;
-    QSignalBlocker silence(&tree);
     const std::vector<preview::Row> rows = printed();
     for (const QString &name : std::as_const(groups)) {
-        const QTreeWidgetItem *const group = tree.groupOf(name);
-        for (int i = 0; group && i < group->childCount(); ++i) {
-            QTreeWidgetItem *const item = group->child(i);
+        const auto all = tree.groups();
+        const auto group =
+            std::ranges::find(all, name, [](const QTreeWidgetItem *each) { return each->text(0); });
+        for (int i = 0; group != all.end() && i < (*group)->childCount(); ++i) {
+            QTreeWidgetItem *const item = (*group)->child(i);
             if (!shapes(item, rows, row))
                 continue;
             shaping.append(item);
@@ -259,7 +327,6 @@ void PaperPane::explain(size_t row)
             tree.scrollToItem(item);
         }
     }
-    silence.unblock();
     tree.shade(shaping);
     remark->setText(names.isEmpty() ? tr("No setting in the file shapes this line.")
                                     : tr("This line is shaped by: %1").arg(names.join(u", "_s)));

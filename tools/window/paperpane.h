@@ -72,8 +72,8 @@ class PaperPane : public QWidget
     Q_DECLARE_TR_FUNCTIONS(PaperPane)
 
 public:
-    /// The tree is borrowed.
-    explicit PaperPane(ConfigTree &tree);
+    /// Both are borrowed; the configuration follows the tree.
+    PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration);
 
     /// Draws the document anew, with the rows marked for a moment that have changed.
     void draw();
@@ -91,7 +91,7 @@ private:
     bool shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row);
 
     ConfigTree &tree;
-    UnsavedConfiguration configuration;
+    UnsavedConfiguration &configuration;
     QByteArray request;
     QStringList groups; // whose settings print the request
     QComboBox *const documents;

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tools/window/settingpane.h"
 
+#include "config/configviews.h"
+#include "tools/companion.h"
+#include "tools/knownkeys.h"
+
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
@@ -16,25 +20,40 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The language's own name for a translation's file, with the file.
-QString languageName(const QString &file)
+/// What a choice is called: of translations' files the language's own name for itself, too.
+QString titleOf(const QString &choice, bool isLanguage)
 {
-    if (file.isEmpty())
+    if (choice == "/"_L1)
+        return SettingPane::tr("as the system (/)");
+    if (!isLanguage)
+        return choice;
+    if (choice.isEmpty())
         return QLocale::languageToString(QLocale::English);
-    const QLocale locale(QFileInfo(file).baseName().section(u'_', 1));
-    return locale.language() == QLocale::C ? file
-                                           : locale.nativeLanguageName() + " ("_L1 + file + u')';
+    const QLocale locale(QFileInfo(choice).baseName().section(u'_', 1));
+    return locale.language() == QLocale::C ? choice
+                                           : locale.nativeLanguageName() + " ("_L1 + choice + u')';
 }
 
-} // namespace
-
-bool SettingPane::isLanguage(const Setting *setting)
+bool isLanguage(const Setting *setting)
 {
     return setting && "language"_L1 == setting->group && "file"_L1 == setting->word;
 }
 
-SettingPane::SettingPane()
-    : layout(new QVBoxLayout(this))
+QString describe(const Setting &setting)
+{
+    QString text = Setting::tr(setting.effect) + u' ';
+    if (setting.kind == SettingKind::Number)
+        text += SettingPane::tr("0 to %1.").arg(setting.most) + u' ';
+    if (!setting.byDefault.isEmpty())
+        text += SettingPane::tr("Unless set: %1.").arg(setting.byDefault);
+    return text;
+}
+
+} // namespace
+
+SettingPane::SettingPane(ConfigTree &tree)
+    : tree(tree)
+    , layout(new QVBoxLayout(this))
     , title(new QLabel)
     , effect(new QLabel)
     , everywhere(new QPushButton(tr("Set Everywhere")))
@@ -42,47 +61,39 @@ SettingPane::SettingPane()
     effect->setWordWrap(true);
     title->setTextInteractionFlags(Qt::TextSelectableByMouse);
     everywhere->setToolTip(tr("Gives every document that has this setting the same value."));
-    connect(everywhere, &QPushButton::clicked, this, [this] { spread(); });
+    connect(everywhere, &QPushButton::clicked, &tree, &ConfigTree::setEverywhere);
     layout->addWidget(title);
     layout->addWidget(effect);
     layout->addWidget(everywhere, 0, Qt::AlignLeft);
 }
 
-void SettingPane::show(const QString &key, const Setting *shown, const QString &value)
+void SettingPane::showCurrent()
 {
-    if (key == shownKey && shown == setting && editor && value == shownValue)
+    const QTreeWidgetItem *const item = tree.currentItem();
+    const bool isGroup = !item || libconfig::isGroupItem(*item);
+    const QString key = item ? tree.keyOf(item) : QString();
+    const QString value = isGroup ? QString() : libconfig::settingOf(item->text(0)).second;
+    if (const QString text = isGroup ? key : libconfig::settingText(key, value);
+        text == std::exchange(shown, text))
         return;
-    const bool hasFocus = editor && editor->hasFocus();
-    if (shown)
-        clear(key, Setting::tr(shown->effect));
-    else
-        clear(key, tr("Nothing reads this key."));
-    setting = shown;
-    shownValue = value;
-    if (shown)
-        effect->setText(effect->text() + u' ' + rangeText());
-    editor = newEditor(value);
-    title->setBuddy(editor);
-    layout->insertWidget(2, editor);
-    if (hasFocus)
-        editor->setFocus();
-    everywhere->setVisible(shown && shown->group.isEmpty());
-}
-
-void SettingPane::showGroup(const QString &key) { clear(key, {}); }
-
-void SettingPane::clear(const QString &key, const QString &text)
-{
-    shownKey = key;
-    setting = nullptr;
+    const Setting *const setting = tree.settingOf(item);
     title->setText(u"<b>"_s + key.toHtmlEscaped() + u"</b>"_s);
-    effect->setText(text);
-    everywhere->hide();
+    effect->setText(isGroup   ? QString()
+                    : setting ? describe(*setting)
+                              : tr("Nothing reads this key."));
+    everywhere->setVisible(setting && setting->group.isEmpty());
+    const bool hasFocus = editor && editor->hasFocus();
     if (editor) { // which may be telling of its value just now
         editor->hide();
         editor->deleteLater();
     }
-    editor = nullptr;
+    editor = isGroup ? nullptr : newEditor(setting, value);
+    if (!editor)
+        return;
+    title->setBuddy(editor);
+    layout->insertWidget(2, editor);
+    if (hasFocus)
+        editor->setFocus();
 }
 
 void SettingPane::focusEditor()
@@ -91,66 +102,76 @@ void SettingPane::focusEditor()
         editor->setFocus();
 }
 
-void SettingPane::tell(const QString &value)
+void SettingPane::toggleSwitch()
 {
-    shownValue = value; // which is not to be shown anew while it is typed
-    edited(value);
+    if (auto *const box = qobject_cast<QCheckBox *>(editor))
+        box->toggle();
 }
 
-QString SettingPane::rangeText() const
+/// Gives the current setting the value that the person gives it.
+void SettingPane::edit(const QString &value)
 {
-    QString text;
-    if (setting->kind == SettingKind::Number)
-        text = tr("0 to %1.").arg(setting->most) + u' ';
-    if (!setting->byDefault.isEmpty())
-        text += tr("Unless set: %1.").arg(setting->byDefault);
-    return text;
+    QTreeWidgetItem *const item = tree.currentItem();
+    shown = libconfig::settingText(tree.keyOf(item), value); // in the editor, as it is typed
+    if (isLanguage(tree.settingOf(item)))
+        tree.setValues(
+            {{item->parent(), u"basedir"_s, value.isEmpty() ? QString() : labelsFolder()},
+             {item->parent(), u"file"_s, value}});
+    else
+        tree.setValue(item, value);
 }
 
-QWidget *SettingPane::newEditor(const QString &value)
+/// The folder of the labels' translations: that of the settings, or the suite's own.
+QString SettingPane::labelsFolder() const
 {
+    const QTreeWidgetItem *const item =
+        ConfigTree::childOf(tree.currentItem()->parent(), false, u"basedir"_s);
+    const QString folder = item ? libconfig::settingOf(item->text(0)).second : QString();
+    const bool isUsed = !folder.isEmpty() && !QDir(folder, u"*.qm"_s).isEmpty();
+    return isUsed ? folder : tools::translationsFolder();
+}
+
+QStringList SettingPane::languages() const
+{
+    const QString folder = labelsFolder();
+    QStringList values{QString(), u"/"_s};
+    for (const QString &file : QDir(folder).entryList({u"*.qm"_s}))
+        values.append((folder.endsWith(u'/') ? u""_s : u"/"_s) + file.chopped(3));
+    return values;
+}
+
+QWidget *SettingPane::newEditor(const Setting *setting, const QString &value)
+{
+    const SettingKind kind = setting ? setting->kind : SettingKind::Text;
     if (isLanguage(setting))
-        return newChoice(value, translations());
-    switch (setting ? setting->kind : SettingKind::Text) {
-    case SettingKind::Switch:
-        return newSwitch(value);
-    case SettingKind::Number:
-        return newNumber(value);
-    case SettingKind::LogLevel:
-        return newChoice(value, {u"DEBUG"_s, u"INFO"_s, u"WARNING"_s, u"ERROR"_s, u"FATAL"_s});
-    case SettingKind::LogType:
-        return newChoice(value, {u"APPEND"_s, u"OVERWRITE"_s});
-    case SettingKind::Text:
-    case SettingKind::Folder:
-    case SettingKind::FileName:
-        break;
-    }
-    return newLine(value);
-}
-
-QWidget *SettingPane::newSwitch(const QString &value)
-{
+        return newChoice(true, languages(), value);
+    if (const QStringList words = tools::wordsOf(kind); !words.isEmpty())
+        return newChoice(false, words, value);
+    if (kind == SettingKind::Number)
+        return newNumber(setting->most, value);
+    if (kind != SettingKind::Switch)
+        return newLine(kind == SettingKind::Folder, value);
     auto *const box = new QCheckBox(tr("&Value: on"));
     box->setChecked(value == "true"_L1);
-    connect(box, &QCheckBox::toggled, this, [this](bool on) { tell(on ? u"true"_s : u"false"_s); });
+    connect(box, &QCheckBox::toggled, this, [this](bool on) { edit(on ? u"true"_s : u"false"_s); });
     return box;
 }
 
-QWidget *SettingPane::newNumber(const QString &value)
+QWidget *SettingPane::newNumber(int most, const QString &value)
 {
     auto *const box = new QSpinBox;
-    box->setRange(qMin(value.toInt(), 0), setting->most);
+    box->setRange(qMin(value.toInt(), 0), most);
     box->setValue(value.toInt());
     connect(box, &QSpinBox::valueChanged, this,
-            [this](int number) { tell(QString::number(number)); });
+            [this](int number) { edit(QString::number(number)); });
     return box;
 }
 
-QWidget *SettingPane::newLine(const QString &value)
+QWidget *SettingPane::newLine(bool isFolder, const QString &value)
 {
     auto *const line = new QLineEdit(value);
-    connect(line, &QLineEdit::textEdited, this, &SettingPane::tell);
-    if (!setting || setting->kind != SettingKind::Folder)
+    connect(line, &QLineEdit::textEdited, this, &SettingPane::edit);
+    if (!isFolder)
         return line;
     QAction *const choose =
         line->addAction(style()->standardIcon(QStyle::SP_DirOpenIcon), QLineEdit::TrailingPosition);
@@ -162,26 +183,20 @@ QWidget *SettingPane::newLine(const QString &value)
         if (folder.isEmpty())
             return;
         line->setText(folder + u'/');
-        tell(line->text());
+        edit(line->text());
     });
     return line;
 }
 
-QWidget *SettingPane::newChoice(const QString &value, const QStringList &choices)
+QWidget *SettingPane::newChoice(bool isLanguage, QStringList choices, const QString &value)
 {
     auto *const box = new QComboBox;
-    QStringList values = choices;
-    if (!values.contains(value, Qt::CaseInsensitive))
-        values.prepend(value);
-    for (const QString &choice : std::as_const(values)) {
-        const bool isSystem = choice == "/"_L1;
-        box->addItem(isSystem              ? tr("as the system (/)")
-                     : isLanguage(setting) ? languageName(choice)
-                                           : choice,
-                     choice);
-    }
+    if (!choices.contains(value, Qt::CaseInsensitive))
+        choices.prepend(value);
+    for (const QString &choice : std::as_const(choices))
+        box->addItem(titleOf(choice, isLanguage), choice);
     box->setCurrentIndex(box->findData(value, Qt::UserRole, Qt::MatchFixedString));
-    connect(box, &QComboBox::activated, this, [this, box] { tell(box->currentData().toString()); });
+    connect(box, &QComboBox::activated, this, [this, box] { edit(box->currentData().toString()); });
     return box;
 }
 
