@@ -62,6 +62,17 @@ void printAddress(PrinterDriver &device, const QString &address)
 
 } // namespace
 
+QXmlAttributes ownAttributes(const QXmlAttributes &atts)
+{
+    QXmlAttributes own;
+    for (int i = 0; i < atts.count(); ++i) {
+        const QString name = atts.qName(i);
+        if (name != "xmlns"_L1 && !name.startsWith("xmlns:"_L1))
+            own.append(name, atts.uri(i), atts.localName(i), atts.value(i));
+    }
+    return own;
+}
+
 void PrinterDriver::printGeometry(const QXmlAttributes &)
 {
     if (!settings.printGeometry)
@@ -153,12 +164,12 @@ bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &att
     } else if (name == element::geometry) {
         printGeometry(atts);
     } else if (name == element::headers) {
-        printHeaders(atts);
+        printHeaders(ownAttributes(atts));
         printPrinterInfo();
     } else if (name == element::logo) {
         printLogo();
     } else if (name == element::company) {
-        printCompanyHeader(atts);
+        printCompanyHeader(ownAttributes(atts));
     } else if (name == element::receipt) {
         printReceiptHeader(atts);
     } else if (name == element::invoice) {

@@ -179,5 +179,5 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &atts
     else if (qName == element::invoicesSummary)
         report.printInvoices();
     else if (qName == element::cancelledSummary)
-        report.printCancelled();
+        Report{*this, ownAttributes(atts), settings.paperWidth}.printCancelled();
 }

@@ -10,8 +10,7 @@ namespace requestreader {
 namespace {
 
 /// Hands the elements on to another handler, up to MaxDepth, and tells the source what it has to
-/// count. The reader does not look at name spaces, which takes it long and nobody here asks for;
-/// their declarations are no attributes of an element and are taken out.
+/// count. The reader does not look at name spaces, which takes it long and nobody here asks for.
 class ElementFilter : public QXmlDefaultHandler
 {
 public:
@@ -56,12 +55,6 @@ public:
         source.elementBegan();
         if (!go(++depth <= MaxDepth, Stop::Depth))
             return false;
-        for (int i = atts.count() - 1; i >= 0; --i) { // the count is a call
-            if (isNameSpaceDeclaration(atts.qName(i)))
-                return go(
-                    target.startElement(namespaceURI, localName, qName, plainAttributes(atts)),
-                    Stop::Refused);
-        }
         return go(target.startElement(namespaceURI, localName, qName, atts), Stop::Refused);
     }
     bool endElement(const QString &namespaceURI, const QString &localName,
@@ -85,24 +78,6 @@ private:
         if (!fine)
             stop = otherwise;
         return fine;
-    }
-
-    static bool isNameSpaceDeclaration(QStringView name)
-    {
-        constexpr QStringView word = u"xmlns";
-        // Hardly any name begins with its first letter, which is asked in place.
-        return name.startsWith(word.front()) && name.startsWith(word)
-               && (name.size() == word.size() || name[word.size()] == u':');
-    }
-
-    static QXmlAttributes plainAttributes(const QXmlAttributes &atts)
-    {
-        QXmlAttributes plain;
-        for (int i = 0; i < atts.count(); ++i) {
-            if (!isNameSpaceDeclaration(atts.qName(i)))
-                plain.append(atts.qName(i), atts.uri(i), atts.localName(i), atts.value(i));
-        }
-        return plain;
     }
 
     QXmlContentHandler &target;

@@ -64,7 +64,8 @@ public:
 };
 
 /// Hands the elements of a request, and the text between them, to `handler` until its end, the
-/// first fault in the XML, or the first event that the handler answers with false. `request` need
+/// first fault in the XML, or the first event that the handler answers with false. Declarations of
+/// name spaces come as attributes: ownAttributes() tells them apart. `request` need
 /// not be open; one that cannot be opened or read is an empty request. Answers whether the end was
 /// reached.
 bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer = nullptr);

@@ -57,6 +57,9 @@ inline QString valueOf(const QXmlAttributes &atts, QLatin1StringView name)
     return position < 0 ? QString() : atts.value(position);
 }
 
+/// The attributes without the declarations of name spaces: what a document takes by position.
+QXmlAttributes ownAttributes(const QXmlAttributes &atts);
+
 /// What choosing a document method does to the driver's duplicate flag.
 enum class DuplicateFlag { Unchanged, Set, Cleared };
 

@@ -57,7 +57,7 @@ bool CheckingDevice::startElement(const QString &namespaceURI, const QString &lo
         checkDeclaration();
     }
     open.push_back({qName, places.tag().begin.line});
-    current = {qName, atts, nullptr};
+    current = {qName, ownAttributes(atts), nullptr};
     hasPrinted = false;
     if (qName != element::method)
         checkElement();
