@@ -48,7 +48,8 @@ public:
     {
         const qint64 begin = origins.empty() ? 0 : origins.back().end;
         if (const qint64 end = written(); end > begin)
-            origins.push_back({end, traceElements ? places.tag().begin.line : 0, settings.paperWidth});
+            origins.push_back(
+                {end, traceElements ? places.tag().begin.line : 0, settings.paperWidth});
     }
     /// Whether all that was printed is in the print file.
     bool isWritten()

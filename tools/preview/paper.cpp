@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/paper.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <utility>
 
@@ -9,21 +11,6 @@ namespace preview {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// What is wrong with a line that the device does not write.
-QString faultOf(const PrintLine &line)
-{
-    constexpr CellsView EndMark = U"\"@";
-    if (line.kind == LineKind::Empty)
-        return u"empty line"_s;
-    if (line.kind == LineKind::Printed)
-        return line.text.find(EndMark) == Cells::npos ? QString() : u"ends at its first \"@"_s;
-    if (line.text.ends_with(EndMark))
-        return u"without its opening quote"_s;
-    if (line.text.starts_with(U'"'))
-        return u"without its closing \"@"_s;
-    return u"not framed: a command to the printer"_s;
-}
 
 QString faultOfEnd(const PrintLine &line)
 {
@@ -35,9 +22,24 @@ QString faultOfEnd(const PrintLine &line)
     return hasReturn ? u"ends with a carriage return"_s : u"without its carriage return"_s;
 }
 
-QString joined(const QString &a, const QString &b)
+QString joined(QStringList notes)
 {
-    return a.isEmpty() || b.isEmpty() ? a + b : a + "; "_L1 + b;
+    notes.removeAll(QString());
+    return notes.join("; "_L1);
+}
+
+/// The lines of a receipt, the right at the edge: two where it has no room behind the left.
+std::vector<Cells> laidOut(const std::vector<std::pair<Cells, Cells>> &receipt, int width)
+{
+    const size_t room = size_t(width);
+    std::vector<Cells> lines;
+    for (auto [left, right] : receipt) {
+        if (left.size() + 1 + right.size() > room)
+            lines.push_back(std::exchange(left, {}));
+        left.append(room - std::min(room, left.size() + right.size()), U' ');
+        lines.push_back(left + right);
+    }
+    return lines;
 }
 
 /// The width of the paper of a print file of which nothing else is known.
@@ -84,14 +86,78 @@ public:
 private:
     enum class Section { None, Torn, Listing, Fiscal };
 
-    void draw(PrintLine line, qsizetype offset);
-    void locate(qsizetype offset);
-    void open(Section kind, const PrintLine &line);
-    void close(Section kind, const PrintLine &line);
-    void tearOff();
-    void print(PrintLine line);
-    void printFiscal(const PrintLine &line);
-    void add(Row::Kind kind, const QString &mark, const QString &note, Cells text = {});
+    /// An empty line opens a section: with the `j` after it, or alone where fiscal lines follow.
+    void draw(PrintLine line, qsizetype offset)
+    {
+        using enum LineKind;
+        const bool isBefore = line.kind == Empty && line.next < document.printFile.size();
+        const LineKind following =
+            isBefore ? lineAt(document.printFile, line.next, document.codec).kind : Empty;
+        if (following == SectionStart && line.end == LineEnd::LineFeed)
+            return;
+        const bool opensFiscal = following == Fiscal || following == FiscalEnd;
+        if (opensFiscal || line.kind == SectionStart) {
+            tearOff();
+            locate(offset);
+            section = opensFiscal ? Section::Fiscal : Section::Listing;
+            add(Row::Kind::TopEdge, opensFiscal ? u""_s : u"j"_s,
+                joined({opensFiscal ? u"fiscal"_s : QString(), faultOfEnd(line)}));
+            return;
+        }
+        locate(offset);
+        if (line.kind != SectionEnd && line.kind != FiscalEnd)
+            return print(line);
+        const auto opened = line.kind == FiscalEnd ? Section::Fiscal : Section::Listing;
+        const Section closed = std::exchange(section, Section::None);
+        if (closed == Section::None)
+            add(Row::Kind::TornTop, {}, {});
+        add(Row::Kind::BottomEdge, line.kind == FiscalEnd ? u"1T"_s : u"J"_s,
+            joined({closed == opened ? QString() : u"closes what was not opened"_s,
+                    faultOfEnd(line)}));
+    }
+
+    /// Looks up what is known of the place in the file.
+    void locate(qsizetype offset)
+    {
+        const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
+        const bool isKnown = origin != document.origins.end();
+        requestLine = isKnown ? origin->requestLine : 0;
+        width = std::clamp(columns > 0 ? columns
+                           : isKnown   ? origin->paperWidth
+                                       : DevicePaperWidth,
+                           1, MostPaperWidth);
+    }
+
+    /// Ends the paper where a section is not closed.
+    void tearOff()
+    {
+        requestLine = 0;
+        const Section closed = std::exchange(section, Section::None);
+        if (closed != Section::None)
+            add(Row::Kind::TornBottom, {},
+                closed == Section::Torn ? QString() : u"the section is not closed"_s);
+    }
+
+    void print(PrintLine &line)
+    {
+        if (section == Section::None) {
+            section = Section::Torn;
+            add(Row::Kind::TornTop, {}, u"outside of a section"_s);
+        }
+        const bool isFiscal = line.kind == LineKind::Fiscal;
+        QString note = joined({isFiscal ? escaped(line.text) : QString(), line.fault,
+                               line.kind == LineKind::Empty ? QString() : faultOfEnd(line)});
+        QString mark = (isFiscal ? line.fault : note).isEmpty() ? u""_s : u"!"_s;
+        while (line.text.size() > size_t(width) && line.text.back() == U' ')
+            line.text.pop_back();
+        for (Cells &text : isFiscal ? laidOut(line.receipt, width) : std::vector{line.text})
+            add(Row::Kind::Line, std::exchange(mark, {}), std::exchange(note, {}), std::move(text));
+    }
+
+    void add(Row::Kind kind, const QString &mark, const QString &note, Cells text = {})
+    {
+        wanted = wanted && take({kind, mark, std::move(text), width, note, requestLine});
+    }
 
     const Document &document;
     const int columns; // 0: as the origins say
@@ -101,95 +167,6 @@ private:
     qint64 requestLine = 0;
     bool wanted = true;
 };
-
-/// An empty line opens a section: with the `j` after it, or alone where fiscal lines follow.
-void Paper::draw(PrintLine line, qsizetype offset)
-{
-    const bool isBefore = line.kind == LineKind::Empty && line.next < document.printFile.size();
-    const LineKind following =
-        isBefore ? lineAt(document.printFile, line.next, document.codec).kind : LineKind::Empty;
-    if (following == LineKind::SectionStart && line.end == LineEnd::LineFeed)
-        return;
-    const bool opensFiscal = following == LineKind::Fiscal || following == LineKind::FiscalEnd;
-    if (opensFiscal || line.kind == LineKind::SectionStart)
-        tearOff();
-    locate(offset);
-    if (opensFiscal || line.kind == LineKind::SectionStart)
-        open(opensFiscal ? Section::Fiscal : Section::Listing, line);
-    else if (line.kind == LineKind::SectionEnd || line.kind == LineKind::FiscalEnd)
-        close(line.kind == LineKind::FiscalEnd ? Section::Fiscal : Section::Listing, line);
-    else
-        print(std::move(line));
-}
-
-/// Looks up what is known of the place in the file.
-void Paper::locate(qsizetype offset)
-{
-    const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
-    const bool isKnown = origin != document.origins.end();
-    requestLine = isKnown ? origin->requestLine : 0;
-    width = std::clamp(columns > 0 ? columns
-                       : isKnown   ? origin->paperWidth
-                                   : DevicePaperWidth,
-                       1, MostPaperWidth);
-}
-
-void Paper::open(Section kind, const PrintLine &line)
-{
-    section = kind;
-    const bool isFiscal = kind == Section::Fiscal;
-    add(Row::Kind::TopEdge, isFiscal ? u""_s : u"j"_s,
-        joined(isFiscal ? u"fiscal"_s : u""_s, faultOfEnd(line)));
-}
-
-void Paper::close(Section kind, const PrintLine &line)
-{
-    const Section closed = std::exchange(section, Section::None);
-    if (closed == Section::None)
-        add(Row::Kind::TornTop, {}, {});
-    add(Row::Kind::BottomEdge, kind == Section::Listing ? u"J"_s : u"1T"_s,
-        joined(closed == kind ? u""_s : u"closes what was not opened"_s, faultOfEnd(line)));
-}
-
-/// Ends the paper where a section is not closed.
-void Paper::tearOff()
-{
-    requestLine = 0;
-    const Section closed = std::exchange(section, Section::None);
-    if (closed != Section::None)
-        add(Row::Kind::TornBottom, {},
-            closed == Section::Torn ? u""_s : u"the section is not closed"_s);
-}
-
-void Paper::print(PrintLine line)
-{
-    if (section == Section::None) {
-        section = Section::Torn;
-        add(Row::Kind::TornTop, {}, u"outside of a section"_s);
-    }
-    if (line.kind == LineKind::Fiscal)
-        return printFiscal(line);
-    const QString fault =
-        joined(faultOf(line), line.kind == LineKind::Empty ? QString() : faultOfEnd(line));
-    Cells text = std::move(line.text);
-    while (text.size() > size_t(width) && text.back() == U' ')
-        text.pop_back();
-    add(Row::Kind::Line, fault.isEmpty() ? u""_s : u"!"_s, fault, std::move(text));
-}
-
-void Paper::printFiscal(const PrintLine &line)
-{
-    FiscalReceipt receipt = fiscalReceipt(line.text, width);
-    QString mark = receipt.fault.isEmpty() ? u""_s : u"!"_s;
-    QString note = joined(joined(escaped(line.text), receipt.fault), faultOfEnd(line));
-    for (Cells &text : receipt.lines)
-        add(Row::Kind::Line, std::exchange(mark, {}), std::exchange(note, {}), std::move(text));
-}
-
-void Paper::add(Row::Kind kind, const QString &mark, const QString &note, Cells text)
-{
-    wanted = wanted && take({kind, mark, std::move(text), width, note, requestLine});
-}
 
 } // namespace
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "render/documentsettings.h"
 #include "tools/paperrules.h"
-
-#include <QByteArray>
-#include <QString>
 
 #include <functional>
 #include <string>
@@ -60,25 +58,17 @@ struct PrintLine
     Cells text; ///< inside the frame for Printed; else the whole line, without its end
     LineEnd end = LineEnd::LineFeed;
     qsizetype next = 0; ///< where the next line begins: bytes of the file
+    QString fault{};    ///< why the printer takes it for something else; empty when it does not
+    /// What stands at the left and at the right of each line that a Fiscal one comes to on the
+    /// receipt: an item with quantity, price and department, and an adjustment of the price; a
+    /// discount; a payment. Amounts are those of the command, as sums are the printer's to make.
+    std::vector<std::pair<Cells, Cells>> receipt{};
 };
 
 /// The line of `file` that begins at `offset`, which is inside of it. Any bytes are a print file:
 /// what the device would not have written is Unframed, and nothing is left out. A null codec means
 /// UTF-8.
 PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec);
-
-/// What a fiscal command comes to on the receipt.
-struct FiscalReceipt
-{
-    std::vector<Cells> lines;
-    QString fault; ///< for which the printer refuses it; empty when there is none
-};
-
-/// What the fiscal printer makes of a Fiscal line, on paper of `width` cells: the item's name with
-/// quantity, price and department at the right, on a line of their own where they do not fit, and
-/// an adjustment of the price; a discount; a payment. Amounts stand as the command has them, as
-/// sums are the printer's to make. Nothing for any other line.
-FiscalReceipt fiscalReceipt(CellsView command, int width);
 
 /// The cells as a terminal takes them: numbers for what does not fill one column.
 QString escaped(CellsView cells);
@@ -153,9 +143,6 @@ struct PictureOptions
     PaperSize paper;
     bool inPairs = false; ///< whether two sheets each belong side by side
 };
-
-/// The characters in a line of the device's paper, where nothing tells the width.
-constexpr int DevicePaperWidth = 32;
 
 /// The most characters in a line of a paper that is drawn; a wider one is drawn so.
 constexpr int MostPaperWidth = 500;

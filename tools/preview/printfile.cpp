@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/paper.h"
 
-#include "tools/paperrules.h"
-
 #include <QList>
 #include <QTextCodec>
 
@@ -20,79 +18,92 @@ namespace {
 
 constexpr bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
-/// Adds one text at the left and one at the right, on two lines where they do not fit on one.
-void addLine(std::vector<Cells> &lines, CellsView left, const Cells &right, int width)
-{
-    const size_t room = size_t(width);
-    if (left.size() + 1 + right.size() > room)
-        lines.emplace_back(std::exchange(left, {}));
-    const size_t blanks = room - std::min(room, left.size() + right.size());
-    lines.push_back(Cells(left).append(blanks, U' ') + right);
-}
-
 /// Reads `"name"quantity*priceHdepartmentR`, and after it an adjustment, as `-1,50*5M` or `2*1M`.
 /// The name may hold quotes of its own: it ends at the last one.
-FiscalReceipt itemOf(CellsView command, int width)
+void readItem(PrintLine &line)
 {
+    const CellsView command = line.text;
     const size_t quote = command.rfind(U'"');
     if (!command.starts_with(U'"') || quote == 0)
-        return {};
+        return;
     const CellsView name = command.substr(1, quote - 1);
     CellsView rest = command.substr(quote + 1);
     std::array<CellsView, 3> parts;
     for (size_t i = 0; i < parts.size(); ++i) {
         const size_t mark = rest.find(U"*HR"[i]);
         if (mark == CellsView::npos)
-            return {};
+            return;
         parts[i] = rest.substr(0, mark);
         rest.remove_prefix(mark + 1);
     }
     if (!rest.empty() && !rest.ends_with(U"*1M") && !rest.ends_with(U"*5M"))
-        return {};
+        return;
     const auto &[quantity, price, department] = parts;
-    FiscalReceipt receipt;
-    addLine(receipt.lines, name,
-            Cells(quantity).append(U" x ").append(price).append(U" dep. ").append(department),
-            width);
+    line.receipt.emplace_back(
+        name, Cells(quantity).append(U" x ").append(price).append(U" dep. ").append(department));
     if (rest.size() > 3)
-        addLine(receipt.lines, U"  Adjustment", Cells(rest.substr(0, rest.size() - 3)), width);
+        line.receipt.emplace_back(U"  Adjustment", rest.substr(0, rest.size() - 3));
     if (name.find(U'"') != CellsView::npos)
-        receipt.fault = u"a double quote ends the name early"_s;
+        line.fault = u"a double quote ends the name early"_s;
     else if (!tools::isFiscalNumber(quantity, U'.') || !tools::isFiscalNumber(price, U','))
-        receipt.fault = u"quantity and price take digits and at most one point"_s;
+        line.fault = u"quantity and price take digits and at most one point"_s;
     else if (!tools::isFiscalNumber(department))
-        receipt.fault = u"the department is no number"_s;
-    return receipt;
+        line.fault = u"the department is no number"_s;
 }
 
-/// A discount or payment: what stands before and after its value, and its title on the receipt.
-struct FiscalValue
+/// Reads a discount or a payment.
+void readValue(PrintLine &line)
 {
-    CellsView before, after, title, unit;
-};
+    struct Form
+    {
+        CellsView before, after, title, unit;
+    };
+    constexpr Form forms[] = {
+        {U"=", U"*2M", U"Discount", U"%"},  {U"", U"H1T", U"Cash", U""},
+        {U"", U"H3T", U"Credit card", U""}, {U"", U"H2T", U"Cheque", U""},
+        {U"", U"H5T", U"Ticket", U""},
+    };
+    for (const auto &[before, after, title, unit] : forms) {
+        CellsView value = line.text;
+        if (!value.starts_with(before) || !value.ends_with(after)
+            || value.size() <= before.size() + after.size())
+            continue;
+        value = value.substr(before.size(), value.size() - before.size() - after.size());
+        if (value.find_first_not_of(U"0123456789,.+-eE") == CellsView::npos)
+            line.receipt.emplace_back(title, Cells(value).append(unit));
+    }
+}
 
-constexpr std::array<FiscalValue, 5> values = {{
-    {U"=", U"*2M", U"Discount", U"%"},
-    {U"", U"H1T", U"Cash", U""},
-    {U"", U"H3T", U"Credit card", U""},
-    {U"", U"H2T", U"Cheque", U""},
-    {U"", U"H5T", U"Ticket", U""},
-}};
-
-LineKind kindOf(CellsView line)
+/// Tells by its text what the line is, and what is wrong with it.
+void classify(PrintLine &line)
 {
+    using enum LineKind;
+    constexpr std::pair<CellsView, LineKind> commands[] = {
+        {U"", Empty}, {U"j", SectionStart}, {U"J", SectionEnd}, {U"1T", FiscalEnd}};
+    constexpr CellsView EndMark = U"\"@";
     constexpr size_t FrameSize = 3;
-    if (line.empty())
-        return LineKind::Empty;
-    if (line == U"j")
-        return LineKind::SectionStart;
-    if (line == U"J")
-        return LineKind::SectionEnd;
-    if (line == U"1T")
-        return LineKind::FiscalEnd;
-    if (line.size() >= FrameSize && line.starts_with(U'"') && line.ends_with(U"\"@"))
-        return LineKind::Printed;
-    return fiscalReceipt(line, 0).lines.empty() ? LineKind::Unframed : LineKind::Fiscal;
+    Cells &text = line.text;
+    const auto *const command =
+        std::ranges::find(commands, text, &std::pair<CellsView, LineKind>::first);
+    const bool isOpened = text.starts_with(U'"');
+    const bool isClosed = text.ends_with(EndMark);
+    if (command != std::end(commands)) {
+        line.kind = command->second;
+        line.fault = line.kind == Empty ? u"empty line"_s : QString();
+    } else if (isOpened && isClosed && text.size() >= FrameSize) {
+        line.kind = Printed;
+        text = text.substr(1, text.size() - FrameSize);
+        if (text.find(EndMark) != Cells::npos)
+            line.fault = u"ends at its first \"@"_s;
+    } else {
+        readItem(line);
+        readValue(line);
+        line.kind = line.receipt.empty() ? Unframed : Fiscal;
+        if (line.kind == Unframed)
+            line.fault = isClosed   ? u"without its opening quote"_s
+                         : isOpened ? u"without its closing \"@"_s
+                                    : u"not framed: a command to the printer"_s;
+    }
 }
 
 /// Adds the character that `bytes` begin with, or their first byte where none does; answers its
@@ -205,25 +216,8 @@ PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec)
                                       : LineEnd::LineFeed;
     bytes.chop(line.end == LineEnd::CarriageReturn ? 1 : 0);
     line.text = decoded(bytes, codec ? codec : QTextCodec::codecForName("UTF-8"));
-    line.kind = kindOf(line.text);
-    if (line.kind == LineKind::Printed)
-        line.text = line.text.substr(1, line.text.size() - 3);
+    classify(line);
     return line;
-}
-
-FiscalReceipt fiscalReceipt(CellsView command, int width)
-{
-    FiscalReceipt receipt = itemOf(command, width);
-    for (const auto &[before, after, title, unit] : values) {
-        if (command.size() <= before.size() + after.size() || !command.starts_with(before)
-            || !command.ends_with(after))
-            continue;
-        const CellsView value =
-            command.substr(before.size(), command.size() - before.size() - after.size());
-        if (value.find_first_not_of(U"0123456789,.+-eE") == CellsView::npos)
-            addLine(receipt.lines, title, Cells(value).append(unit), width);
-    }
-    return receipt;
 }
 
 } // namespace preview
