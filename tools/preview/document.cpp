@@ -6,7 +6,6 @@
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "tools/check/tagplaces.h"
-#include "tools/requests/requests.h"
 
 #include <QBuffer>
 
@@ -82,24 +81,6 @@ QString faultOf(TracingDevice &device, const TagPlaces &places)
 }
 
 } // namespace
-
-std::optional<Input> readInput(const tools::Call &call, const QString &name)
-{
-    constexpr qint64 PieceBytes = 65'536;
-    const std::unique_ptr<QFile> file = tools::openedRequest(call, name);
-    if (!file)
-        return std::nullopt;
-    QByteArray bytes;
-    for (QByteArray piece(1, ' '); !piece.isEmpty() && bytes.size() <= MostBytes; bytes += piece)
-        piece = file->read(PieceBytes);
-    const QString fault = bytes.size() > MostBytes ? u"it has more than %1 bytes"_s.arg(MostBytes)
-                          : file->error() != QFile::NoError ? file->errorString()
-                                                            : QString();
-    if (fault.isEmpty())
-        return Input{name, bytes, isRequest(bytes)};
-    tools::tellTrouble(call, name, fault);
-    return std::nullopt;
-}
 
 bool isRequest(const QByteArray &bytes)
 {

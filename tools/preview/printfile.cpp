@@ -106,42 +106,34 @@ void classify(PrintLine &line)
     }
 }
 
-/// Adds the character that `bytes` begin with, or their first byte where none does; answers its
-/// size.
-qsizetype addCharacter(Cells &cells, QByteArrayView bytes, QTextCodec *codec)
-{
-    const auto first = uchar(bytes.front());
-    if (first < 0x80) {
-        cells += char32_t(first);
-        return 1;
-    }
-    for (qsizetype size = 1; size <= std::min<qsizetype>(4, bytes.size()); ++size) {
-        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-        const QString text = codec->toUnicode(bytes.data(), int(size), &state);
-        const bool isDecoded =
-            !text.isEmpty() && state.invalidChars == 0 && state.remainingChars == 0;
-        // Not every codec counts what it replaces.
-        if (isDecoded
-            && (text.front() != QChar::ReplacementCharacter
-                || codec->fromUnicode(text) == bytes.first(size))) {
-            cells += cellsOf(text);
-            return size;
-        }
-    }
-    cells += char32_t(UndecodedByte + first);
-    return 1;
-}
-
+/// A character at a time where not all of the bytes are text.
 Cells decoded(QByteArrayView bytes, QTextCodec *codec)
 {
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString text = codec->toUnicode(bytes.data(), int(bytes.size()), &state);
-    if (state.invalidChars == 0 && state.remainingChars == 0
-        && !text.contains(QChar::ReplacementCharacter))
-        return cellsOf(text);
     Cells cells;
-    while (!bytes.isEmpty())
-        bytes = bytes.sliced(addCharacter(cells, bytes, codec));
+    const auto addText = [codec, &cells](QByteArrayView part) {
+        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+        const QString text = codec->toUnicode(part.data(), int(part.size()), &state);
+        // Not every codec counts what it replaces.
+        const bool isText =
+            state.invalidChars == 0 && state.remainingChars == 0
+            && (!text.contains(QChar::ReplacementCharacter) || codec->fromUnicode(text) == part);
+        if (isText)
+            cells += cellsOf(text);
+        return isText;
+    };
+    if (addText(bytes))
+        return cells;
+    constexpr qsizetype Longest = 4; // bytes of a character
+    while (!bytes.isEmpty()) {
+        const auto first = uchar(bytes.front());
+        const qsizetype most = first < 0x80 ? 0 : std::min(Longest, bytes.size());
+        qsizetype size = 1;
+        while (size <= most && !addText(bytes.first(size)))
+            ++size;
+        if (size > most)
+            cells += first < 0x80 ? char32_t(first) : UndecodedByte + first;
+        bytes = bytes.sliced(size > most ? 1 : size);
+    }
     return cells;
 }
 
