@@ -113,9 +113,9 @@ Cells decoded(QByteArrayView bytes, QTextCodec *codec)
     const auto addText = [codec, &cells](QByteArrayView part) {
         QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
         const QString text = codec->toUnicode(part.data(), int(part.size()), &state);
-        // Not every codec counts what it replaces.
+        // Not every codec counts what it lacks or replaces.
         const bool isText =
-            state.invalidChars == 0 && state.remainingChars == 0
+            !text.isEmpty() && state.invalidChars == 0 && state.remainingChars == 0
             && (!text.contains(QChar::ReplacementCharacter) || codec->fromUnicode(text) == part);
         if (isText)
             cells += cellsOf(text);
