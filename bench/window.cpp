@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QScrollArea>
+#include <QListView>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,7 +45,7 @@ double keyStroke(const QString &path)
     tree->setCurrentItem(widths.at(1)); // of the pre-bill, whose items have prices
     auto *const field = editor.findChild<QSpinBox *>();
     field->setFocus();
-    QWidget *const paper = editor.findChild<QScrollArea *>()->widget();
+    QWidget *const paper = editor.findChild<QListView *>(u"paper"_s)->viewport();
     Paints paints;
     paper->installEventFilter(&paints);
     QTest::qWait(100); // all of the window is painted

@@ -189,6 +189,61 @@
     </message>
 </context>
 <context>
+    <name>Document</name>
+    <message>
+        <source>The ticket that carries an order to where it is prepared: quantities and names</source>
+        <translation>La comanda que lleva el pedido a donde se prepara: cantidades y nombres</translation>
+    </message>
+    <message>
+        <source>The pre-bill: items with prices</source>
+        <translation>La cuenta previa: artículos con precios</translation>
+    </message>
+    <message>
+        <source>The receipt, one line per item</source>
+        <translation>El recibo, una línea por artículo</translation>
+    </message>
+    <message>
+        <source>The invoice, one line per item</source>
+        <translation>La factura, una línea por artículo</translation>
+    </message>
+    <message>
+        <source>The delivery note: its items are printed as on a ticket</source>
+        <translation>El albarán: los artículos como en una comanda</translation>
+    </message>
+    <message>
+        <source>The fiscal receipt: a command line per item for the fiscal printer</source>
+        <translation>El tique fiscal: una orden por artículo para la impresora fiscal</translation>
+    </message>
+    <message>
+        <source>An order in summary: it prints nothing</source>
+        <translation>Un pedido en resumen: no imprime nada</translation>
+    </message>
+    <message>
+        <source>The receipt, one line per type of item</source>
+        <translation>El recibo, una línea por tipo de artículo</translation>
+    </message>
+    <message>
+        <source>The invoice, one line per type of item</source>
+        <translation>La factura, una línea por tipo de artículo</translation>
+    </message>
+    <message>
+        <source>The fiscal receipt, one command line per type of item</source>
+        <translation>El tique fiscal, una orden por tipo de artículo</translation>
+    </message>
+    <message>
+        <source>The summary of a period</source>
+        <translation>El resumen de un período</translation>
+    </message>
+    <message>
+        <source>The items sold in a period</source>
+        <translation>Lo vendido en un período</translation>
+    </message>
+    <message>
+        <source>A customer&apos;s statement of account</source>
+        <translation>El estado de cuenta de un cliente</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>the file begins with a byte order mark, which becomes part of its first name</source>

@@ -189,6 +189,61 @@
     </message>
 </context>
 <context>
+    <name>Document</name>
+    <message>
+        <source>The ticket that carries an order to where it is prepared: quantities and names</source>
+        <translation>Le bon qui porte une commande là où elle est préparée : quantités et noms</translation>
+    </message>
+    <message>
+        <source>The pre-bill: items with prices</source>
+        <translation>La note provisoire : articles avec prix</translation>
+    </message>
+    <message>
+        <source>The receipt, one line per item</source>
+        <translation>Le reçu, une ligne par article</translation>
+    </message>
+    <message>
+        <source>The invoice, one line per item</source>
+        <translation>La facture, une ligne par article</translation>
+    </message>
+    <message>
+        <source>The delivery note: its items are printed as on a ticket</source>
+        <translation>Le bon de livraison : les articles comme sur un bon</translation>
+    </message>
+    <message>
+        <source>The fiscal receipt: a command line per item for the fiscal printer</source>
+        <translation>Le ticket fiscal : une commande par article pour l’imprimante fiscale</translation>
+    </message>
+    <message>
+        <source>An order in summary: it prints nothing</source>
+        <translation>Une commande en résumé : n’imprime rien</translation>
+    </message>
+    <message>
+        <source>The receipt, one line per type of item</source>
+        <translation>Le reçu, une ligne par type d’article</translation>
+    </message>
+    <message>
+        <source>The invoice, one line per type of item</source>
+        <translation>La facture, une ligne par type d’article</translation>
+    </message>
+    <message>
+        <source>The fiscal receipt, one command line per type of item</source>
+        <translation>Le ticket fiscal, une commande par type d’article</translation>
+    </message>
+    <message>
+        <source>The summary of a period</source>
+        <translation>Le résumé d’une période</translation>
+    </message>
+    <message>
+        <source>The items sold in a period</source>
+        <translation>Les articles vendus sur une période</translation>
+    </message>
+    <message>
+        <source>A customer&apos;s statement of account</source>
+        <translation>Le relevé de compte d’un client</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>the file begins with a byte order mark, which becomes part of its first name</source>

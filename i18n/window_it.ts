@@ -189,6 +189,61 @@
     </message>
 </context>
 <context>
+    <name>Document</name>
+    <message>
+        <source>The ticket that carries an order to where it is prepared: quantities and names</source>
+        <translation>La comanda che porta l’ordine dove si prepara: quantità e nomi</translation>
+    </message>
+    <message>
+        <source>The pre-bill: items with prices</source>
+        <translation>Il preconto: articoli con prezzi</translation>
+    </message>
+    <message>
+        <source>The receipt, one line per item</source>
+        <translation>La ricevuta, una riga per articolo</translation>
+    </message>
+    <message>
+        <source>The invoice, one line per item</source>
+        <translation>La fattura, una riga per articolo</translation>
+    </message>
+    <message>
+        <source>The delivery note: its items are printed as on a ticket</source>
+        <translation>La bolla di consegna: gli articoli come in una comanda</translation>
+    </message>
+    <message>
+        <source>The fiscal receipt: a command line per item for the fiscal printer</source>
+        <translation>Lo scontrino fiscale: un comando per articolo per la stampante fiscale</translation>
+    </message>
+    <message>
+        <source>An order in summary: it prints nothing</source>
+        <translation>Un ordine in sintesi: non stampa nulla</translation>
+    </message>
+    <message>
+        <source>The receipt, one line per type of item</source>
+        <translation>La ricevuta, una riga per tipo di articolo</translation>
+    </message>
+    <message>
+        <source>The invoice, one line per type of item</source>
+        <translation>La fattura, una riga per tipo di articolo</translation>
+    </message>
+    <message>
+        <source>The fiscal receipt, one command line per type of item</source>
+        <translation>Lo scontrino fiscale, un comando per tipo di articolo</translation>
+    </message>
+    <message>
+        <source>The summary of a period</source>
+        <translation>Il riepilogo di un periodo</translation>
+    </message>
+    <message>
+        <source>The items sold in a period</source>
+        <translation>Il venduto di un periodo</translation>
+    </message>
+    <message>
+        <source>A customer&apos;s statement of account</source>
+        <translation>L’estratto conto di un cliente</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>the file begins with a byte order mark, which becomes part of its first name</source>

@@ -2,61 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>Document</name>
-    <message>
-        <source>The ticket that carries an order to where it is prepared: quantities and names</source>
-        <translation>Der Bon, der eine Bestellung in die Küche bringt: Mengen und Namen</translation>
-    </message>
-    <message>
-        <source>The pre-bill: items with prices</source>
-        <translation>Die Vorrechnung: Posten mit Preisen</translation>
-    </message>
-    <message>
-        <source>The receipt, one line per item</source>
-        <translation>Die Quittung, eine Zeile je Posten</translation>
-    </message>
-    <message>
-        <source>The invoice, one line per item</source>
-        <translation>Die Rechnung, eine Zeile je Posten</translation>
-    </message>
-    <message>
-        <source>The delivery note: its items are printed as on a ticket</source>
-        <translation>Der Lieferschein: die Posten wie auf einem Bon</translation>
-    </message>
-    <message>
-        <source>The fiscal receipt: a command line per item for the fiscal printer</source>
-        <translation>Der Fiskalbon: eine Befehlszeile je Posten für den Fiskaldrucker</translation>
-    </message>
-    <message>
-        <source>An order in summary: it prints nothing</source>
-        <translation>Eine Bestellung in Kürze: druckt nichts</translation>
-    </message>
-    <message>
-        <source>The receipt, one line per type of item</source>
-        <translation>Die Quittung, eine Zeile je Warengruppe</translation>
-    </message>
-    <message>
-        <source>The invoice, one line per type of item</source>
-        <translation>Die Rechnung, eine Zeile je Warengruppe</translation>
-    </message>
-    <message>
-        <source>The fiscal receipt, one command line per type of item</source>
-        <translation>Der Fiskalbon, eine Befehlszeile je Warengruppe</translation>
-    </message>
-    <message>
-        <source>The summary of a period</source>
-        <translation>Die Zusammenfassung eines Zeitraums</translation>
-    </message>
-    <message>
-        <source>The items sold in a period</source>
-        <translation>Das Verkaufte eines Zeitraums</translation>
-    </message>
-    <message>
-        <source>A customer&apos;s statement of account</source>
-        <translation>Der Kontoauszug eines Kunden</translation>
-    </message>
-</context>
-<context>
     <name>HLibrary</name>
     <message>
         <source>PaperWindow</source>

@@ -10,7 +10,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QRegularExpression>
-#include <QScrollArea>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -262,9 +261,9 @@ protected:
         return lines;
     }
 
-    QScrollArea *const area = editor.findChild<QScrollArea *>();
-    configtool::SheetView *const view = dynamic_cast<configtool::SheetView *>(area->widget());
-    configtool::PaperPane *const pane = dynamic_cast<configtool::PaperPane *>(area->parentWidget());
+    configtool::SheetView *const view =
+        dynamic_cast<configtool::SheetView *>(editor.findChild<QListView *>(u"paper"_s));
+    configtool::PaperPane *const pane = dynamic_cast<configtool::PaperPane *>(view->parentWidget());
     QLabel *const remark = pane->findChildren<QLabel *>().last();
     QComboBox *const documents = pane->findChild<QComboBox *>();
 };
@@ -323,8 +322,9 @@ TEST_F(Paper, ShadesTheSettingsThatShapeALine)
     select(u"paperWidth"_s);
     const auto click = [this](const QString &text, int above) {
         const qsizetype row = drawn().indexOf(QRegularExpression(u".*"_s + text + u".*"_s)) - above;
-        const int height = view->height() / int(drawn().size());
-        QTest::mouseClick(view, Qt::LeftButton, {}, {20, int(row) * height + height / 2});
+        const QModelIndex place = view->model()->index(int(row), 0);
+        view->scrollTo(place);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(place).center());
     };
     const auto isShaded = [this](const QString &key) {
         return select(key)->background(0).style() != Qt::NoBrush;

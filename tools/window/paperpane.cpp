@@ -13,11 +13,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
-#include <QPainter>
-#include <QScrollArea>
+#include <QPaintEvent>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -66,73 +63,58 @@ QStringList otherValues(const Setting &setting, const QString &value)
 
 SheetView::SheetView()
 {
-    setFocusPolicy(Qt::StrongFocus);
-    measure();
+    setObjectName("paper"_L1);
+    setModel(&places);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    QPalette desk = palette();
+    desk.setColor(QPalette::Base, preview::Colours().desk.ground);
+    setPalette(desk);
+    layOut();
 }
 
 void SheetView::show(preview::Sheet shown)
 {
     sheet = std::move(shown);
-    current = std::min(current, qsizetype(sheet.rows.size()) - 1);
-    measure();
+    const int more = int(sheet.rows.size()) - places.rowCount();
+    if (more > 0)
+        places.insertRows(places.rowCount(), more);
+    else if (more < 0)
+        places.removeRows(places.rowCount() + more, -more);
+    layOut();
 }
 
 void SheetView::fade()
 {
     sheet.changed.clear();
-    update();
+    viewport()->update();
 }
 
 void SheetView::setPaper(const preview::PaperSize &size)
 {
     paper = size;
-    measure();
+    layOut();
 }
 
-void SheetView::measure()
+void SheetView::layOut()
 {
     painter.emplace(sheet, paper, preview::SheetPainter::Frame::Bare);
-    resize(painter->size());
-    update();
+    setGridSize({painter->size().width(), 2 * painter->cellWidth()});
+    viewport()->update();
 }
 
 void SheetView::paintEvent(QPaintEvent *event)
 {
-    QPainter canvas(this);
+    QPainter canvas(viewport());
     canvas.setClipRect(event->rect());
+    const QSize size = painter->size();
+    canvas.translate(qMax((viewport()->width() - size.width()) / 2, -horizontalOffset()),
+                     -verticalOffset());
     painter->paint(canvas, {});
     const int height = 2 * painter->cellWidth();
-    if (current >= 0)
-        canvas.drawRect(0, int(current) * height, width() - 1, height - 1);
-}
-
-void SheetView::setCurrent(qsizetype row)
-{
-    current = row;
-    update();
-    const int height = 2 * painter->cellWidth();
-    if (auto *const area = qobject_cast<QScrollArea *>(parentWidget()->parentWidget()))
-        area->ensureVisible(0, int(row) * height, 0, 2 * height);
-}
-
-void SheetView::mousePressEvent(QMouseEvent *event)
-{
-    setCurrent(painter->rowAt(int(event->position().y())));
-    if (current >= 0)
-        chosen(current);
-}
-
-void SheetView::keyPressEvent(QKeyEvent *event)
-{
-    const qsizetype last = qsizetype(sheet.rows.size()) - 1;
-    if (event->key() == Qt::Key_Down && current < last)
-        setCurrent(current + 1);
-    else if (event->key() == Qt::Key_Up && current > 0)
-        setCurrent(current - 1);
-    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && current >= 0)
-        chosen(current);
-    else
-        QWidget::keyPressEvent(event);
+    if (const QModelIndex current = currentIndex(); current.isValid())
+        canvas.drawRect(0, current.row() * height, size.width() - 1, height - 1);
 }
 
 UnsavedConfiguration::UnsavedConfiguration()
@@ -164,7 +146,6 @@ PaperPane::PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration)
     , configuration(configuration)
     , documents(new QComboBox)
     , widths(new QComboBox)
-    , area(new QScrollArea)
     , view(new SheetView)
     , remark(new QLabel)
 {
@@ -178,12 +159,6 @@ PaperPane::PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration)
     addSamples();
     for (const int width : {80, 58})
         widths->addItem(tr("%1 mm").arg(width), width);
-    area->setWidget(view);
-    area->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    QPalette desk = area->palette();
-    desk.setColor(QPalette::Window, preview::Colours().desk.ground);
-    area->viewport()->setPalette(desk);
-    area->setBackgroundRole(QPalette::Window);
     remark->setWordWrap(true);
     remark->setTextFormat(Qt::PlainText);
     documents->setAccessibleName(tr("Document"));
@@ -195,28 +170,26 @@ PaperPane::PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration)
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addLayout(choices);
-    layout->addWidget(area, 1);
+    layout->addWidget(view, 1);
     layout->addWidget(remark);
 
     connect(documents, &QComboBox::currentIndexChanged, this, &PaperPane::chooseDocument);
     connect(widths, &QComboBox::currentIndexChanged, this, [this] {
         view->setPaper({view->paperSize().dpi, widths->currentData().toInt()});
     });
-    view->chosen = [this](qsizetype row) { explain(size_t(row)); };
+    for (const auto chosen : {&QListView::clicked, &QListView::activated})
+        connect(view, chosen, this, [this](const QModelIndex &at) { explain(size_t(at.row())); });
     chooseDocument();
 }
 
-/// The samples, in the order of the methods. What they are is translated beside the labels, whose
-/// catalogue is not installed here: it would reach the paper.
+/// The samples, in the order of the methods.
 void PaperPane::addSamples()
 {
-    QTranslator translated;
-    (void)translated.load(QLocale(), u"zentaro"_s, u"_"_s, u":/i18n"_s);
     for (size_t i = 0; i < documentMethods.size(); ++i) {
         const QLatin1StringView method = documentMethods[i].name;
-        const QString summary = requestcheck::summaryOf(qsizetype(i));
-        const QString text = translated.translate("Document", summary.toLatin1().data());
-        documents->addItem(text.isEmpty() ? summary : text, ":/samples/"_L1 + method + ".xml"_L1);
+        const QLatin1StringView summary = requestcheck::summaryOf(qsizetype(i));
+        documents->addItem(QCoreApplication::translate("Document", summary.data()),
+                           ":/samples/"_L1 + method + ".xml"_L1);
         documents->setItemData(int(i), QString(method), Qt::ToolTipRole);
     }
     documents->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

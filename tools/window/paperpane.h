@@ -5,6 +5,8 @@
 #include "tools/window/configtree.h"
 #include "tools/window/sheetpainter.h"
 
+#include <QListView>
+#include <QStringListModel>
 #include <QTimer>
 #include <QTranslator>
 
@@ -13,12 +15,11 @@
 
 class QComboBox;
 class QLabel;
-class QScrollArea;
 
 namespace configtool {
 
 /// A sheet on the screen, of which a row can be chosen: by a click, or by the arrow keys and Enter.
-class SheetView : public QWidget
+class SheetView : public QListView
 {
 public:
     SheetView();
@@ -32,22 +33,16 @@ public:
     const preview::Sheet &rows() const { return sheet; }
     preview::PaperSize paperSize() const { return paper; }
 
-    /// Told of the row that is chosen.
-    std::function<void(qsizetype row)> chosen = [](qsizetype) {};
-
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void measure();
-    void setCurrent(qsizetype row);
+    void layOut();
 
     preview::Sheet sheet;
     preview::PaperSize paper{128, 80};
     std::optional<preview::SheetPainter> painter; // of the sheet
-    qsizetype current = -1;
+    QStringListModel places;                      // of the rows; what they show is the sheet's
 };
 
 /// The configuration as it stands in a window, unsaved: what the print run asks.
@@ -96,7 +91,6 @@ private:
     QStringList groups; // whose settings print the request
     QComboBox *const documents;
     QComboBox *const widths;
-    QScrollArea *const area;
     SheetView *const view;
     QLabel *const remark;
     std::vector<preview::Row> settled; // what changes are marked against

@@ -98,12 +98,6 @@ QSize SheetPainter::size() const
     return {left + paperWidth + right, top(std::max<size_t>(sheet.rows.size(), 1)) + foot};
 }
 
-qsizetype SheetPainter::rowAt(int y) const
-{
-    const qsizetype row = y < head ? -1 : (y - head) / (2 * cell);
-    return row < qsizetype(sheet.rows.size()) ? row : -1;
-}
-
 Cells SheetPainter::markOf(const Row &row) const
 {
     QStringList parts;

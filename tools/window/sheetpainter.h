@@ -44,8 +44,6 @@ public:
     int cellWidth() const { return cell; }
     /// Paints the sheet at the origin. Rows outside of the painter's clip are left out.
     void paint(QPainter &painter, const Colours &colours) const;
-    /// The row at a height: its place in the sheet; -1 above the first and below the last one.
-    qsizetype rowAt(int y) const;
 
 private:
     struct Glyph
