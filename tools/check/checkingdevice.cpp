@@ -15,13 +15,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The first names, and how many others there are.
-QString someOf(const std::vector<QString> &names)
+QString someOf(QStringList names)
 {
     constexpr qsizetype Most = 4;
-    const QStringList all(names.begin(), names.end());
-    const qsizetype rest = all.size() - Most;
-    return u'`' + all.first(qMin(Most, all.size())).join("`, `"_L1) + u'`'
-           + (rest > 0 ? " and %1 more"_L1.arg(QString::number(rest)) : QString());
+    const qsizetype rest = names.size() - Most;
+    names.resize(qMin(Most, names.size()));
+    return u'`' + names.join("`, `"_L1) + u'`'
+           + (rest > 0 ? u" and %1 more"_s.arg(rest) : QString());
 }
 
 /// Attributes of name spaces are read by others.
@@ -49,7 +49,7 @@ CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &fin
 }
 
 bool CheckingDevice::startElement(const QString &namespaceURI, const QString &localName,
-                                  const QString &qName, const QXmlAttributes &atts)
+                                  const QString &qName, const QXmlAttributes &attributes)
 {
     unlessGroup.reset(); // it groups this one
     if (root.begin.line == 0) {
@@ -57,13 +57,16 @@ bool CheckingDevice::startElement(const QString &namespaceURI, const QString &lo
         checkDeclaration();
     }
     open.push_back({qName, places.tag().begin.line});
-    current = {qName, ownAttributes(atts), nullptr};
+    elementName = qName;
+    atts = ownAttributes(attributes);
+    row = nullptr;
     hasPrinted = false;
     if (qName != element::method)
         checkElement();
     else if (!startMethod())
         return false;
-    const bool accepted = CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
+    const bool accepted =
+        CompanyPrinterDriver::startElement(namespaceURI, localName, qName, attributes);
     checkDescription();
     paper.truncate(0);
     return accepted;
@@ -106,11 +109,11 @@ void CheckingDevice::checkDeclaration()
     const QString &head = places.head();
     const std::u16string_view text(QStringView(head).utf16(), size_t(head.size()));
     const size_t quote = text.find_first_of(u"\"'", text.find(u"encoding"));
-    if (!head.startsWith("<?xml"_L1) || quote == text.npos || quote > text.find(u"?>"))
+    if (!text.starts_with(u"<?xml") || quote == text.npos || quote > text.find(u"?>"))
         return;
     const QStringView before = QStringView(head).first(qsizetype(quote) + 1);
-    const QString name = head.sliced(before.size(), qsizetype(text.find_first_of(u"\"'", quote + 1))
-                                                        - before.size());
+    const auto end = qsizetype(text.find_first_of(u"\"'", quote + 1));
+    const QString name = head.sliced(before.size(), end - before.size());
     if (name.startsWith("utf"_L1, Qt::CaseInsensitive))
         return;
     requestCodec = QTextCodec::codecForName(name.toLatin1());
@@ -119,19 +122,18 @@ void CheckingDevice::checkDeclaration()
     const qint64 column = before.size() - before.lastIndexOf(u'\n');
     const qint64 line = 1 + before.count(u'\n');
     tell("unknown-encoding",
-         "nobody knows the encoding "_L1 + tools::excerpt(name)
-             + ": the request is read as UTF-8"_L1,
+         u"nobody knows the encoding %1: the request is read as UTF-8"_s.arg(tools::excerpt(name)),
          {{line, column}, {line, column + name.size()}});
 }
 
 bool CheckingDevice::startMethod()
 {
-    const QString name = valueOf(current.atts, "name"_L1);
+    const QString name = valueOf(atts, "name"_L1);
     const DocumentMethod *const chosen = documentMethod(name);
     if (!chosen) {
         tell("unknown-method",
-             (current.atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
-                                                : "unknown method "_L1 + tools::excerpt(name))
+             (atts.index("name"_L1) < 0 ? u"`method` lacks the attribute `name`"_s
+                                        : "unknown method "_L1 + tools::excerpt(name))
                  + ": the print run stops here"_L1,
              placeOf("name"_L1), methodNear(name));
         return false;
@@ -143,14 +145,14 @@ bool CheckingDevice::startMethod()
     methodTag = places.tag();
     seenRoles.clear();
     knownElements.clear();
-    for (const ElementRow *const row : rowsOf(method))
-        knownElements.push_back(row->element.toString());
+    for (const ElementRow *const read : rowsOf(method))
+        knownElements.push_back(read->element.toString());
     if (knownElements.empty())
-        tell("prints-nothing", u'`' + name + "` prints nothing, whatever the request holds"_L1,
+        tell("prints-nothing", u"`%1` prints nothing, whatever the request holds"_s.arg(name),
              methodTag);
-    current.row = &methodElement();
-    for (int i = 0; i < current.atts.count(); ++i) {
-        if (fateOf(*current.row, current.atts, i, settings) == Fate::Unread)
+    row = &methodElement();
+    for (int i = 0; i < atts.count(); ++i) {
+        if (fateOf(*row, atts, i, settings) == Fate::Unread)
             tellUnread(i);
     }
     return true;
@@ -159,40 +161,41 @@ bool CheckingDevice::startMethod()
 /// Whether the document that ends has what it is for.
 void CheckingDevice::checkComplete()
 {
-    const auto check = [this](Role role, Code code, QLatin1StringView what) {
+    const auto check = [this](Role role, Code code, const QString &fault) {
         const QString name = method < 0 ? QString() : elementWith(role, method);
         if (!name.isEmpty() && !seenRoles.contains(role))
-            tell(code, what + ": no `"_L1 + name + "` is printed"_L1, methodTag);
+            tell(code, fault.arg(name), methodTag);
     };
-    check(Role::Item, "no-items", "the document has no items"_L1);
-    check(Role::Total, "no-total", "the document has no total"_L1);
+    check(Role::Item, "no-items", u"the document has no items: no `%1` is printed"_s);
+    check(Role::Total, "no-total", u"the document has no total: no `%1` is printed"_s);
 }
 
 void CheckingDevice::checkElement()
 {
     if (method >= 0) {
-        current.row = elementRow(current.name, method);
-        if (current.row)
+        row = elementRow(elementName, method);
+        if (row)
             checkAttributes();
         else if (!knownElements.empty())
             checkUnknownElement();
         return;
     }
-    const bool isKnown = isElement(current.name);
+    const bool isKnown = isElement(elementName);
     if (open.size() == 1 && !isKnown) // the root
         return;
     const QString meant = element::method.toString();
-    tellUnlessGroup(finding(
-        "before-method",
-        tools::excerpt(current.name) + " stands before the `method` element and prints nothing"_L1,
-        places.tag(), isKnown ? QString() : tools::nearest(current.name, {&meant, 1})));
+    tellUnlessGroup(finding("before-method",
+                            u"%1 stands before the `method` element and prints nothing"_s.arg(
+                                tools::excerpt(elementName)),
+                            places.tag(),
+                            isKnown ? QString() : tools::nearest(elementName, {&meant, 1})));
 }
 
 /// An element of a name that nobody knows, without attributes, may group others.
 void CheckingDevice::tellUnlessGroup(const tools::Finding &told)
 {
     unlessGroup = told;
-    if (!told.suggestion.isEmpty() || hasPlainAttributes(current.atts) || isElement(current.name))
+    if (!told.suggestion.isEmpty() || hasPlainAttributes(atts) || isElement(elementName))
         finish();
 }
 
@@ -200,21 +203,20 @@ void CheckingDevice::tellUnlessGroup(const tools::Finding &told)
 /// the same role in it. Empty where nothing is near.
 QString CheckingDevice::meantElement() const
 {
-    std::vector<QString> names = knownElements;
-    std::vector<QString> meant = knownElements;
-    for (const ElementRow &row : elementRows()) {
-        const QString same = elementWith(row.role, method);
-        if (row.role != Role::Other && !same.isEmpty()) {
-            names.push_back(row.element.toString());
+    std::vector<QString> names(knownElements.begin(), knownElements.end());
+    std::vector<QString> meant = names;
+    for (const ElementRow &other : elementRows()) {
+        const QString same = elementWith(other.role, method);
+        if (other.role != Role::Other && !same.isEmpty()) {
+            names.push_back(other.element.toString());
             meant.push_back(same);
         }
     }
-    const size_t found =
-        std::ranges::find(names, tools::nearest(current.name, names)) - names.begin();
+    const auto found = std::ranges::find(names, tools::nearest(elementName, names)) - names.begin();
     const bool isRead = found < knownElements.size();
-    if (found == names.size() || (isRead && isElement(current.name)))
+    if (size_t(found) == names.size() || (isRead && isElement(elementName)))
         return {}; // an element of another document is none that is misspelt
-    return meant[found];
+    return meant[size_t(found)];
 }
 
 void CheckingDevice::checkUnknownElement()
@@ -224,9 +226,9 @@ void CheckingDevice::checkUnknownElement()
     QString text;
     if (!findings.isFull(code.name)) { // else it is only counted
         meant = meantElement();
-        text = tools::excerpt(current.name) + " prints nothing in `"_L1 + currentMethod + u'`';
-        if (isElement(current.name))
-            text += ": it is read in "_L1 + someOf(documentsWith(current.name));
+        text = u"%1 prints nothing in `%2`"_s.arg(tools::excerpt(elementName), currentMethod);
+        if (isElement(elementName))
+            text += ": it is read in "_L1 + someOf(documentsWith(elementName));
         else if (meant.isEmpty())
             text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
     }
@@ -235,73 +237,68 @@ void CheckingDevice::checkUnknownElement()
 
 void CheckingDevice::checkAttributes()
 {
-    const ElementRow &row = *current.row;
-    if (current.name == element::printers)
+    if (elementName == element::printers)
         printer = placeOf("name"_L1);
-    else if (current.name == element::headers && printer.begin.line == 0)
+    else if (elementName == element::headers && printer.begin.line == 0)
         tell("no-printer",
              u"`headers` prints the printer's name, which no `printers` before it gives"_s,
              places.tag());
-    if (row.rest == Rest::Ignored) {
-        if (hasPlainAttributes(current.atts))
+    if (row->rest == Rest::Ignored) {
+        if (hasPlainAttributes(atts))
             tell("prints-nothing",
-                 u'`' + current.name + "` prints nothing in `"_L1 + currentMethod
-                     + "`, its payments included"_L1,
+                 u"`%1` prints nothing in `%2`, its payments included"_s.arg(elementName,
+                                                                             currentMethod),
                  places.tag());
         return;
     }
-    if (row.isHidden(current.atts))
+    if (row->isHidden(atts))
         tell("hidden-item", u"an item whose name begins with `=` is not printed"_s,
              placeOf("name"_L1));
     else
-        seenRoles.insert(row.role);
-    if (isOff(settings, row.onlyIf))
-        tellSwitchedOff(row.onlyIf, current.name, places.tag());
-    for (int i = 0; i < current.atts.count(); ++i)
+        seenRoles.insert(row->role);
+    if (isOff(settings, row->onlyIf))
+        tellSwitchedOff(row->onlyIf, elementName, places.tag());
+    for (int i = 0; i < atts.count(); ++i)
         checkAttribute(i);
-    checkMissing();
-    if (row.rest == Rest::Triples)
+    if (!isOff(settings, row->onlyIf) && !row->isHidden(atts))
+        checkMissing();
+    if (row->rest == Rest::Triples)
         checkTriples();
 }
 
 void CheckingDevice::checkAttribute(int position)
 {
-    const ElementRow &row = *current.row;
-    const QString name = current.atts.qName(position);
-    const Fate fate = fateOf(row, current.atts, position, settings);
-    const AttributeUse *const use = row.find(name);
+    const Fate fate = fateOf(*row, atts, position, settings);
+    const AttributeUse *const use = row->find(atts.qName(position));
     if (fate == Fate::Unread)
         tellUnread(position);
-    else if (fate == Fate::Printed && !row.isHidden(current.atts))
+    else if (fate == Fate::Printed && !row->isHidden(atts))
         checkValue(position);
-    else if (fate == Fate::SwitchedOff && use && !isOff(settings, row.onlyIf)
-             && !current.atts.value(position).isEmpty())
-        tellSwitchedOff(use->onlyIf, name, places.attribute(position));
+    else if (fate == Fate::SwitchedOff && use && !isOff(settings, row->onlyIf)
+             && !atts.value(position).isEmpty())
+        tellSwitchedOff(use->onlyIf, use->name, places.attribute(position));
 }
 
 void CheckingDevice::tellUnread(int position)
 {
-    const QString name = current.atts.qName(position);
+    const QString name = atts.qName(position);
     const Range at = places.attribute(position);
-    if (current.row->find(name)) {
-        tell("duplicate-attribute",
-             "a second `"_L1 + name + "` in `"_L1 + current.name + "` is not read"_L1, at);
-        return;
-    }
+    if (row->find(name))
+        return tell("duplicate-attribute",
+                    u"a second `%1` in `%2` is not read"_s.arg(name, elementName), at);
     if (isOfNameSpace(name))
         return;
     const Code code = "unknown-attribute";
-    if (findings.isFull(code.name)) {
-        tell(code, {}, {});
-        return;
-    }
+    if (findings.isFull(code.name))
+        return tell(code, {}, at);
     std::vector<QString> names;
-    for (const AttributeUse &use : current.row->attributes)
+    for (const AttributeUse &use : row->attributes)
         names.push_back(use.name);
     const QString meant = tools::nearest(name, names);
-    QString text = u'`' + current.name + "` does not read "_L1 + tools::excerpt(name);
+    QString text = u"`%1` does not read %2"_s.arg(elementName, tools::excerpt(name));
     if (meant.isEmpty())
-        text += names.empty() ? ", nor any other"_L1 : QString(", but "_L1 + someOf(names));
+        text += names.empty() ? u", nor any other"_s
+                              : ", but "_L1 + someOf({names.begin(), names.end()});
     tell(code, text, at, meant);
 }
 
@@ -309,49 +306,41 @@ void CheckingDevice::tellUnread(int position)
 void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what,
                                      const Range &at)
 {
-    if (!isConfigured)
-        return;
     const QString key = docPath + keyWordOf(aSwitch);
-    if (toldSwitches.insert(key).second)
-        tell("switch-off", u'`' + key + "` is off: `"_L1 + what + "` is not printed"_L1, at);
+    if (isConfigured && toldSwitches.insert(key).second)
+        tell("switch-off", u"`%1` is off: `%2` is not printed"_s.arg(key, what), at);
 }
 
 void CheckingDevice::checkMissing()
 {
-    const ElementRow &row = *current.row;
-    if (isOff(settings, row.onlyIf) || row.isHidden(current.atts))
-        return;
-    for (const AttributeUse &use : row.attributes) {
-        if (isOff(settings, use.onlyIf) || use.need != Need::Expected
-            || current.atts.index(use.name) >= 0)
-            continue;
-        const auto instead = use.column == Column::Sign ? "`-`"_L1 : "empty"_L1;
-        tell("missing-attribute",
-             u'`' + current.name + "` lacks `"_L1 + use.name + "`, which prints "_L1 + instead,
-             places.tag());
+    for (const AttributeUse &use : row->attributes) {
+        if (!isOff(settings, use.onlyIf) && use.need == Need::Expected && atts.index(use.name) < 0)
+            tell("missing-attribute",
+                 u"`%1` lacks `%2`, which prints %3"_s.arg(
+                     elementName, use.name, use.column == Column::Sign ? "`-`"_L1 : "empty"_L1),
+                 places.tag());
     }
 }
 
 /// The documents stand by position behind the named attributes, which have to come first.
 void CheckingDevice::checkTriples()
 {
-    const auto named = current.row->attributes;
-    const int first = int(named.size());
-    for (int i = 0; i < first; ++i) {
-        const int position = current.atts.index(named[size_t(i)].name);
-        if (position >= first || (position < 0 && current.atts.count() > first))
+    constexpr int PerDocument = 3;
+    const int first = int(row->attributes.size());
+    for (const AttributeUse &use : row->attributes) {
+        const int position = atts.index(use.name);
+        if (position >= first || (position < 0 && atts.count() > first))
             tell("attribute-order",
-                 u'`' + named[size_t(i)].name
-                     + "` has to stand before the documents, which are read by position"_L1,
+                 u"`%1` has to stand before the documents, which are read by position"_s.arg(
+                     use.name),
                  places.attribute(position));
     }
-    constexpr int PerDocument = 3;
-    const int missing = (PerDocument - (current.atts.count() - first) % PerDocument) % PerDocument;
-    if (current.atts.count() > first && missing > 0)
+    const int missing = (PerDocument - (atts.count() - first) % PerDocument) % PerDocument;
+    if (atts.count() > first && missing > 0)
         tell("missing-attribute",
-             "the last document of `"_L1 + current.name + "` lacks "_L1 + QString::number(missing)
-                 + " of its 3 attributes"_L1,
-             places.attribute(current.atts.count() - 1));
+             u"the last document of `%1` lacks %2 of its 3 attributes"_s.arg(
+                 elementName, QString::number(missing)),
+             places.attribute(atts.count() - 1));
 }
 
 } // namespace requestcheck

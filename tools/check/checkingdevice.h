@@ -38,7 +38,7 @@ public:
     tools::Place rootTag() const { return root.begin; }
 
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
-                      const QXmlAttributes &atts) override;
+                      const QXmlAttributes &attributes) override;
     bool endElement(const QString &namespaceURI, const QString &localName,
                     const QString &qName) override;
     bool skippedEntity(const QString &name) override;
@@ -52,21 +52,13 @@ public:
     using CompanyPrinterDriver::printRowFiscal;
 
 private:
-    /// The element that is being printed.
-    struct Element
-    {
-        QString name;
-        QXmlAttributes atts;
-        const ElementRow *row = nullptr; ///< null: the method does not react to it
-    };
-
     void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {})
     {
         findings.add(finding(code, text, at, suggestion));
     }
     Range placeOf(QLatin1StringView attribute) const
     {
-        return places.attribute(current.atts.index(attribute));
+        return places.attribute(atts.index(attribute));
     }
 
     void checkDeclaration();
@@ -90,9 +82,15 @@ private:
     // The paper.
     void checkLine(const QString &text, qsizetype pad);
     int longestIn(const QString &text) const;
-    void tellTooLong(const QString &text, qsizetype excess);
+    Range placeIn(const QString &text) const;
+    void tellTooLong(const QString &text);
     void checkDescription();
     void tellCut(QLatin1StringView attribute, const QString &lost);
+
+    // The element that is being printed.
+    QString elementName;
+    QXmlAttributes atts;
+    const ElementRow *row = nullptr; // null: the method does not react to it
 
     const TagPlaces &places;
     tools::FindingStore &findings;
@@ -105,13 +103,12 @@ private:
     std::vector<OpenElement> open;
     std::optional<tools::Finding> unlessGroup; // about the innermost, unless it groups others
     Range root;
-    Range printer;                      // where its name stands; line 0 before it
-    Range methodTag;                    // of the chosen one
-    qsizetype method = -1;              // its place in documentMethods
-    std::set<Role> seenRoles;           // in its document
-    std::vector<QString> knownElements; // of the method
-    std::set<QString> toldSwitches;     // by their keys
-    Element current;
+    Range printer;                  // where its name stands; line 0 before it
+    Range methodTag;                // of the chosen one
+    qsizetype method = -1;          // its place in documentMethods
+    std::set<Role> seenRoles;       // in its document
+    QStringList knownElements;      // of the method
+    std::set<QString> toldSwitches; // by their keys
 };
 
 } // namespace requestcheck

@@ -310,9 +310,9 @@ bool isElement(QStringView name)
     return std::ranges::find(rows, name, &ElementRow::element) != rows.end();
 }
 
-std::vector<QString> documentsWith(QStringView element)
+QStringList documentsWith(QStringView element)
 {
-    std::vector<QString> names;
+    QStringList names;
     for (size_t i = 0; i < documentMethods.size(); ++i) {
         if (elementRow(element, qsizetype(i)))
             names.push_back(documentMethods[i].name);

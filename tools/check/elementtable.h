@@ -87,7 +87,7 @@ QString elementWith(Role role, qsizetype method);
 /// Whether any document reads an element of this name.
 bool isElement(QStringView name);
 /// The names of the documents that read the element.
-std::vector<QString> documentsWith(QStringView element);
+QStringList documentsWith(QStringView element);
 /// The rows that a document reads, those of its top first.
 std::vector<const ElementRow *> rowsOf(qsizetype method);
 /// The name of the document method that is nearest to a word; empty when none is near.

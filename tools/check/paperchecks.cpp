@@ -28,15 +28,6 @@ bool hasControl(QStringView text)
     return std::ranges::any_of(text, [](QChar c) { return c.unicode() < 0x20; });
 }
 
-/// How much of the beginning of `text`, `most` characters at most, stands in the line.
-qsizetype printedPart(QStringView text, qsizetype most, const QString &line)
-{
-    qsizetype size = qBound(qsizetype(0), most, text.size());
-    while (size > 0 && !line.contains(asPrinted(text.first(size))))
-        --size;
-    return size;
-}
-
 QString inCharacters(qsizetype count)
 {
     return QString::number(count) + (count == 1 ? " character"_L1 : " characters"_L1);
@@ -55,24 +46,23 @@ char32_t firstOf(const preview::Cells &characters, auto &&is)
 
 void CheckingDevice::checkValue(int position)
 {
-    const QString value = current.atts.value(position);
-    const QString name = tools::excerpt(current.atts.qName(position));
+    const QString value = atts.value(position);
+    const QString name = tools::excerpt(atts.qName(position));
     const Range at = places.attribute(position);
-    const auto *const control = std::ranges::find_if(
-        value, [](QChar c) { return c.category() == QChar::Other_Control; });
+    const auto *const control =
+        std::ranges::find_if(value, [](QChar c) { return c.category() == QChar::Other_Control; });
     if (value.contains(u'\n') || value.contains(u'\r'))
         tell("line-feed",
-             "a line end in "_L1 + name + ": the printer takes what follows for a command"_L1, at);
+             u"a line end in %1: the printer takes what follows for a command"_s.arg(name), at);
     else if (control != value.end())
         tell("control-character",
-             "the control character "_L1 + tools::excerpt(QString(*control)) + " in "_L1 + name,
-             at);
-    const bool isFramed = !current.row->find(u"department"); // unlike a fiscal command
+             u"the control character %1 in %2"_s.arg(tools::excerpt(QString(*control)), name), at);
+    const bool isFramed = !row->find(u"department"); // unlike a fiscal command
     if (isFramed && value.contains("\"@"_L1))
-        tell("end-mark", "`\"@` in "_L1 + name + " ends the printed line early"_L1, at);
+        tell("end-mark", u"`\"@` in %1 ends the printed line early"_s.arg(name), at);
     if (std::ranges::any_of(value, [](QChar c) { return c.unicode() >= 0x80; }))
         checkEncoding(value, name, at);
-    if (const AttributeUse *const use = current.row->find(current.atts.qName(position)))
+    if (const AttributeUse *const use = row->find(atts.qName(position)))
         checkMeaning(position, *use);
 }
 
@@ -82,15 +72,15 @@ void CheckingDevice::checkEncoding(const QString &value, const QString &name, co
     const preview::Cells characters = preview::cellsOf(value);
     if (value.contains(QChar::ReplacementCharacter))
         return tell("undecodable",
-                    name + " has bytes that are not in the encoding of the request"_L1, at);
+                    u"%1 has bytes that are not in the encoding of the request"_s.arg(name), at);
     if (!value.isValidUtf16()
         || firstOf(characters, [](char32_t c) { return QChar::isNonCharacter(c); }))
-        return tell("no-character", "a reference in "_L1 + name + " is to no character"_L1, at);
+        return tell("no-character", u"a reference in %1 is to no character"_s.arg(name), at);
     const QByteArray bytes = requestCodec ? requestCodec->fromUnicode(value) : QByteArray();
     if (requestCodec && QUtf8StringView(bytes).isValidUtf8())
         return tell("mistaken-encoding",
-                    name + " is "_L1 + tools::excerpt(value)
-                        + " in the encoding that the request names, and text in UTF-8"_L1,
+                    u"%1 is %2 in the encoding that the request names, and text in UTF-8"_s.arg(
+                        name, tools::excerpt(value)),
                     at, QString::fromUtf8(bytes));
     QTextCodec *const codec = text::localeCodec(); // null for UTF-8, which has them all
     const auto isUnknown = [codec](char32_t c) {
@@ -101,29 +91,29 @@ void CheckingDevice::checkEncoding(const QString &value, const QString &name, co
     };
     if (const char32_t c = firstOf(characters, isUnknown))
         tell("not-in-encoding",
-             preview::numberOf(c) + " in "_L1 + name + " prints as `?`: it is not in "_L1
-                 + QString::fromLatin1(codec->name()),
+             u"%1 in %2 prints as `?`: it is not in %3"_s.arg(preview::numberOf(c), name,
+                                                              QString::fromLatin1(codec->name())),
              at);
     if (const char32_t c = firstOf(characters, shifts))
         tell("character-width",
-             preview::numberOf(c) + " in "_L1 + name
-                 + " does not fill one column from left to right: what follows it shifts"_L1,
+             u"%1 in %2 does not fill one column from left to right: what follows it shifts"_s.arg(
+                 preview::numberOf(c), name),
              at);
 }
 
 /// Values that mean something to the device.
 void CheckingDevice::checkMeaning(int position, const AttributeUse &use)
 {
-    const QString value = current.atts.value(position);
+    const QString value = atts.value(position);
     const Range at = places.attribute(position);
     if (use.name.endsWith("address"_L1)) { // which an empty part between commas ends
         const qsizetype end = value.startsWith(u',') ? 0 : value.indexOf(",,"_L1);
         const QString lost = end < 0 ? QString() : value.sliced(end);
         if (std::ranges::any_of(lost, [](QChar c) { return c != u',' && !c.isSpace(); }))
-            tell("address-part",
-                 "an empty part ends "_L1 + tools::excerpt(use.name) + ": "_L1
-                     + tools::excerpt(lost) + " is not printed"_L1,
-                 at);
+            tell(
+                "address-part",
+                u"an empty part ends `%1`: %2 is not printed"_s.arg(use.name, tools::excerpt(lost)),
+                at);
     } else if (use.column == Column::Sign) {
         const auto isNumber = [](const QString &text) {
             bool isOne = false;
@@ -134,7 +124,7 @@ void CheckingDevice::checkMeaning(int position, const AttributeUse &use)
             tell("variant-quantity",
                  tools::excerpt(value) + " is no number: the variant prints as taken away"_L1, at,
                  isNumber(meant) ? meant : QString());
-    } else if (current.row->element == element::statement && use.column == Column::Description) {
+    } else if (row->element == element::statement && use.column == Column::Description) {
         const QString meant = value.left(1).toUpper() + value.mid(1); // as the catalogue spells it
         const auto isTranslated = [](const QString &word) {
             return tr(word.toUtf8().constData()) != word;
@@ -170,22 +160,18 @@ void CheckingDevice::checkLine(const QString &text, qsizetype pad)
 {
     const qsizetype width = settings.paperWidth;
     const qsizetype size = tools::beyondEdge(text, 0);
-    if (size == 0)
-        return;
-    if (const qsizetype excess = tools::beyondEdge(text, width); excess > 0) {
-        tellTooLong(text, excess);
-        return;
-    }
-    const bool hasColumns = current.row && current.row->hasColumns();
-    QString trouble;
-    if (pad + size > width)
-        trouble = "the line ends "_L1 + inCharacters(pad + size - width) + " behind the paper"_L1;
-    else if (justify == "center"_L1 && pad == 0 && width - size >= 2 && !hasColumns)
-        trouble = u"it begins at the edge of the paper"_s;
-    else
-        return;
-    tell("not-centred", tools::excerpt(text) + " is too long to centre: "_L1 + trouble,
-         isPrinterName ? printer : places.attribute(longestIn(text)));
+    if (tools::beyondEdge(text, width) > 0)
+        return tellTooLong(text);
+    const bool endsBehind = size > 0 && pad + size > width;
+    const bool beginsAtEdge = size > 0 && justify == "center"_L1 && pad == 0 && width - size >= 2
+                              && !(row && row->hasColumns());
+    if (endsBehind || beginsAtEdge)
+        tell("not-centred",
+             u"%1 is too long to centre: %2"_s.arg(
+                 tools::excerpt(text), endsBehind ? u"the line ends %1 behind the paper"_s.arg(
+                                           inCharacters(pad + size - width))
+                                                  : u"it begins at the edge of the paper"_s),
+             placeIn(text));
 }
 
 /// The position of the longest attribute that stands in the line; -1 where none does.
@@ -193,8 +179,8 @@ int CheckingDevice::longestIn(const QString &text) const
 {
     int longest = -1;
     qsizetype size = 0;
-    for (int i = 0; i < current.atts.count(); ++i) {
-        const QString value = current.atts.value(i);
+    for (int i = 0; i < atts.count(); ++i) {
+        const QString value = atts.value(i);
         if (value.size() > size && text.contains(asPrinted(value))) {
             longest = i;
             size = value.size();
@@ -203,61 +189,68 @@ int CheckingDevice::longestIn(const QString &text) const
     return longest;
 }
 
+/// The place of what made most of the line.
+Range CheckingDevice::placeIn(const QString &text) const
+{
+    return isPrinterName ? printer : places.attribute(longestIn(text));
+}
+
 /// Tells the attributes that are wider than their columns, else the longest in the line.
-void CheckingDevice::tellTooLong(const QString &text, qsizetype excess)
+void CheckingDevice::tellTooLong(const QString &text)
 {
     const Code code = "line-too-long";
-    if (findings.isFull(code.name)) {
-        tell(code, {}, {});
-        return;
-    }
+    if (findings.isFull(code.name))
+        return tell(code, {}, {});
+    const QString excess = QString::number(tools::beyondEdge(text, settings.paperWidth));
     bool isTold = false;
-    for (int i = 0; current.row && i < current.atts.count(); ++i) {
-        const QString value = current.atts.value(i);
-        const AttributeUse *const use = current.row->find(current.atts.qName(i));
+    for (int i = 0; row && i < atts.count(); ++i) {
+        const QString value = atts.value(i);
+        const AttributeUse *const use = row->find(atts.qName(i));
         const int width = use ? widthOf(use->column, settings) : -1;
         if (width < 0 || value.size() <= width || !text.contains(asPrinted(value)))
             continue;
         tell(code,
-             u'`' + use->name + "` has "_L1 + inCharacters(value.size()) + " in a column of "_L1
-                 + QString::number(width) + ": the line is "_L1 + QString::number(excess)
-                 + " longer than the paper"_L1,
+             u"`%1` has %2 in a column of %3: the line is %4 longer than the paper"_s.arg(
+                 use->name, inCharacters(value.size()), QString::number(width), excess),
              places.attribute(i));
         isTold = true;
     }
     if (isTold)
         return;
     const int longest = longestIn(text);
-    const QString what = isPrinterName ? u"the printer's name"_s
-                         : longest >= 0
-                             ? "the line of "_L1 + tools::excerpt(current.atts.qName(longest))
-                             : tools::excerpt(text);
+    const QString what = isPrinterName  ? u"the printer's name"_s
+                         : longest >= 0 ? "the line of "_L1 + tools::excerpt(atts.qName(longest))
+                                        : tools::excerpt(text);
     tell(code,
-         what + " has "_L1 + inCharacters(tools::beyondEdge(text, 0)) + ", "_L1
-             + QString::number(excess) + " more than the paper"_L1,
-         isPrinterName ? printer : places.attribute(longest));
+         u"%1 has %2, %3 more than the paper"_s.arg(what, inCharacters(tools::beyondEdge(text, 0)),
+                                                    excess),
+         placeIn(text));
 }
 
 /// Whether the description of an item stands whole in the line that it was printed in last.
 void CheckingDevice::checkDescription()
 {
-    if (!current.row || !hasPrinted)
+    if (!row || !hasPrinted)
         return;
-    const auto uses = current.row->attributes;
+    const auto uses = row->attributes;
     const auto use = std::ranges::find(uses, Column::Description, &AttributeUse::column);
     if (use == uses.end())
         return;
-    QString text = valueOf(current.atts, use->name);
-    if (current.row->element == u"statement")
+    QString text = valueOf(atts, use->name);
+    if (row->element == element::statement)
         text = tr(text.toUtf8().constData()); // the only description that is translated
-    if (!hasControl(text) && !lastLine.contains(asPrinted(text)))
-        tellCut(use->name, text.sliced(printedPart(text, settings.paperWidth, lastLine)));
+    if (hasControl(text) || lastLine.contains(asPrinted(text)))
+        return;
+    qsizetype printed = qBound(qsizetype(0), qsizetype(settings.paperWidth), text.size());
+    while (printed > 0 && !lastLine.contains(asPrinted(text.first(printed))))
+        --printed;
+    tellCut(use->name, text.sliced(printed));
 }
 
 void CheckingDevice::tellCut(QLatin1StringView attribute, const QString &lost)
 {
     tell("cut-description",
-         u'`' + attribute + "` is cut: "_L1 + tools::excerpt(lost) + " is not printed"_L1,
+         u"`%1` is cut: %2 is not printed"_s.arg(attribute, tools::excerpt(lost)),
          placeOf(attribute));
 }
 
@@ -265,26 +258,24 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
                                     const QString &description, const QString &price)
 {
     CompanyPrinterDriver::printRowFiscal(department, quantity, description, price);
-    const QString name = valueOf(current.atts, "name"_L1);
+    const QString name = valueOf(atts, "name"_L1);
     if (description.size() < name.size())
         tellCut("name"_L1, name.sliced(description.size()));
     if (description.contains(u'"'))
         tell("fiscal-quote", u"a double quote in `name` ends the description early"_s,
              placeOf("name"_L1));
     const auto check = [this](Code code, QLatin1StringView attribute, const QString &value,
-                              char16_t point, const QString &trouble) {
+                              char16_t point, const QString &fault) {
         if (!tools::isFiscalNumber(value, point))
-            tell(code, value.isEmpty() ? "the item has no `"_L1 + attribute + u'`' : trouble,
+            tell(code,
+                 value.isEmpty() ? u"the item has no `%1`"_s.arg(attribute)
+                                 : fault.arg(tools::excerpt(value)),
                  placeOf(attribute));
     };
-    const auto isNone = [](QLatin1StringView attribute, const QString &value) {
-        return u'`' + attribute + "` is "_L1 + tools::excerpt(value)
-               + ": a fiscal command takes digits and at most one point"_L1;
-    };
-    check("fiscal-number", "number"_L1, quantity, u'.', isNone("number"_L1, quantity));
-    check("fiscal-number", "price"_L1, price, u'.', isNone("price"_L1, price));
-    check("fiscal-department", "department"_L1, department, 0,
-          "the department "_L1 + tools::excerpt(department) + " is no number"_L1);
+    const QString rule = u" is %1: a fiscal command takes digits and at most one point"_s;
+    check("fiscal-number", "number"_L1, quantity, u'.', "`number`"_L1 + rule);
+    check("fiscal-number", "price"_L1, price, u'.', "`price`"_L1 + rule);
+    check("fiscal-department", "department"_L1, department, 0, u"the department %1 is no number"_s);
 }
 
 } // namespace requestcheck
