@@ -592,8 +592,8 @@
         <translation>Leerzeilen des oberen Rands, den printGeometry einschaltet.</translation>
     </message>
     <message>
-        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default, a negative number cuts nothing.</source>
-        <translation>Zeichen, die der Name eines Postens im Fiskalbon je Posten behält. 0 bedeutet die Vorgabe, eine negative Zahl kürzt nichts.</translation>
+        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default.</source>
+        <translation>Zeichen, die der Name eines Postens im Fiskalbon je Posten behält. 0 bedeutet die Vorgabe.</translation>
     </message>
     <message>
         <source>The copies that the suite&apos;s programs print of the document.</source>

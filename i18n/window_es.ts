@@ -592,8 +592,8 @@
         <translation>Líneas vacías del margen superior, que printGeometry activa.</translation>
     </message>
     <message>
-        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default, a negative number cuts nothing.</source>
-        <translation>Caracteres que conserva el nombre de un artículo en un tique fiscal por artículo. 0 vale el predeterminado, un número negativo no corta nada.</translation>
+        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default.</source>
+        <translation>Caracteres que conserva el nombre de un artículo en un tique fiscal por artículo. 0 vale el predeterminado.</translation>
     </message>
     <message>
         <source>The copies that the suite&apos;s programs print of the document.</source>

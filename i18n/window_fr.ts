@@ -592,8 +592,8 @@
         <translation>Lignes vides de la marge du haut, que printGeometry active.</translation>
     </message>
     <message>
-        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default, a negative number cuts nothing.</source>
-        <translation>Caractères que garde le nom d’un article dans un ticket fiscal par article. 0 vaut la valeur par défaut, un nombre négatif ne coupe rien.</translation>
+        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default.</source>
+        <translation>Caractères que garde le nom d’un article dans un ticket fiscal par article. 0 vaut la valeur par défaut.</translation>
     </message>
     <message>
         <source>The copies that the suite&apos;s programs print of the document.</source>

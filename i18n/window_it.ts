@@ -592,8 +592,8 @@
         <translation>Righe vuote del margine superiore, che printGeometry accende.</translation>
     </message>
     <message>
-        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default, a negative number cuts nothing.</source>
-        <translation>Caratteri che il nome di un articolo conserva in uno scontrino fiscale per articolo. 0 vale il predefinito, un numero negativo non taglia nulla.</translation>
+        <source>Characters that an item&apos;s name keeps in a fiscal receipt by item. 0 means the default.</source>
+        <translation>Caratteri che il nome di un articolo conserva in uno scontrino fiscale per articolo. 0 vale il predefinito.</translation>
     </message>
     <message>
         <source>The copies that the suite&apos;s programs print of the document.</source>

@@ -95,7 +95,7 @@ consteval auto Setting::all()
          nullptr, MaxTopMargin},
         {""_L1, "descriptionWidth"_L1, Number, "32"_L1,
          QT_TR_NOOP("Characters that an item's name keeps in a fiscal receipt by item. 0 means the "
-                    "default, a negative number cuts nothing."),
+                    "default."),
          nullptr, nullptr, rowlayout::MaxPaddedWidth, OnlyFiscal},
         {""_L1, "copyNumber"_L1, Number, ""_L1,
          QT_TR_NOOP("The copies that the suite's programs print of the document."), nullptr,
