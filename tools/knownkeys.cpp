@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/knownkeys.h"
 
-#include <algorithm>
-
 namespace tools {
 
 using namespace Qt::StringLiterals;
@@ -15,19 +13,18 @@ QLatin1StringView groupOf(const DocumentType &type)
     return type.keyPrefix.sliced(ProductGroup.size() + 1).chopped(1);
 }
 
-/// The place of a group's type among documentTypes; -1 for a group that is no document's.
-qsizetype typeOf(QStringView group)
+/// The bit, as in Setting::types, of the type of document whose settings the group holds; 0 for
+/// none.
+unsigned documentBit(QStringView group)
 {
-    const auto found = std::ranges::find_if(
+    const auto *const found = std::ranges::find_if(
         documentTypes, [group](const DocumentType &type) { return group == groupOf(type); });
-    return found == std::end(documentTypes) ? -1 : found - std::begin(documentTypes);
+    return found == documentTypes.end() ? 0 : 1U << (found - documentTypes.begin());
 }
 
-bool isIn(const Setting &setting, QStringView group, qsizetype type)
+bool isIn(const Setting &setting, QStringView group, unsigned bit)
 {
-    if (!setting.group.isEmpty())
-        return group == setting.group;
-    return type >= 0 && ((setting.types >> type) & 1) != 0;
+    return setting.group.isEmpty() ? (setting.types & bit) != 0 : group == setting.group;
 }
 
 } // namespace
@@ -44,21 +41,14 @@ QStringList knownGroups()
     return groups;
 }
 
-bool isDocumentGroup(QStringView group) { return typeOf(group) >= 0; }
-
-bool isKnownGroup(QStringView group)
-{
-    const qsizetype type = typeOf(group);
-    return std::ranges::any_of(allSettings,
-                               [=](const Setting &setting) { return isIn(setting, group, type); });
-}
+bool isDocumentGroup(QStringView group) { return documentBit(group) != 0; }
 
 std::vector<const Setting *> settingsOf(QStringView group)
 {
     std::vector<const Setting *> settings;
-    const qsizetype type = typeOf(group);
+    const unsigned bit = documentBit(group);
     for (const Setting &setting : allSettings) {
-        if (isIn(setting, group, type))
+        if (isIn(setting, group, bit))
             settings.push_back(&setting);
     }
     return settings;
@@ -74,11 +64,11 @@ QStringList knownWords(QStringView group)
 
 const Setting *findSetting(QStringView group, QStringView word)
 {
-    const qsizetype type = typeOf(group);
-    const auto found = std::ranges::find_if(allSettings, [&](const Setting &setting) {
-        return word == setting.word && isIn(setting, group, type);
-    });
-    return found == allSettings.end() ? nullptr : &*found;
+    const auto *const found =
+        std::ranges::find_if(allSettings, [=, bit = documentBit(group)](const Setting &setting) {
+            return word == setting.word && isIn(setting, group, bit);
+        });
+    return found == allSettings.end() ? nullptr : found;
 }
 
 const Setting *settingOf(const QString &key)

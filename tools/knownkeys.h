@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 /// The groups and keys that the suite reads from its configuration: `zentaro.GROUP.WORD`.
 namespace tools {
 
@@ -23,8 +25,6 @@ QStringList knownGroups();
 bool isDocumentGroup(QStringView group);
 /// The settings of a group, in the order of a complete file; none for an unknown group.
 std::vector<const Setting *> settingsOf(QStringView group);
-/// Whether the suite reads anything of the group.
-bool isKnownGroup(QStringView group);
 /// The same, only their key words.
 QStringList knownWords(QStringView group);
 /// A setting, also by its dotted key; null for an unknown one.

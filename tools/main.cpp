@@ -1,4 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "tools/companion.h"
+#include "tools/command.h"
 
 int main(int argc, char **argv) { return tools::runCompanion(argc, argv, nullptr); }

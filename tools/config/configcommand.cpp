@@ -2,7 +2,6 @@
 #include "tools/config/configcommand.h"
 
 #include "app/ztconfiguration.h"
-#include "tools/companion.h"
 #include "tools/config/settingcheck.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"

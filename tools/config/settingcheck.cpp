@@ -30,6 +30,7 @@ public:
         : outline(outline)
         , top(outline.topGroup())
         , findings(outline.faults)
+        , isRead(outline.entries.size(), false)
     {
     }
     std::vector<Finding> check();
@@ -44,10 +45,6 @@ private:
     void checkLanguage();
 
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
-    bool isReadGroup(const Entry &group) const
-    {
-        return group.parent == top && isKnownGroup(group.name);
-    }
     /// The number that a document reads; 0 for one that is not there or is none.
     int number(const QString &group, QLatin1StringView word) const
     {
@@ -78,6 +75,7 @@ private:
     const Outline &outline;
     const qsizetype top; // where lookups begin
     std::vector<Finding> findings;
+    std::vector<bool> isRead;         // by entry: a group of which something is read
     QHash<QString, qsizetype> groups; // of the top group, the first of each name
     QHash<std::pair<qsizetype, QString>, qsizetype> settings; // the last of each name in a group
     // By group and word: the entry that a lookup finds.
@@ -95,6 +93,8 @@ std::vector<Finding> Checker::check()
     for (qsizetype i = 1; i < count; ++i) {
         if (entry(i).kind == Entry::Kind::Setting)
             settings.insert({entry(i).parent, entry(i).name}, i);
+        else
+            isRead[size_t(i)] = entry(i).parent == top && !settingsOf(entry(i).name).empty();
     }
     for (qsizetype i = 1; i < count; ++i)
         entry(i).kind == Entry::Kind::Group ? checkGroup(i) : checkSetting(i);
@@ -132,11 +132,11 @@ void Checker::checkGroup(qsizetype index)
              outline.pathOf(index));
     } else if (group.parent == top) {
         groups.insert(group.name, index);
-        if (isKnownGroup(group.name))
+        if (isRead[size_t(index)])
             return;
         tellUnread();
         suggest(nearest(group.name, knownGroups()));
-    } else if (isReadGroup(entry(group.parent))) {
+    } else if (isRead[size_t(group.parent)]) {
         tellUnread();
     }
 }
@@ -164,7 +164,7 @@ void Checker::checkSetting(qsizetype index)
     } else if (setting.parent == top && !group.misread) {
         tell(Warning, "unknown-key"_L1, index, tr("nothing reads the key %1"),
              outline.pathOf(index));
-    } else if (isReadGroup(group)) {
+    } else if (isRead[size_t(setting.parent)]) {
         checkReadSetting(index);
     }
 }

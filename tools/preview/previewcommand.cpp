@@ -4,7 +4,6 @@
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
-#include "tools/companion.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tools/queue/queuecommand.h"
+#include "tools/command.h"
 
 #include "app/ztconfiguration.h"
-#include "tools/companion.h"
 #include "tools/terminal.h"
 
 #include <QFile>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/companion.h"
+#include "tools/command.h"
 #include "tools/config/configcommand.h"
 #include "tools/terminal.h"
 #include "tools/window/configeditor.h"

@@ -2,7 +2,7 @@
 #include "tools/window/settingpane.h"
 
 #include "config/configviews.h"
-#include "tools/companion.h"
+#include "tools/command.h"
 #include "tools/knownkeys.h"
 
 #include <QCheckBox>
