@@ -27,10 +27,13 @@ class Editor : public testing::Test
 protected:
     Editor()
     {
-        editor.setAsk([this](const QString &text, const QString &details, auto) {
-            asked += text + details + u'\n';
-            return answer;
+        answering.callOnTimeout([this] {
+            if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                asked += box->text() + box->informativeText() + u'\n';
+                box->done(answer);
+            }
         });
+        answering.start(5);
         editor.show();
     }
 
@@ -89,6 +92,7 @@ protected:
     const QString path = folder.path(u"conf/zentaro.conf"_s);
     QString asked;
     QMessageBox::StandardButton answer = QMessageBox::Cancel;
+    QTimer answering;
     ConfigEditor editor;
     QTreeWidget *const tree = editor.findChild<QTreeWidget *>();
     QListWidget *const list = editor.findChild<QListWidget *>();

@@ -81,6 +81,15 @@ QString listOf(const std::vector<Finding> &findings)
 
 } // namespace
 
+QMessageBox::StandardButton ConfigEditor::ask(const QString &text, const QString &details,
+                                              QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Configuration"), text, buttons, this);
+    box.setInformativeText(details);
+    box.setTextFormat(Qt::PlainText);
+    return QMessageBox::StandardButton(box.exec());
+}
+
 bool ConfigEditor::refuse(const QString &text, const QString &details)
 {
     ask(text, details, QMessageBox::Ok);
@@ -104,8 +113,9 @@ bool ConfigEditor::open(const Source &file)
         return refuse(trouble, tr("Its groups stand too deep within each other."));
     written = content;
     fileLosses = std::move(outline.losses);
-    configuration.readContent(content, file.path, file.format);
-    const std::unique_ptr<QTreeWidget> view(configuration.newConfigListView());
+    libconfig::Config stored;
+    stored.readContent(content, file.path, file.format);
+    const std::unique_ptr<QTreeWidget> view(stored.newConfigListView());
     std::unique_ptr<QTreeWidgetItem> item(view->takeTopLevelItem(0));
     if (!item) {
         item.reset(libconfig::newGroupItem(file.path));
@@ -164,8 +174,9 @@ bool ConfigEditor::saveTo(const Source &target)
 {
     if (!confirmSaving(target))
         return false;
-    configuration.take(*tree);
-    const std::optional<QByteArray> content = configuration.writtenAs(target.format);
+    libconfig::Config stored; // of no name, under which it would be saved
+    stored.loadListView(tree);
+    const std::optional<QByteArray> content = stored.writtenAs(target.format);
     QDir().mkpath(QFileInfo(target.path).path());
     const QString fault =
         content ? libconfig::replaceFile(target.path, *content) : text::systemMessage(EFBIG);

@@ -8,8 +8,6 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include <functional>
-
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -26,10 +24,6 @@ class ConfigEditor : public QMainWindow
     Q_DECLARE_TR_FUNCTIONS(ConfigEditor)
 
 public:
-    /// Asks the person something, or tells, and answers one of the buttons.
-    using Ask = std::function<QMessageBox::StandardButton(
-        const QString &text, const QString &details, QMessageBox::StandardButtons buttons)>;
-
     ConfigEditor();
 
     /// Shows another file; a file that does not exist yet shows empty. A file that cannot be read
@@ -43,8 +37,6 @@ public:
 
     /// Lists what is wrong, at once; otherwise it is listed a moment after each change.
     void listFindings();
-    /// Another way to ask than a message box.
-    void setAsk(Ask way) { ask = std::move(way); }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -60,6 +52,8 @@ private:
     void buildWindow();
     void buildMenus();
 
+    QMessageBox::StandardButton ask(const QString &text, const QString &details,
+                                    QMessageBox::StandardButtons buttons);
     bool refuse(const QString &text, const QString &details);
     void chooseFile();
     void chooseTarget();
@@ -76,7 +70,6 @@ private:
     QByteArray written; ///< the file's content as it was last read or written
     std::vector<FileFault> fileFaults;
     std::vector<Finding> fileLosses; ///< what reading the file lost
-    UnsavedConfiguration configuration;
 
     QLineEdit *const searchLine;
     ConfigTree *const tree;
@@ -89,7 +82,6 @@ private:
     std::vector<QTreeWidgetItem *> subjects; ///< what the findings' rows are about; null: the file
     QTimer pause;                            ///< after a change, before the findings are listed
     QTimer drawing;                          ///< draws the paper when all of a change is there
-    Ask ask;
 };
 
 } // namespace configtool

@@ -18,17 +18,10 @@ ConfigEditor::ConfigEditor()
     : searchLine(new QLineEdit)
     , tree(new ConfigTree)
     , setting(new SettingPane(*tree))
-    , paper(new PaperPane(*tree, configuration))
+    , paper(new PaperPane(*tree))
     , hint(new QLabel)
     , findingsTitle(new QLabel)
     , findings(new QListWidget)
-    , ask([this](const QString &text, const QString &details,
-                 QMessageBox::StandardButtons buttons) {
-        QMessageBox box(QMessageBox::Warning, tr("Configuration"), text, buttons, this);
-        box.setInformativeText(details);
-        box.setTextFormat(Qt::PlainText);
-        return QMessageBox::StandardButton(box.exec());
-    })
 {
     constexpr int Pause = 150; // milliseconds
     pause.setSingleShot(true);

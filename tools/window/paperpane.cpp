@@ -117,39 +117,15 @@ void SheetView::paintEvent(QPaintEvent *event)
         canvas.drawRect(0, current.row() * height, size.width() - 1, height - 1);
 }
 
-UnsavedConfiguration::UnsavedConfiguration()
-    : ZTConfiguration({}, {})
-{
-    SyncSingleton<ZTConfiguration>::instance_pointer = this;
-}
-
-UnsavedConfiguration::~UnsavedConfiguration()
-{
-    SyncSingleton<ZTConfiguration>::instance_pointer = nullptr;
-}
-
-void UnsavedConfiguration::take(const ConfigTree &tree)
-{
-    readFile({}, {}); // an empty one
-    loadListView(tree.fileItem(), document);
-    const QString present = getStrValue(u"zentaro.language.basedir"_s) + u'\n'
-                            + getStrValue(u"zentaro.language.file"_s);
-    if (present == std::exchange(language, present))
-        return;
-    QCoreApplication::removeTranslator(&translator);
-    if (loadTranslation(translator, *this))
-        QCoreApplication::installTranslator(&translator);
-}
-
-PaperPane::PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration)
+PaperPane::PaperPane(ConfigTree &tree)
     : tree(tree)
-    , configuration(configuration)
     , documents(new QComboBox)
     , widths(new QComboBox)
     , view(new SheetView)
     , remark(new QLabel)
 {
     constexpr int MarkedFor = 1'500; // milliseconds
+    SyncSingleton<ZTConfiguration>::instance_pointer = &configuration;
     fading.setSingleShot(true);
     fading.setInterval(MarkedFor);
     connect(&fading, &QTimer::timeout, this, [this] {
@@ -181,6 +157,8 @@ PaperPane::PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration)
         connect(view, chosen, this, [this](const QModelIndex &at) { explain(size_t(at.row())); });
     chooseDocument();
 }
+
+PaperPane::~PaperPane() { SyncSingleton<ZTConfiguration>::instance_pointer = nullptr; }
 
 /// The samples, in the order of the methods.
 void PaperPane::addSamples()
@@ -245,7 +223,14 @@ void PaperPane::zoomBy(double factor)
 std::vector<preview::Row> PaperPane::printed()
 {
     const text::LineSink quiet(text::LineSink::drop); // the remark tells
-    configuration.take(tree);
+    configuration.loadListView(&tree);
+    const QString present = configuration.getStrValue(u"zentaro.language.basedir"_s) + u'\n'
+                            + configuration.getStrValue(u"zentaro.language.file"_s);
+    if (present != std::exchange(language, present)) {
+        QCoreApplication::removeTranslator(&labels);
+        if (loadTranslation(labels, configuration))
+            QCoreApplication::installTranslator(&labels);
+    }
     const preview::Document document = preview::render(request, false);
     remark->setText(document.fault);
     return preview::rowsOf(document, 0, preview::MostRows);
@@ -287,12 +272,9 @@ void PaperPane::explain(size_t row)
     QList<QTreeWidgetItem *> shaping;
     QStringList names;
     const std::vector<preview::Row> rows = printed();
-    for (const QString &name : std::as_const(groups)) {
-        const auto all = tree.groups();
-        const auto group =
-            std::ranges::find(all, name, [](const QTreeWidgetItem *each) { return each->text(0); });
-        for (int i = 0; group != all.end() && i < (*group)->childCount(); ++i) {
-            QTreeWidgetItem *const item = (*group)->child(i);
+    for (QTreeWidgetItem *const group : tree.groups()) {
+        for (int i = 0; groups.contains(group->text(0)) && i < group->childCount(); ++i) {
+            QTreeWidgetItem *const item = group->child(i);
             if (!shapes(item, rows, row))
                 continue;
             shaping.append(item);

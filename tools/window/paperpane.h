@@ -45,30 +45,16 @@ private:
     QStringListModel places;                      // of the rows; what they show is the sheet's
 };
 
-/// The configuration as it stands in a window, unsaved: what the print run asks.
-class UnsavedConfiguration : public ZTConfiguration
-{
-public:
-    UnsavedConfiguration();
-    UnsavedConfiguration(const UnsavedConfiguration &) = delete;
-    UnsavedConfiguration &operator=(const UnsavedConfiguration &) = delete;
-    ~UnsavedConfiguration();
-
-    void take(const ConfigTree &tree);
-
-private:
-    QTranslator translator;
-    QString language; // of the translator
-};
-
 /// A document on paper, printed with the settings as they stand in the tree.
 class PaperPane : public QWidget
 {
     Q_DECLARE_TR_FUNCTIONS(PaperPane)
 
 public:
-    /// Both are borrowed; the configuration follows the tree.
-    PaperPane(ConfigTree &tree, UnsavedConfiguration &configuration);
+    /// The tree is borrowed.
+    explicit PaperPane(ConfigTree &tree);
+    Q_DISABLE_COPY_MOVE(PaperPane)
+    ~PaperPane() override;
 
     /// Draws the document anew, with the rows marked for a moment that have changed.
     void draw();
@@ -86,7 +72,9 @@ private:
     bool shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row);
 
     ConfigTree &tree;
-    UnsavedConfiguration &configuration;
+    ZTConfiguration configuration{{}, {}}; // the tree's, unsaved, which the print run asks
+    QTranslator labels;
+    QString language; // of the labels
     QByteArray request;
     QStringList groups; // whose settings print the request
     QComboBox *const documents;

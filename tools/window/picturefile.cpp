@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tools/window/sheetpainter.h"
 
+#include "config/config.h"
+
 #include <QBuffer>
 #include <QImage>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -26,6 +27,8 @@ constexpr int LeastCellWidth = 3; // pixels, below which nothing can be read
 constexpr int VectorDpi = 1'016;
 constexpr double VectorDotsOfMm = 40;
 constexpr int LongestPageMm = 5'000; // readers of PDF show no longer one
+
+constexpr auto NoMemory = "there is no memory for the picture"_L1;
 
 /// Sheets in rows: two that are before and after, else five.
 class Picture
@@ -131,7 +134,7 @@ struct Palette
     QList<QRgb> table;
 };
 
-QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
+QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options, QBuffer &file)
 {
     const Picture picture(sheets, options, options.paper.dpi);
     if (picture.isTooSmall())
@@ -145,7 +148,7 @@ QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options
                    .arg(MostPixels);
     QImage image(picture.size, QImage::Format_Grayscale8);
     if (image.isNull())
-        return u"there is no memory for the picture"_s;
+        return NoMemory;
     const Palette palette;
     picture.paint(QPainter(&image), palette.shades);
     image.reinterpretAsFormat(QImage::Format_Indexed8); // a quarter of what colours would take
@@ -154,29 +157,28 @@ QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
     constexpr int Quality = 50; // saves half the time, for a file a sixth larger
-    return image.save(&file, "PNG", Quality) ? QString() : file.errorString();
+    return image.save(&file, "PNG", Quality) ? QString() : NoMemory;
 }
 
-QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
+QString writeSvg(const std::vector<Sheet> &sheets, const PictureOptions &options, QBuffer &file)
 {
     const Picture picture(sheets, options, VectorDpi);
     if (QString fault = picture.faultOfPage(); !fault.isEmpty())
         return fault;
-    QBuffer svg;
     QSvgGenerator generator;
-    generator.setOutputDevice(&svg);
+    generator.setOutputDevice(&file);
     generator.setResolution(VectorDpi);
     generator.setSize(picture.size);
     generator.setViewBox(QRect(QPoint(), picture.size));
     generator.setTitle(titleOf(sheets));
     picture.paint(QPainter(&generator), {});
     const QByteArray family = monospacedFamily().toUtf8(); // the generator names no other
-    svg.buffer().replace('"' + family + '"', '"' + family + ", monospace\"");
-    return file.write(svg.data()) == svg.size() ? QString() : file.errorString();
+    file.buffer().replace('"' + family + '"', '"' + family + ", monospace\"");
+    return {};
 }
 
 /// Each sheet or pair on a page of its own; a sheet that has one for itself is the page.
-QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options, QIODevice &file)
+QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options, QBuffer &file)
 {
     const size_t perPage = options.inPairs ? 2 : 1;
     QPdfWriter writer(&file);
@@ -205,7 +207,7 @@ QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options
 
 QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &options)
 {
-    using Write = QString (*)(const std::vector<Sheet> &, const PictureOptions &, QIODevice &);
+    using Write = QString (*)(const std::vector<Sheet> &, const PictureOptions &, QBuffer &);
     constexpr std::array<std::pair<QLatin1StringView, Write>, 3> formats = {
         {{".png"_L1, writePng}, {".svg"_L1, writeSvg}, {".pdf"_L1, writePdf}}};
     const auto *const format = std::ranges::find_if(formats, [&options](const auto &row) {
@@ -218,15 +220,10 @@ QString writePicture(const std::vector<Sheet> &sheets, const PictureOptions &opt
     if (std::ranges::any_of(sheets,
                             [](const Sheet &sheet) { return sheet.rows.size() > MostRows; }))
         return u"a document has more than %1 lines, the most of a picture"_s.arg(MostRows);
-    QSaveFile file(options.fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    QString fault = format->second(sheets, options, file);
-    if (!fault.isEmpty())
-        file.cancelWriting();
-    if (!file.commit() && fault.isEmpty())
-        fault = file.errorString();
-    return fault;
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    const QString fault = format->second(sheets, options, file);
+    return fault.isEmpty() ? libconfig::replaceFile(options.fileName, file.data()) : fault;
 }
 
 } // namespace preview
