@@ -241,9 +241,9 @@ bool DatabaseManager::decrementSequenceIfPositive(const QString &sequence, qint6
     return true;
 }
 
-void DatabaseManager::control(const QString &statement, bool (QSqlDatabase::*operation)(),
-                              QSqlDatabase *db)
+void DatabaseManager::control(const char *word, bool (QSqlDatabase::*operation)(), QSqlDatabase *db)
 {
+    const QString statement = QLatin1StringView(word);
     if (!db)
         executeQuery(statement);
     else if (!db->isOpen())

@@ -97,18 +97,9 @@ public:
     bool decrementSequenceIfPositive(const QString &sequence, qint64 n, QSqlDatabase *db = nullptr);
 
     /// A transaction of the connection; for a null one the statement is sent as a query.
-    void begin(QSqlDatabase *db = nullptr)
-    {
-        control(QStringLiteral("BEGIN"), &QSqlDatabase::transaction, db);
-    }
-    void commit(QSqlDatabase *db = nullptr)
-    {
-        control(QStringLiteral("COMMIT"), &QSqlDatabase::commit, db);
-    }
-    void rollback(QSqlDatabase *db = nullptr)
-    {
-        control(QStringLiteral("ROLLBACK"), &QSqlDatabase::rollback, db);
-    }
+    void begin(QSqlDatabase *db = nullptr) { control("BEGIN", &QSqlDatabase::transaction, db); }
+    void commit(QSqlDatabase *db = nullptr) { control("COMMIT", &QSqlDatabase::commit, db); }
+    void rollback(QSqlDatabase *db = nullptr) { control("ROLLBACK", &QSqlDatabase::rollback, db); }
 
     /// The highest ID of a table: empty when the table is, "Error" when the query failed.
     QString getLastId(const QString &table, QSqlDatabase *db = nullptr);
@@ -126,7 +117,7 @@ public:
 private:
     QSqlQuery run(const QString &method, const QString &text, QSqlDatabase *db);
     QString firstText(const QString &method, const QString &text, QSqlDatabase *db);
-    void control(const QString &statement, bool (QSqlDatabase::*operation)(), QSqlDatabase *db);
+    void control(const char *word, bool (QSqlDatabase::*operation)(), QSqlDatabase *db);
     void logQuery(const QString &method, const QString &text, int rowsAffected);
     void logError(const QString &method, const QString &subject, const QString &databaseText);
     void log(Logger::Level level, const QString &text);

@@ -3,7 +3,6 @@
 
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
-#include "render/settings.h"
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "render/documentsettings.h"
+#include "render/settings.h"
 #include "render/vocabulary.h"
 #include "tests/support.h"
 #include "tools/check/elementtable.h"

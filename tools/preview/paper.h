@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "render/documentsettings.h"
+#include "render/settings.h"
 #include "tools/paperrules.h"
 
 #include <functional>
