@@ -3,7 +3,6 @@
 #include "tests/configfiles.h"
 #include "tools/config/outline.h"
 #include "tools/config/settingcheck.h"
-#include "tools/config/settingedit.h"
 #include "tools/knownkeys.h"
 
 #include <QDir>

@@ -1,44 +1,37 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/settingedit.h"
+#include "tools/config/settingcheck.h"
 
 #include "config/config.h"
-#include "tools/config/outline.h"
 #include "tools/knownkeys.h"
 
 #include <QFile>
 
-#include <vector>
-
 namespace configtool {
 
 using namespace Qt::StringLiterals;
+using namespace tools;
 
 namespace {
 
 /// A file and what a lookup of one of its keys goes through.
-class KeyInFile
+struct KeyInFile
 {
-public:
     KeyInFile(const QByteArray &content, const QString &key);
 
     QByteArray withValue(const QByteArray &value) const;
     QByteArray without() const;
-    /// Whether the value goes on over the end of its line, which may have taken in other settings.
-    bool runsOn() const { return found >= 0 && entry(found).value.contains(u'\n'); }
     /// Every other setting of the file, with its value.
     QStringList others() const;
 
-    const QByteArray &content;
-    const QString key;
-
-private:
     const Entry &entry(qsizetype index) const { return outline.entries[size_t(index)]; }
     qsizetype siblingBefore() const;
     QByteArray leadOf(qsizetype index) const;
     QByteArray withNew(const QByteArray &setting) const;
 
-    const QStringList names; // the key's
-    const Outline outline;
+    const QByteArray &content;
+    const QString key;
+    const QStringList names = key.split(u'.');
+    const Outline outline = readCfgOutline(content);
     qsizetype group = 0;             // that the first names lead to, of several the first
     qsizetype depth = 0;             // the number of these names
     std::vector<qsizetype> settings; // of the key, in file order
@@ -50,8 +43,6 @@ private:
 KeyInFile::KeyInFile(const QByteArray &content, const QString &key)
     : content(content)
     , key(key)
-    , names(key.split(u'.'))
-    , outline(readCfgOutline(content))
 {
     const qsizetype top = outline.topGroup();
     std::vector<qsizetype> depths(outline.entries.size(), -1); // of the groups on the key's way
@@ -89,30 +80,25 @@ QStringList KeyInFile::others() const
 
 QByteArray KeyInFile::withValue(const QByteArray &value) const
 {
-    bool isQuoted = value.isEmpty() || value != value.trimmed();
-    if (found < 0) {
-        const Setting *const known = tools::settingOf(key);
-        isQuoted |=
-            !known || (known->kind != SettingKind::Number && known->kind != SettingKind::Switch);
-    } else {
-        const auto [begin, end] = entry(found).body;
-        const QByteArray present = content.sliced(begin, end - begin);
-        isQuoted |= present.size() > 1 && present.startsWith('"') && present.endsWith('"');
-    }
-    const QByteArray written = isQuoted ? '"' + value + '"' : value;
-    if (found < 0)
-        return withNew(names.last().toLatin1() + " = " + written + ';');
-    const auto [begin, end] = entry(found).body;
-    return QByteArray(content).replace(begin, end - begin, written);
+    const auto [begin, end] = found < 0 ? Extent{} : entry(found).body;
+    const QByteArray present = content.sliced(begin, end - begin);
+    const Setting *const known = settingOf(key);
+    const bool isPlain =
+        found >= 0
+            ? present.size() < 2 || !present.startsWith('"') || !present.endsWith('"')
+            : known && (known->kind == SettingKind::Number || known->kind == SettingKind::Switch);
+    const QByteArray written =
+        isPlain && !value.isEmpty() && value == value.trimmed() ? value : '"' + value + '"';
+    return found < 0 ? withNew(names.last().toLatin1() + " = " + written + ';')
+                     : QByteArray(content).replace(begin, end - begin, written);
 }
 
 /// The member of the group that a complete file has right before what is to be added there; the
 /// last one for what no complete file has; -1 for none.
 qsizetype KeyInFile::siblingBefore() const
 {
-    const QStringList order = depth + 1 == names.size() && depth > 0
-                                  ? tools::knownWords(names[depth - 1])
-                                  : tools::knownGroups();
+    const QStringList order =
+        depth + 1 == names.size() && depth > 0 ? knownWords(names[depth - 1]) : knownGroups();
     const qsizetype place = order.indexOf(names[depth]);
     qsizetype best = -1;
     qsizetype bestPlace = -1;
@@ -181,7 +167,9 @@ EditedContent verified(const KeyInFile &before, const QByteArray &edited, const 
 {
     libconfig::Config config;
     config.readContent(edited, {}, u"cfg"_s);
-    if (config.lookup(before.key) == value && !before.runsOn()
+    // A value that goes on over the end of its line may have taken in other settings.
+    const bool ranOn = before.found >= 0 && before.entry(before.found).value.contains(u'\n');
+    if (!ranOn && config.lookup(before.key) == value
         && KeyInFile(edited, before.key).others() == before.others())
         return {edited, {}};
     return {before.content, u"the file has faults around it, which `zentaro config check` tells"_s};
@@ -191,7 +179,7 @@ EditedContent verified(const KeyInFile &before, const QByteArray &edited, const 
 
 EditedContent withSetting(const QByteArray &content, const QString &key, const QString &value)
 {
-    const Setting *const known = tools::settingOf(key);
+    const Setting *const known = settingOf(key);
     const bool isFile =
         known && (known->kind == SettingKind::Folder || known->kind == SettingKind::FileName);
     const QByteArray bytes = isFile ? QFile::encodeName(value) : value.toLatin1();

@@ -3,7 +3,6 @@
 
 #include "app/ztconfiguration.h"
 #include "tools/config/settingcheck.h"
-#include "tools/config/settingedit.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"
 
