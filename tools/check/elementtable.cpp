@@ -155,7 +155,7 @@ constexpr A soldItem[] = {{"quantity"_L1, "how many"_L1, Quantity},
                           {"amount"_L1, "the price of all of them"_L1, Total}};
 constexpr A statement[] = {{"date"_L1, "when it was"_L1, Date},
                            {"type"_L1, "what it was, in English"_L1, Description},
-                           {"amount"_L1, "the amount"_L1, DateAmount}};
+                           {"amount"_L1, "the amount"_L1, Price}};
 
 constexpr auto change =
     "a change to the item before it: `-` for a quantity of -1 or 0, `+` for 1, else the quantity "
@@ -239,26 +239,17 @@ bool reads(const ElementRow &row, qsizetype method) { return ((row.methods >> me
 
 int widthOf(Column column, const DocumentSettings &settings)
 {
-    switch (column) {
-    case Quantity:
-        return settings.quantityFieldWidth;
-    case Price:
-    case DateAmount:
-        return settings.priceFieldWidth;
-    case Total:
-        return settings.totalPriceFieldWidth;
-    case Date:
-        return 13; // of 15, which hold a colon and a blank as well
-    case TaxRate:
-        return 6;
-    case Money:
-        return 10;
-    case None:
-    case Description:
-    case Sign:
-        break;
-    }
-    return -1;
+    constexpr int DateWidth = 13; // of 15, which hold a colon and a blank as well
+    const std::array widths{-1,
+                            settings.quantityFieldWidth,
+                            -1,
+                            settings.priceFieldWidth,
+                            settings.totalPriceFieldWidth,
+                            DateWidth,
+                            6,
+                            10,
+                            -1};
+    return widths[size_t(column)];
 }
 
 const AttributeUse *ElementRow::find(QStringView name) const

@@ -19,9 +19,8 @@ enum class Column {
     None,
     Quantity,
     Description, ///< cut to what the other columns leave
-    Price,
+    Price,       ///< also the amount of a statement
     Total,
-    DateAmount, ///< the amount of a statement, in the price column
     Date,
     TaxRate,
     Money, ///< of the table of tax rates

@@ -5,6 +5,7 @@
 #include "tools/check/elementtable.h"
 #include "tools/terminal.h"
 
+#include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 #include <algorithm>
@@ -18,40 +19,20 @@ using requestcheck::Rest;
 
 namespace {
 
-/// A pattern or name class of RELAX NG. That of an element or attribute without a name is the first
-/// of its parts.
-struct Pattern
+/// Names of any name space, or only those of none, but some.
+QString namesBut(const QStringList &names, bool isPlain)
 {
-    QLatin1StringView kind; ///< the name of its element in the XML syntax
-    QString name{};         ///< what it bears, defines or refers to, or the value
-    QString text{};         ///< its documentation
-    std::vector<Pattern> parts{};
-};
-
-Pattern pattern(QLatin1StringView kind, std::vector<Pattern> parts)
-{
-    return {kind, {}, {}, std::move(parts)};
-}
-Pattern ref(const QString &name) { return {"ref"_L1, name}; }
-Pattern define(const QString &name, std::vector<Pattern> parts)
-{
-    return {"define"_L1, name, {}, std::move(parts)};
+    const QString kind = isPlain ? u"nsName"_s : u"anyName"_s;
+    const QString except =
+        names.isEmpty() ? QString()
+                        : u"<except><name>%1</name></except>"_s.arg(names.join("</name><name>"_L1));
+    return u"<%1%2>%3</%1>"_s.arg(kind, isPlain ? u" ns=\"\""_s : QString(), except);
 }
 
-/// The names of a class (`anyName`, or `nsName` for those of no name space) but some.
-Pattern namesBut(QLatin1StringView kind, const QStringList &names)
+QString anyAttributeBut(const QStringList &names)
 {
-    Pattern except{"except"_L1};
-    for (const QString &name : names)
-        except.parts.push_back({"name"_L1, name});
-    return names.isEmpty() ? Pattern{kind} : pattern(kind, {except});
-}
-Pattern anyName() { return {"anyName"_L1}; }
-/// The names of any name space.
-Pattern foreignName() { return pattern("anyName"_L1, {pattern("except"_L1, {{"nsName"_L1}})}); }
-Pattern attributes(const Pattern &names)
-{
-    return pattern("zeroOrMore"_L1, {pattern("attribute"_L1, {names, {"text"_L1}})});
+    return u"<zeroOrMore><attribute>%1<text/></attribute></zeroOrMore>"_s.arg(
+        namesBut(names, false));
 }
 
 /// The name that a row's attributes are defined under; the first document that reads it parts the
@@ -66,113 +47,89 @@ QString rowName(const ElementRow &row)
 }
 
 /// What the row reads. What is needed only under a setting is optional.
-Pattern attributesOf(const ElementRow &row)
+QString attributesOf(const ElementRow &row)
 {
-    std::vector<Pattern> parts;
+    QString attributes;
     QStringList names;
     for (const requestcheck::AttributeUse &use : row.attributes) {
-        const Pattern attribute{"attribute"_L1, use.name, use.text, {{"text"_L1}}};
         const bool isOptional = use.need == requestcheck::Need::Kept || use.onlyIf || row.onlyIf;
-        parts.push_back(isOptional ? pattern("optional"_L1, {attribute}) : attribute);
+        const QString form = isOptional ? u"<optional>%1</optional>"_s : u"%1"_s;
+        attributes += form.arg(
+            u"<attribute name=\"%1\"><a:documentation>%2</a:documentation><text/></attribute>"_s
+                .arg(use.name, use.text));
         names.append(use.name);
     }
-    parts.push_back(row.rest == Rest::Nothing ? ref(u"foreign.attributes"_s)
-                                              : attributes(namesBut("anyName"_L1, names)));
-    return define(rowName(row), std::move(parts));
+    attributes += row.rest == Rest::Nothing ? u"<ref name=\"foreign.attributes\"/>"_s
+                                            : anyAttributeBut(names);
+    return u"<define name=\"%1\">%2</define>"_s.arg(rowName(row), attributes);
 }
 
 /// One document: `NAME` is what stands in the root, `NAME.element` any element behind
 /// `NAME.method`, in whose `NAME.content` others may stand.
-void addDocument(qsizetype method, std::vector<Pattern> &grammar)
+QString documentOf(qsizetype method)
 {
     const QString name = documentMethods[size_t(method)].name;
-    const Pattern content = ref(name + ".content"_L1);
-    const Pattern any = ref(name + ".element"_L1);
-    const Pattern more = pattern("zeroOrMore"_L1, {any});
-    const Pattern plain = ref(u"foreign.attributes"_s);
     QStringList known{::element::method.toString()};
-    std::vector<Pattern> elements{ref(u"foreign"_s)};
+    QString elements;
     for (const ElementRow *const row : requestcheck::rowsOf(method)) {
         known.append(row->element.toString());
-        elements.push_back({"element"_L1,
-                            known.back(),
-                            "Prints "_L1 + row->prints + u'.',
-                            {ref(rowName(*row)), content}});
+        elements += uR"(<element name="%1"><a:documentation>Prints %2.</a:documentation>
+            <ref name="%3"/><ref name="%4.content"/></element>)"_s.arg(row->element, row->prints,
+                                                                       rowName(*row), name);
     }
-    const Pattern others = namesBut("nsName"_L1, known);
-    if (known.size() == 1) // a document that prints nothing takes anything
-        elements.push_back(pattern("element"_L1, {others, ref(u"anything"_s)}));
-    else
-        elements.push_back(pattern(
-            "element"_L1, {others, plain, pattern("mixed"_L1, {pattern("oneOrMore"_L1, {any})})}));
-    const Pattern group = pattern("element"_L1, {others, plain, pattern("mixed"_L1, {ref(name)})});
-    grammar.push_back(
-        define(name + ".method"_L1,
-               {{"element"_L1,
-                 known.front(),
-                 requestcheck::summaryOf(method) + u'.',
-                 {{"attribute"_L1, u"name"_s, {}, {{"value"_L1, name}}}, plain, content}}}));
-    grammar.push_back(
-        define(name, {pattern("choice"_L1, {ref(name + ".method"_L1), group}), more}));
-    grammar.push_back(define(content.name, {pattern("mixed"_L1, {more})}));
-    grammar.push_back(define(any.name, {pattern("choice"_L1, std::move(elements))}));
+    const QString content = known.size() == 1 // a document that prints nothing takes anything
+                                ? uR"(<ref name="anything"/>)"_s
+                                : uR"(<ref name="foreign.attributes"/>
+            <mixed><oneOrMore><ref name="%1.element"/></oneOrMore></mixed>)"_s.arg(name);
+    return uR"(
+        <define name="%1.method"><element name="method"><a:documentation>%2.</a:documentation>
+            <attribute name="name"><value>%1</value></attribute>
+            <ref name="foreign.attributes"/><ref name="%1.content"/></element></define>
+        <define name="%1"><choice><ref name="%1.method"/>
+            <element>%3<ref name="foreign.attributes"/><mixed><ref name="%1"/></mixed></element>
+            </choice><zeroOrMore><ref name="%1.element"/></zeroOrMore></define>
+        <define name="%1.content">
+            <mixed><zeroOrMore><ref name="%1.element"/></zeroOrMore></mixed></define>
+        <define name="%1.element"><choice><ref name="foreign"/>%4
+            <element>%3%5</element></choice></define>)"_s.arg(
+        name, requestcheck::summaryOf(method), namesBut(known, true), elements, content);
 }
 
-/// The request: its root may bear any name that no document reads, or be the `method` itself.
-Pattern grammarOf(qsizetype method)
+/// The request: its root may bear any name that no document reads, or be the `method` itself. What
+/// has a name space belongs to others; the print run reads names as they are spelled, which a
+/// schema cannot say.
+QString grammarOf(qsizetype method)
 {
-    std::vector<Pattern> documents;
-    std::vector<Pattern> roots{ref(u"foreign"_s)};
-    std::vector<Pattern> grammar;
+    QString roots;
+    QString opened;
+    QString attributes;
+    QString documents;
     QStringList known{::element::method.toString()};
     for (const ElementRow &row : requestcheck::elementRows()) {
         if (!known.contains(row.element))
             known.append(row.element.toString());
         if (method < 0 || requestcheck::elementRow(row.element, method) == &row)
-            grammar.push_back(attributesOf(row));
+            attributes += attributesOf(row);
     }
     for (qsizetype i = 0; i < qsizetype(documentMethods.size()); ++i) {
         if (method >= 0 && method != i)
             continue;
-        documents.push_back(ref(documentMethods[size_t(i)].name));
-        roots.push_back(ref(documents.back().name + ".method"_L1));
-        addDocument(i, grammar);
+        roots += uR"(<ref name="%1.method"/>)"_s.arg(documentMethods[size_t(i)].name);
+        opened += uR"(<ref name="%1"/>)"_s.arg(documentMethods[size_t(i)].name);
+        documents += documentOf(i);
     }
-    const Pattern opened = pattern("choice"_L1, std::move(documents));
-    roots.push_back(pattern("element"_L1, {namesBut("nsName"_L1, known), attributes(anyName()),
-                                           pattern("mixed"_L1, {opened})}));
-    grammar.insert(grammar.begin(), pattern("start"_L1, {pattern("choice"_L1, std::move(roots))}));
-    // What has a name space belongs to others; the print run reads names as they are spelled, which
-    // a schema cannot say.
-    const Pattern anything = ref(u"anything"_s);
-    const Pattern anyElement = pattern("element"_L1, {anyName(), anything});
-    grammar.push_back(define(u"foreign.attributes"_s, {attributes(foreignName())}));
-    grammar.push_back(define(u"foreign"_s, {pattern("element"_L1, {foreignName(), anything})}));
-    grammar.push_back(
-        define(anything.name,
-               {attributes(anyName()),
-                pattern("zeroOrMore"_L1, {pattern("choice"_L1, {{"text"_L1}, anyElement})})}));
-    return pattern("grammar"_L1, std::move(grammar));
-}
-
-void writeXml(QXmlStreamWriter &xml, const Pattern &of)
-{
-    xml.writeStartElement(of.kind);
-    if (of.kind == "grammar"_L1) {
-        xml.writeDefaultNamespace("http://relaxng.org/ns/structure/1.0"_L1);
-        xml.writeNamespace("http://relaxng.org/ns/compatibility/annotations/1.0"_L1, "a"_L1);
-    }
-    if (of.kind == "nsName"_L1)
-        xml.writeAttribute("ns"_L1, {});
-    if (of.kind == "value"_L1 || of.kind == "name"_L1)
-        xml.writeCharacters(of.name);
-    else if (!of.name.isEmpty())
-        xml.writeAttribute("name"_L1, of.name);
-    if (!of.text.isEmpty())
-        xml.writeTextElement("a:documentation"_L1, of.text);
-    for (const Pattern &part : of.parts)
-        writeXml(xml, part);
-    xml.writeEndElement();
+    return uR"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"
+            xmlns:a="http://relaxng.org/ns/compatibility/annotations/1.0">
+        <start><choice><ref name="foreign"/>%1
+            <element>%2%3<mixed><choice>%4</choice></mixed></element></choice></start>%5%6
+        <define name="foreign.attributes"><zeroOrMore><attribute><anyName><except>
+            <nsName ns=""/></except></anyName><text/></attribute></zeroOrMore></define>
+        <define name="foreign"><element><anyName><except><nsName ns=""/></except></anyName>
+            <ref name="anything"/></element></define>
+        <define name="anything">%3<zeroOrMore><choice><text/>
+            <element><anyName/><ref name="anything"/></element></choice></zeroOrMore></define>
+        </grammar>)"_s.arg(roots, namesBut(known, true), anyAttributeBut({}), opened, attributes,
+                           documents);
 }
 
 /// How a kind is written in the compact syntax: %1 is the name, and a line end is followed by the
@@ -201,25 +158,34 @@ constexpr CompactForm compactForms[] = {
     {"name", "%1", "", ""},
 };
 
-QString compact(const Pattern &of, const QString &indent)
+/// The pattern that the reader has come to, to its end.
+QString compact(QXmlStreamReader &xml, const QString &indent)
 {
-    if (of.kind == "choice"_L1 && of.parts.size() == 1)
-        return compact(of.parts.front(), indent);
-    const CompactForm &form = *std::ranges::find_if(compactForms, [&of](const CompactForm &row) {
-        return of.kind == QLatin1StringView(row.kind);
+    const QString kind = xml.name().toString();
+    const CompactForm &form = *std::ranges::find_if(compactForms, [&kind](const CompactForm &row) {
+        return kind == QLatin1StringView(row.kind);
     });
     const auto indented = [](const char *text, const QString &by) {
         return QString(QLatin1StringView(text)).replace(u'\n', u'\n' + by);
     };
-    const bool isBlock = QLatin1StringView(form.open).endsWith(u'\n') && of.kind != "grammar"_L1;
+    const bool isBlock = QLatin1StringView(form.open).endsWith(u'\n') && kind != "grammar"_L1;
     const QString inner = isBlock ? indent + "  "_L1 : indent;
+    QString name = xml.attributes().value("name"_L1).toString();
+    QString about;
     QStringList parts;
-    for (const Pattern &part : of.parts)
-        parts.append(compact(part, inner));
+    while (xml.readNext() != QXmlStreamReader::EndElement) {
+        if (!xml.isStartElement())
+            name += xml.text().trimmed();
+        else if (xml.name() == "documentation"_L1)
+            about = "## "_L1 + xml.readElementText() + u'\n' + indent;
+        else
+            parts.append(compact(xml, inner));
+    }
+    if (kind == "choice"_L1 && parts.size() == 1)
+        return parts.front();
     QString text = indented(form.open, inner);
-    if (text.contains("%1"_L1))
-        text = text.arg(of.name.isEmpty() ? parts.takeFirst() : of.name);
-    const QString about = of.text.isEmpty() ? QString() : "## "_L1 + of.text + u'\n' + indent;
+    if (text.contains("%1"_L1)) // an element or attribute without a name has a class of them
+        text = text.arg(name.isEmpty() ? parts.takeFirst() : name);
     return about + text + parts.join(indented(form.separator, inner))
            + indented(form.close, indent);
 }
@@ -228,10 +194,11 @@ QString compact(const Pattern &of, const QString &indent)
 
 QString requestSchema(qsizetype method, bool isCompact)
 {
-    const Pattern grammar = grammarOf(method);
     const auto about =
         "Print requests, as zentaro-print reads them. Written by `zentaro schema`."_L1;
-    if (isCompact)
+    QXmlStreamReader grammar(grammarOf(method));
+    grammar.setNamespaceProcessing(false); // names are written as they are read
+    if (isCompact && grammar.readNextStartElement())
         return "# "_L1 + about + u'\n' + compact(grammar, {});
     QString text;
     QXmlStreamWriter xml(&text);
@@ -239,8 +206,15 @@ QString requestSchema(qsizetype method, bool isCompact)
     xml.setAutoFormattingIndent(2);
     xml.writeStartDocument();
     xml.writeComment(u' ' + about + u' ');
-    writeXml(xml, grammar);
-    xml.writeEndDocument();
+    while (!grammar.atEnd()) {
+        grammar.readNext();
+        if (grammar.isStartElement()) {
+            xml.writeStartElement(grammar.qualifiedName().toString());
+            xml.writeAttributes(grammar.attributes());
+        } else if (!grammar.isStartDocument() && !grammar.isWhitespace()) {
+            xml.writeCurrentToken(grammar);
+        }
+    }
     return text;
 }
 
