@@ -14,38 +14,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool write(const QByteArray &bytes, std::FILE *file)
-{
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), file);
-    return std::fflush(file) == 0 && std::ferror(file) == 0;
-}
-
 /// The number of letters to insert, delete, change or swap with their neighbour to make one word of
 /// the other; the case of letters counts nothing.
 int editDistance(QStringView a, QStringView b)
 {
-    // Rows of the table of distances between the beginnings of both words.
-    const auto width = size_t(b.size()) + 1;
-    std::vector<int> before(width);
-    std::vector<int> above(width);
-    std::vector<int> row(width);
-    for (size_t j = 0; j < width; ++j)
-        above[j] = int(j);
-    for (qsizetype i = 1; i <= a.size(); ++i) {
-        row[0] = int(i);
-        for (size_t j = 1; j < width; ++j) {
-            const auto same = [&](qsizetype ai, size_t bj) {
-                return a[ai].toLower() == b[qsizetype(bj)].toLower();
-            };
-            row[j] = std::min(
-                {above[j] + 1, row[j - 1] + 1, above[j - 1] + (same(i - 1, j - 1) ? 0 : 1)});
-            if (i > 1 && j > 1 && same(i - 1, j - 2) && same(i - 2, j - 1))
-                row[j] = std::min(row[j], before[j - 2] + 1);
+    const auto width = b.size() + 1;
+    std::vector<int> table(size_t((a.size() + 1) * width)); // of the beginnings of both words
+    const auto at = [&](qsizetype i, qsizetype j) -> int & { return table[size_t(i * width + j)]; };
+    const auto same = [&](qsizetype i, qsizetype j) {
+        return a[i - 1].toLower() == b[j - 1].toLower();
+    };
+    for (qsizetype i = 0; i <= a.size(); ++i) {
+        for (qsizetype j = 0; j <= b.size(); ++j) {
+            at(i, j) = i == 0 || j == 0 ? int(i + j)
+                                        : std::min({at(i - 1, j) + 1, at(i, j - 1) + 1,
+                                                    at(i - 1, j - 1) + (same(i, j) ? 0 : 1)});
+            if (i > 1 && j > 1 && same(i, j - 1) && same(i - 1, j))
+                at(i, j) = std::min(at(i, j), at(i - 2, j - 2) + 1);
         }
-        before.swap(above);
-        above.swap(row);
     }
-    return above.back();
+    return table.back();
 }
 
 } // namespace
@@ -56,13 +44,14 @@ int printBytes(const QByteArray &bytes)
 {
     if (std::ferror(stdout) != 0)
         return Trouble; // told before
-    if (write(bytes, stdout))
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return Fine;
     printError(u"zentaro: standard output could not be written\n"_s);
     return Trouble;
 }
 
-void printError(const QString &text) { write(text::toLocale(text), stderr); }
+void printError(const QString &text) { std::fputs(text::toLocale(text).constData(), stderr); }
 
 QString inOneLine(const QString &text)
 {

@@ -25,10 +25,9 @@ namespace {
 /// A word as a shell would take it.
 QString inShell(QString word)
 {
-    static const QRegularExpression special(u"[^\\w@%+=:,./-]"_s);
-    if (!word.isEmpty() && !word.contains(special))
-        return word;
-    return u'\'' + word.replace(u'\'', "'\\''"_L1) + u'\'';
+    return word.contains(QRegularExpression(u"[^\\w@%+=:,./-]|^$"_s))
+               ? u'\'' + word.replace(u'\'', "'\\''"_L1) + u'\''
+               : word;
 }
 
 /// The options and arguments of a command about queues, and the scheduler's commands that do it.
@@ -126,11 +125,11 @@ int remove(const Call &call)
     return Fine;
 }
 
-/// What the pattern, in which `QUEUE` stands for the name of a queue, finds in a list.
-QRegularExpressionMatchIterator found(QString pattern, const QString &queue, const QString &list)
+/// The pattern, in which `QUEUE` stands for the name of a queue, for the lines of a list.
+QRegularExpression inLines(QString pattern, const QString &queue = {})
 {
     pattern.replace("QUEUE"_L1, QRegularExpression::escape(queue));
-    return QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(list);
+    return QRegularExpression(pattern, QRegularExpression::MultilineOption);
 }
 
 int list(const Call &call)
@@ -143,23 +142,20 @@ int list(const Call &call)
     const QString lists = line.ran(u"lpstat"_s, {u"-v"_s, u"-p"_s, u"-l"_s, u"-o"_s});
     bool stopped = false;
     QString text;
-    for (const auto &device : found(u"^device for (\\S+): (.*)$"_s, {}, lists)) {
+    for (const auto &device : inLines(u"^device for (\\S+): (.*)$"_s).globalMatch(lists)) {
         const QString name = device.captured(1);
-        QString state;
-        QString told;
-        for (const auto &it :
-             found(u"^printer QUEUE (?:is )?(idle|now printing|disabled|holding new "
-                   "jobs).*\\n(?:\\t(.+)\\n)?"_s,
-                   name, lists)) {
-            state = it.captured(1);
-            stopped |= state == "disabled"_L1;
-            if (it.hasCaptured(2))
-                told = "  "_L1 + it.captured(2) + u'\n';
-        }
+        const QRegularExpressionMatch printer =
+            inLines(u"^printer QUEUE (?:is )?(idle|now printing|disabled|holding new jobs).*\\n"
+                    "(?:\\t(.+)\\n)?"_s,
+                    name)
+                .match(lists);
+        const QString state = printer.captured(1);
+        stopped |= state == "disabled"_L1;
+        QString told = printer.hasCaptured(2) ? "  "_L1 + printer.captured(2) + u'\n' : QString();
         int count = 0;
         for (const auto &job :
-             found(u"^(QUEUE-\\d+) .*\\n(?:\\tStatus: (.*)\\n)?(?:\\tAlerts: (.*)\\n)?"_s, name,
-                   lists)) {
+             inLines(u"^(QUEUE-\\d+) .*\\n(?:\\tStatus: (.*)\\n)?(?:\\tAlerts: (.*)\\n)?"_s, name)
+                 .globalMatch(lists)) {
             ++count;
             stopped |= job.captured(3).contains("errors"_L1);
             if (!job.captured(2).isEmpty())
@@ -220,9 +216,7 @@ int test(const Call &call)
     line.addPositionalArgument(u"QUEUE"_s, u"The queue's name."_s);
     const QString name = line.readQueue(1);
     const QString options = line.ran(u"lpoptions"_s, {u"-p"_s, name, u"-l"_s});
-    QString encoding;
-    for (const auto &it : found(u"^Encoding/.*\\*(\\S+)"_s, {}, options))
-        encoding = it.captured(1);
+    const QString encoding = inLines(u"^Encoding/.*\\*(\\S+)"_s).match(options).captured(1);
     return printOut(line.ran(u"lp"_s,
                              {u"-d"_s, name, u"-t"_s, u"test page"_s, u"-o"_s,
                               u"document-format=application/vnd.zentaro.print-request"_s},
