@@ -107,7 +107,7 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
         }
         add(std::move(file));
     }
-    return asJson ? qMax(status, tools::printBytes(tools::findingsAsJson(kept).toUtf8())) : status;
+    return asJson ? qMax(status, tools::printBytes(tools::findingsAsJson(kept))) : status;
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tools/command.h"
-#include "tools/finding.h"
+#include "tools/terminal.h"
 #include "tools/terminal.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "render/requestreader.h"
-#include "tools/finding.h"
+#include "tools/terminal.h"
 
 #include <optional>
 

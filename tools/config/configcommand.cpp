@@ -159,9 +159,8 @@ int check(const Call &call)
     const std::vector<Finding> findings =
         abridged(findingsIn(readOutline(file.content, file.source.format)));
     const QString &path = file.source.path;
-    const int printed = line.isSet(u"json"_s)
-                            ? printBytes(findingsAsJson({{path, findings}}).toUtf8())
-                            : printOut(findingLines(path, findings));
+    const int printed = line.isSet(u"json"_s) ? printBytes(findingsAsJson({{path, findings}}))
+                                              : printOut(findingLines(path, findings));
     return printed == Fine && !findings.empty() ? Findings : printed;
 }
 

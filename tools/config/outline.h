@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/finding.h"
 #include "tools/terminal.h"
 
 #include <string_view>
