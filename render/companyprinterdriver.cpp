@@ -65,11 +65,12 @@ void CompanyPrinterDriver::endSection() { write(isFiscal() ? u"1T\n"_s : u"J\n"_
 
 void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {
+    const QString word = u"TOTALE"_s;
     rowlayout::pad(line, indent, u' ');
-    if (!QStringView(text).contains(u'O')) // as most lines
+    if (text.size() < word.size() || !QStringView(text).contains(u'O')) // as most
         line += text;
     else // the toolkit's own replacing takes minutes where the word is all there is
-        line += text.split(u"TOTALE"_s).join(u"SOMMA"_s);
+        line += text.split(word).join(u"SOMMA"_s);
 }
 
 void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
