@@ -126,39 +126,8 @@ QString settingsFile(const QString &queue)
     return file;
 }
 
-/// Where the reading of a request is, and why it ended before the request did.
-class Progress : public requestreader::Observer
-{
-public:
-    void taken(QStringView text, bool utf8) override
-    {
-        for (const QChar c : text) {
-            lastLine = line;
-            lastColumn = column;
-            requestreader::pass(line, column, c, utf8);
-        }
-    }
-    void stopped(requestreader::Stop why, const QString &word) override
-    {
-        const QString limit = requestreader::exceededLimit(why);
-        fault = limit.isEmpty() ? word : limit;
-    }
-
-    /// The last character that was read.
-    QString place() const { return u"line %1, column %2"_s.arg(lastLine).arg(lastColumn); }
-    bool isAtStart() const { return lastLine == 0; }
-
-    QString fault; ///< empty when the request was read to its end
-
-private:
-    qint64 line = 1;
-    qint64 column = 1;
-    qint64 lastLine = 0;
-    qint64 lastColumn = 0;
-};
-
-/// The printer, which learns what is not printed and why.
-class ReceiptPrinter : public CompanyPrinterDriver
+/// The printer, which learns what of a request is not printed, where and why.
+class ReceiptPrinter : public CompanyPrinterDriver, public requestreader::Observer
 {
 public:
     using CompanyPrinterDriver::CompanyPrinterDriver;
@@ -169,7 +138,7 @@ public:
         const bool goesOn =
             CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
         if (!goesOn)
-            refusal = u"the method `%1` is not known"_s.arg(atts.value(u"name"_s));
+            fault = u"the method `%1` is not known"_s.arg(atts.value(u"name"_s));
         return goesOn;
     }
     void startSection() override
@@ -177,43 +146,53 @@ public:
         hasSection = true;
         CompanyPrinterDriver::startSection();
     }
-    /// Writes what is on its way to the print file.
-    void end()
+    void taken(QStringView text, bool utf8) override
+    {
+        for (const QChar c : text) {
+            lastLine = nextLine;
+            lastColumn = nextColumn;
+            requestreader::pass(nextLine, nextColumn, c, utf8);
+        }
+    }
+    void stopped(requestreader::Stop why, const QString &word) override
+    {
+        const QString limit = requestreader::exceededLimit(why);
+        if (fault.isEmpty())
+            fault = limit.isEmpty() ? word : limit;
+    }
+
+    /// Writes what is on its way to the print file; answers what is wrong with the request, with
+    /// the last character that was read, or empty text.
+    QString end()
     {
         if (stream)
             stream->flush();
         if (!stream || stream->status() != QTextStream::Ok)
-            refusal = "its print file cannot be written: "_L1 + file->errorString();
+            fault = "its print file cannot be written: "_L1 + file->errorString();
+        if (lastLine == 0)
+            return u"the request is empty"_s;
+        if (!fault.isEmpty())
+            return u"line %1, column %2: %3"_s.arg(lastLine).arg(lastColumn).arg(fault);
+        return hasSection ? QString() : u"the request names no method"_s;
     }
 
     bool hasSection = false; ///< without one there is nothing to print
-    QString refusal;         ///< why the printer takes no more; empty while it does
+
+private:
+    QString fault;
+    qint64 nextLine = 1;
+    qint64 nextColumn = 1;
+    qint64 lastLine = 0;
+    qint64 lastColumn = 0;
 };
 
-/// What became of a request.
-struct Outcome
-{
-    bool isPrintable; ///< there is a section
-    QString fault;    ///< what is wrong with the request; empty when it is in order
-};
-
-/// Reads the request and writes its print file on `descriptor`.
-Outcome render(QIODevice &request, int descriptor, QTextCodec *codec)
+/// The print file, open on a descriptor that stays the caller's.
+std::unique_ptr<QFile> printFile(int descriptor, QTextCodec *codec)
 {
     auto file = std::make_unique<text::LocaleFile>(QString(), codec);
     file->limitTo(MaxDocumentBytes);
     file->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered);
-    ReceiptPrinter printer(std::move(file));
-    Progress progress;
-    requestreader::read(request, printer, &progress);
-    printer.end();
-    if (progress.isAtStart())
-        return {false, u"the request is empty"_s};
-    if (!printer.refusal.isEmpty() || !progress.fault.isEmpty())
-        return {printer.hasSection,
-                progress.place() + ": "_L1
-                    + (printer.refusal.isEmpty() ? progress.fault : printer.refusal)};
-    return {printer.hasSection, printer.hasSection ? QString() : u"the request names no method"_s};
+    return file;
 }
 
 /// Sends the print file to the printer as often as there are copies; false when nobody takes it.
@@ -252,15 +231,16 @@ int printJob(int argc, char **argv)
         return EXIT_FAILURE;
     }
     const int descriptor = memfd_create("print file", MFD_CLOEXEC);
-    const Outcome outcome = render(request, descriptor, codecOf(option(argv[5], "Encoding")));
-    const bool isFaulty = !outcome.fault.isEmpty();
-    tellState(isFaulty);
-    if (!outcome.isPrintable || (isFaulty && option(argv[5], "Faulty") == "hold")) {
-        tell("ERROR", "Not printed: "_L1 + outcome.fault);
+    ReceiptPrinter printer(printFile(descriptor, codecOf(option(argv[5], "Encoding"))));
+    requestreader::read(request, printer, &printer);
+    const QString fault = printer.end();
+    tellState(!fault.isEmpty());
+    if (!printer.hasSection || (!fault.isEmpty() && option(argv[5], "Faulty") == "hold")) {
+        tell("ERROR", "Not printed: "_L1 + fault);
         return EXIT_FAILURE;
     }
-    if (isFaulty)
-        tell("ERROR", "Printed as far as the request goes: "_L1 + outcome.fault);
+    if (!fault.isEmpty())
+        tell("ERROR", "Printed as far as the request goes: "_L1 + fault);
     const int copies = qMax(1, atoi(argv[4]));
     if (!send(descriptor, copies)) {
         tell("ERROR", "The printer takes no more: "_L1 + qt_error_string());
