@@ -244,16 +244,24 @@ void ConfigEditor::listFindings()
         loss.text = tr("saving loses %1").arg(loss.text);
         found.push_back(std::move(loss));
     }
-    tree->mark(listed, found);
+    const QIcon icons[] = {style()->standardIcon(QStyle::SP_MessageBoxWarning),
+                           style()->standardIcon(QStyle::SP_MessageBoxCritical)};
+    for (QTreeWidgetItem *const item : listed.items) {
+        if (!item->icon(0).isNull())
+            item->setIcon(0, {});
+    }
+    for (const Finding &finding : found) {
+        QTreeWidgetItem &item = *listed.items[size_t(finding.subject)];
+        if (item.icon(0).isNull() || finding.severity == Severity::Error)
+            item.setIcon(0, icons[finding.severity == Severity::Error]);
+    }
 
     const size_t count = fileFaults.size() + found.size();
     const QSignalBlocker silence(findings);
     findings->clear();
     subjects.clear();
-    const auto list = [this](const QString &text, Severity severity, QTreeWidgetItem *subject) {
-        const auto icon = severity == Severity::Error ? QStyle::SP_MessageBoxCritical
-                                                      : QStyle::SP_MessageBoxWarning;
-        new QListWidgetItem(style()->standardIcon(icon), text, findings);
+    const auto list = [&](const QString &text, Severity severity, QTreeWidgetItem *subject) {
+        new QListWidgetItem(icons[severity == Severity::Error], text, findings);
         subjects.push_back(subject);
     };
     for (const auto &[fault, item] : fileFaults)

@@ -5,9 +5,7 @@
 #include "tools/knownkeys.h"
 
 #include <QCompleter>
-#include <QHash>
 #include <QLineEdit>
-#include <QStyle>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -38,6 +36,20 @@ QStringList proposals(const QTreeWidgetItem &item)
 QString nameOf(const QTreeWidgetItem &item)
 {
     return libconfig::isGroupItem(item) ? item.text(0) : libconfig::settingOf(item.text(0)).first;
+}
+
+/// Adds an item and what is below it.
+void addTo(TreeOutline &result, QTreeWidgetItem *item, qsizetype parent)
+{
+    const bool isGroup = libconfig::isGroupItem(*item);
+    const auto index = qsizetype(result.items.size());
+    Entry &entry = result.outline.add(isGroup ? Entry::Kind::Group : Entry::Kind::Setting, parent,
+                                      nameOf(*item));
+    if (!isGroup)
+        entry.value = libconfig::settingOf(item->text(0)).second;
+    result.items.push_back(item);
+    for (int i = 0; i < item->childCount(); ++i)
+        addTo(result, item->child(i), index);
 }
 
 } // namespace
@@ -118,24 +130,21 @@ private:
 class ConfigTree::Delegate : public QStyledItemDelegate
 {
 public:
-    explicit Delegate(ConfigTree &tree)
-        : QStyledItemDelegate(&tree)
-        , tree(tree)
-    {
-    }
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QWidget *createEditor(QWidget *view, const QStyleOptionViewItem &,
                           const QModelIndex &index) const override
     {
+        ConfigTree &tree = *static_cast<ConfigTree *>(parent());
         QTreeWidgetItem *const item = tree.itemFromIndex(index);
         tree.typed = item;
         tree.before = item->text(0);
         ++tree.session;
-        auto *const line = new QLineEdit(tree.before, parent);
+        auto *const line = new QLineEdit(tree.before, view);
         auto *const completer = new QCompleter(proposals(*item), line);
         completer->setCaseSensitivity(Qt::CaseInsensitive);
         completer->setFilterMode(Qt::MatchContains);
         line->setCompleter(completer);
-        connect(line, &QLineEdit::textChanged, &tree, [this, item](const QString &text) {
+        connect(line, &QLineEdit::textChanged, &tree, [&tree, item](const QString &text) {
             if (tree.typed == item)
                 tree.setText(item, text);
         });
@@ -153,15 +162,12 @@ public:
         if (const QString text = index.data().toString(); line->text() != text)
             line->setText(text);
     }
-
-private:
-    ConfigTree &tree;
 };
 
 ConfigTree::ConfigTree()
 {
     setHeaderHidden(true);
-    setItemDelegate(new Delegate(*this));
+    setItemDelegate(new Delegate(this));
     setSelectionMode(ExtendedSelection);
     setUniformRowHeights(true);
     setEditTriggers(DoubleClicked | EditKeyPressed | SelectedClicked);
@@ -185,24 +191,7 @@ TreeOutline ConfigTree::outlineIn(const QString &format) const
 {
     TreeOutline result;
     result.outline.keepsEmptyGroups = format == "xml"_L1;
-    std::vector<std::pair<QTreeWidgetItem *, qsizetype>> pending{{fileItem(), -1}};
-    while (!pending.empty()) {
-        const auto [item, parent] = pending.back();
-        pending.pop_back();
-        const auto index = qsizetype(result.items.size());
-        const bool isGroup = libconfig::isGroupItem(*item);
-        result.outline.entries.push_back(
-            {isGroup ? Entry::Kind::Group : Entry::Kind::Setting,
-             parent,
-             nameOf(*item),
-             isGroup ? QString() : libconfig::settingOf(item->text(0)).second,
-             {},
-             {},
-             item->childCount() > 0});
-        result.items.push_back(item);
-        for (int i = item->childCount() - 1; i >= 0; --i)
-            pending.emplace_back(item->child(i), index);
-    }
+    addTo(result, fileItem(), -1);
     return result;
 }
 
@@ -366,24 +355,6 @@ bool ConfigTree::showWhere(QTreeWidgetItem *item, const QString &key, const QStr
     if (isShown && !text.isEmpty() && item->childCount() > 0)
         item->setExpanded(true);
     return isShown;
-}
-
-void ConfigTree::mark(const TreeOutline &outline, const std::vector<Finding> &findings)
-{
-    QHash<QTreeWidgetItem *, tools::Severity> marks;
-    for (const Finding &finding : findings) {
-        tools::Severity &severity = marks[outline.items[size_t(finding.subject)]];
-        severity = std::max(severity, finding.severity);
-    }
-    for (QTreeWidgetItem *const item : outline.items) {
-        const auto found = marks.constFind(item);
-        if (found != marks.constEnd())
-            item->setIcon(0, style()->standardIcon(*found == tools::Severity::Error
-                                                       ? QStyle::SP_MessageBoxCritical
-                                                       : QStyle::SP_MessageBoxWarning));
-        else if (!item->icon(0).isNull())
-            item->setIcon(0, {});
-    }
 }
 
 void ConfigTree::shade(const QList<QTreeWidgetItem *> &items)

@@ -72,8 +72,6 @@ public:
     /// Shows only the items whose dotted key contains the text, in any letter case, with everything
     /// below them and the groups above them; all for an empty text.
     void showMatching(const QString &text) { showWhere(fileItem(), {}, text, false); }
-    /// Marks what has something wrong with it.
-    void mark(const TreeOutline &outline, const std::vector<Finding> &findings);
     /// Shades these items, and no others, until the next change.
     void shade(const QList<QTreeWidgetItem *> &items);
 

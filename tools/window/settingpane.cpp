@@ -147,24 +147,22 @@ QWidget *SettingPane::newEditor(const Setting *setting, const QString &value)
         return newChoice(true, languages(), value);
     if (const QStringList words = tools::wordsOf(kind); !words.isEmpty())
         return newChoice(false, words, value);
-    if (kind == SettingKind::Number)
-        return newNumber(setting->most, value);
-    if (kind != SettingKind::Switch)
-        return newLine(kind == SettingKind::Folder, value);
-    auto *const box = new QCheckBox(tr("&Value: on"));
-    box->setChecked(value == "true"_L1);
-    connect(box, &QCheckBox::toggled, this, [this](bool on) { edit(on ? u"true"_s : u"false"_s); });
-    return box;
-}
-
-QWidget *SettingPane::newNumber(int most, const QString &value)
-{
-    auto *const box = new QSpinBox;
-    box->setRange(qMin(value.toInt(), 0), most);
-    box->setValue(value.toInt());
-    connect(box, &QSpinBox::valueChanged, this,
-            [this](int number) { edit(QString::number(number)); });
-    return box;
+    if (kind == SettingKind::Number) {
+        auto *const box = new QSpinBox;
+        box->setRange(qMin(value.toInt(), 0), setting->most);
+        box->setValue(value.toInt());
+        connect(box, &QSpinBox::valueChanged, this,
+                [this](int number) { edit(QString::number(number)); });
+        return box;
+    }
+    if (kind == SettingKind::Switch) {
+        auto *const box = new QCheckBox(tr("&Value: on"));
+        box->setChecked(value == "true"_L1);
+        connect(box, &QCheckBox::toggled, this,
+                [this](bool on) { edit(on ? u"true"_s : u"false"_s); });
+        return box;
+    }
+    return newLine(kind == SettingKind::Folder, value);
 }
 
 QWidget *SettingPane::newLine(bool isFolder, const QString &value)

@@ -31,7 +31,6 @@ private:
     QString labelsFolder() const;
     QStringList languages() const;
     QWidget *newEditor(const Setting *setting, const QString &value);
-    QWidget *newNumber(int most, const QString &value);
     QWidget *newLine(bool isFolder, const QString &value);
     QWidget *newChoice(bool isLanguage, QStringList choices, const QString &value);
 

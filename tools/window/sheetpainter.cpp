@@ -78,8 +78,9 @@ SheetPainter::SheetPainter(const Sheet &sheet, const PaperSize &paper, Frame fra
 
     int marks = 0;
     for (const Row &row : sheet.rows) {
-        marks = std::max(marks, int(markOf(row).size()));
-        right = std::max(right, noteOffset(row) + int(noteOf(row).size()) * cell);
+        const auto &[mark, note, offset] = asides.emplace_back(asideOf(row));
+        marks = std::max(marks, int(mark.size()));
+        right = std::max(right, offset + int(note.size()) * cell);
     }
     const int border = frame == Frame::Bare ? 0 : 2 * cell;
     left = marks > 0 ? (marks + 2) * cell : border;
@@ -98,37 +99,27 @@ QSize SheetPainter::size() const
     return {left + paperWidth + right, top(std::max<size_t>(sheet.rows.size(), 1)) + foot};
 }
 
-Cells SheetPainter::markOf(const Row &row) const
+SheetPainter::Aside SheetPainter::asideOf(const Row &row) const
 {
-    QStringList parts;
+    QStringList mark;
     if (row.requestLine > 0)
-        parts.append(QString::number(row.requestLine));
+        mark.append(QString::number(row.requestLine));
     if (!row.mark.isEmpty() && (frame != Frame::Bare || row.kind == Row::Kind::Line))
-        parts.append(row.mark);
-    return cellsOf(parts.join(u' '));
-}
-
-Cells SheetPainter::noteOf(const Row &row) const
-{
-    QStringList parts;
+        mark.append(row.mark);
+    QStringList note;
     if (row.overrun() > 0)
-        parts.append(u'+' + QString::number(row.overrun()));
+        note.append(u'+' + QString::number(row.overrun()));
     if (!row.note.isEmpty())
-        parts.append(row.note);
+        note.append(row.note);
     for (const char32_t c : row.text) {
         if (drawable(c) != c || glyphOf(c).kind == Glyph::Kind::Missing)
-            parts.append(numberOf(c));
-        if (parts.size() > qsizetype(MostNoteCells))
+            note.append(numberOf(c));
+        if (note.size() > qsizetype(MostNoteCells))
             break; // more than is shown
     }
-    return shortened(cellsOf(parts.join(u' ')));
-}
-
-/// How far behind the paper's edge a row's note begins.
-int SheetPainter::noteOffset(const Row &row) const
-{
     const int text = margin + (row.width + int(shownBeyond(row).size())) * cell - paperWidth;
-    return std::max(row.beyond().empty() ? 0 : text, 0) + (noteOf(row).empty() ? 0 : cell);
+    return {cellsOf(mark.join(u' ')), shortened(cellsOf(note.join(u' '))),
+            std::max(row.beyond().empty() ? 0 : text, 0) + (note.isEmpty() ? 0 : cell)};
 }
 
 SheetPainter::Glyph SheetPainter::glyphOf(char32_t c) const
@@ -197,7 +188,7 @@ void SheetPainter::paintRow(QPainter &painter, const Colours &colours, size_t in
     const Colours::Ground &paper = isChanged ? colours.changed : colours.paper;
     if (isChanged)
         painter.fillRect(left + line, y, paperWidth - 2 * line, 2 * cell, paper.ground);
-    const Cells mark = markOf(row);
+    const auto &[mark, note, offset] = asides[index];
     write(painter, QPointF(left - (int(mark.size()) + 1) * cell, y), mark, colours.desk.ink);
     write(painter, QPointF(left + margin, y), row.onPaper(), paper.ink);
     const CellsView beyond = shownBeyond(row);
@@ -206,7 +197,7 @@ void SheetPainter::paintRow(QPainter &painter, const Colours &colours, size_t in
     if (isOverrun)
         painter.fillRect(edge, y, int(beyond.size()) * cell, 2 * cell, colours.beyond.ground);
     write(painter, QPointF(edge, y), beyond, isOverrun ? colours.beyond.ink : paper.ink);
-    write(painter, QPointF(left + paperWidth + noteOffset(row), y), noteOf(row), colours.desk.ink);
+    write(painter, QPointF(left + paperWidth + offset, y), note, colours.desk.ink);
 }
 
 /// Writes each character into a cell of its own, from `at` on, the upper left corner of the first;

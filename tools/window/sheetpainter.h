@@ -53,9 +53,14 @@ private:
         QRectF ink; ///< around its origin
     };
 
-    Cells markOf(const Row &row) const;
-    Cells noteOf(const Row &row) const;
-    int noteOffset(const Row &row) const;
+    /// What stands before a row's paper and behind it.
+    struct Aside
+    {
+        Cells mark, note;
+        int offset; ///< of the note, from the paper's edge
+    };
+
+    Aside asideOf(const Row &row) const;
     int top(size_t row) const { return head + int(row) * 2 * cell; }
     void paintPaper(QPainter &painter, const Colours &colours, size_t first, size_t end) const;
     void paintRow(QPainter &painter, const Colours &colours, size_t index) const;
@@ -80,6 +85,7 @@ private:
     QFontMetricsF metrics;
     double baseline = 0; // of text, below the top of its row
     mutable QHash<char32_t, Glyph> glyphs;
+    std::vector<Aside> asides; // of the rows
 };
 
 /// Draws the sheets into a file, in rows beside each other; each row is a page of a PDF. The file
