@@ -258,15 +258,14 @@ protected:
     {
         QCoreApplication::processEvents();
         QStringList lines;
-        const auto &[title, rows, changed] = view->rows();
+        const auto &[title, rows, changed] = pane->shown();
         for (size_t i = 0; i < rows.size(); ++i)
             lines.append((i < changed.size() && changed[i] ? u"*"_s : u""_s)
                          + preview::textOf(rows[i].text));
         return lines;
     }
 
-    configtool::SheetView *const view =
-        dynamic_cast<configtool::SheetView *>(editor.findChild<QListView *>(u"paper"_s));
+    QListView *const view = editor.findChild<QListView *>(u"paper"_s);
     configtool::PaperPane *const pane = dynamic_cast<configtool::PaperPane *>(view->parentWidget());
     QLabel *const remark = pane->findChildren<QLabel *>().last();
     QComboBox *const documents = pane->findChild<QComboBox *>();

@@ -14,7 +14,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QListView>
 #include <QPaintEvent>
+#include <QScrollBar>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -61,80 +63,33 @@ QStringList otherValues(const Setting &setting, const QString &value)
 
 } // namespace
 
-SheetView::SheetView()
-{
-    setObjectName("paper"_L1);
-    setModel(&places);
-    setEditTriggers(NoEditTriggers);
-    setVerticalScrollMode(ScrollPerPixel);
-    setHorizontalScrollMode(ScrollPerPixel);
-    QPalette desk = palette();
-    desk.setColor(QPalette::Base, preview::Colours().desk.ground);
-    setPalette(desk);
-    layOut();
-}
-
-void SheetView::show(preview::Sheet shown)
-{
-    sheet = std::move(shown);
-    const int more = int(sheet.rows.size()) - places.rowCount();
-    if (more > 0)
-        places.insertRows(places.rowCount(), more);
-    else if (more < 0)
-        places.removeRows(places.rowCount() + more, -more);
-    layOut();
-}
-
-void SheetView::fade()
-{
-    sheet.changed.clear();
-    viewport()->update();
-}
-
-void SheetView::setPaper(const preview::PaperSize &size)
-{
-    paper = size;
-    layOut();
-}
-
-void SheetView::layOut()
-{
-    painter.emplace(sheet, paper, preview::SheetPainter::Frame::Bare);
-    setGridSize({painter->size().width(), 2 * painter->cellWidth()});
-    viewport()->update();
-}
-
-void SheetView::paintEvent(QPaintEvent *event)
-{
-    QPainter canvas(viewport());
-    canvas.setClipRect(event->rect());
-    const QSize size = painter->size();
-    canvas.translate(qMax((viewport()->width() - size.width()) / 2, -horizontalOffset()),
-                     -verticalOffset());
-    painter->paint(canvas, {});
-    const int height = 2 * painter->cellWidth();
-    if (const QModelIndex current = currentIndex(); current.isValid())
-        canvas.drawRect(0, current.row() * height, size.width() - 1, height - 1);
-}
-
 PaperPane::PaperPane(ConfigTree &tree)
     : tree(tree)
     , documents(new QComboBox)
     , widths(new QComboBox)
-    , view(new SheetView)
+    , view(new QListView)
     , remark(new QLabel)
 {
     constexpr int MarkedFor = 1'500; // milliseconds
-    SyncSingleton<ZTConfiguration>::instance_pointer = &configuration;
     fading.setSingleShot(true);
     fading.setInterval(MarkedFor);
     connect(&fading, &QTimer::timeout, this, [this] {
-        view->fade();
-        settled = view->rows().rows;
+        settled = sheet.rows;
+        sheet.changed.clear();
+        view->viewport()->update();
     });
     addSamples();
     for (const int width : {80, 58})
         widths->addItem(tr("%1 mm").arg(width), width);
+    view->setObjectName("paper"_L1);
+    view->setModel(&places);
+    view->setEditTriggers(QListView::NoEditTriggers);
+    view->setVerticalScrollMode(QListView::ScrollPerPixel);
+    view->setHorizontalScrollMode(QListView::ScrollPerPixel);
+    view->viewport()->installEventFilter(this);
+    QPalette desk = view->palette();
+    desk.setColor(QPalette::Base, preview::Colours().desk.ground);
+    view->setPalette(desk);
     remark->setWordWrap(true);
     remark->setTextFormat(Qt::PlainText);
     documents->setAccessibleName(tr("Document"));
@@ -151,7 +106,8 @@ PaperPane::PaperPane(ConfigTree &tree)
 
     connect(documents, &QComboBox::currentIndexChanged, this, &PaperPane::chooseDocument);
     connect(widths, &QComboBox::currentIndexChanged, this, [this] {
-        view->setPaper({view->paperSize().dpi, widths->currentData().toInt()});
+        paper.widthMm = widths->currentData().toInt();
+        layOut();
     });
     for (const auto chosen : {&QListView::clicked, &QListView::activated})
         connect(view, chosen, this, [this](const QModelIndex &at) { explain(size_t(at.row())); });
@@ -199,6 +155,7 @@ QString PaperPane::openRequest(const QString &path)
         documents->addItem(QFileInfo(path).fileName(), path);
     }
     documents->setCurrentIndex(index);
+    chooseDocument(); // anew, where it was shown before
     return {};
 }
 
@@ -215,14 +172,45 @@ void PaperPane::zoomBy(double factor)
 {
     constexpr int LeastDpi = 40;
     constexpr int MostDpi = 400;
-    const preview::PaperSize paper = view->paperSize();
-    view->setPaper({std::clamp(int(paper.dpi * factor), LeastDpi, MostDpi), paper.widthMm});
+    paper.dpi = std::clamp(int(paper.dpi * factor), LeastDpi, MostDpi);
+    layOut();
+}
+
+/// Makes a place for each row of the sheet.
+void PaperPane::layOut()
+{
+    const int present = places.rowCount();
+    const int wanted = int(sheet.rows.size());
+    places.insertRows(present, qMax(wanted - present, 0));
+    places.removeRows(wanted, qMax(present - wanted, 0));
+    painter.emplace(sheet, paper, preview::SheetPainter::Frame::Bare);
+    view->setGridSize({painter->size().width(), 2 * painter->cellWidth()});
+    view->viewport()->update();
+}
+
+/// Paints the sheet in the view, and a frame around the current row.
+bool PaperPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Paint)
+        return QWidget::eventFilter(watched, event);
+    QPainter canvas(view->viewport());
+    canvas.setClipRect(static_cast<QPaintEvent *>(event)->rect());
+    const QSize size = painter->size();
+    canvas.translate(
+        qMax((view->viewport()->width() - size.width()) / 2, -view->horizontalScrollBar()->value()),
+        -view->verticalScrollBar()->value());
+    painter->paint(canvas, {});
+    const int height = 2 * painter->cellWidth();
+    if (const QModelIndex current = view->currentIndex(); current.isValid())
+        canvas.drawRect(0, current.row() * height, size.width() - 1, height - 1);
+    return true;
 }
 
 /// The request as the present settings print it; what is wrong with it stands below the paper.
 std::vector<preview::Row> PaperPane::printed()
 {
     const text::LineSink quiet(text::LineSink::drop); // the remark tells
+    SyncSingleton<ZTConfiguration>::instance_pointer = &configuration;
     configuration.loadListView(&tree);
     const QString present = configuration.getStrValue(u"zentaro.language.basedir"_s) + u'\n'
                             + configuration.getStrValue(u"zentaro.language.file"_s);
@@ -239,12 +227,12 @@ std::vector<preview::Row> PaperPane::printed()
 void PaperPane::draw()
 {
     preview::Sheet before{{}, settled, {}};
-    preview::Sheet after{{}, printed(), {}};
+    sheet = {{}, printed(), {}};
     if (settled.empty())
-        settled = after.rows; // of another document
+        settled = sheet.rows; // of another document
     else
-        preview::markChanges(before, after);
-    view->show(std::move(after));
+        preview::markChanges(before, sheet);
+    layOut();
     fading.start();
 }
 

@@ -5,7 +5,6 @@
 #include "tools/window/configtree.h"
 #include "tools/window/sheetpainter.h"
 
-#include <QListView>
 #include <QStringListModel>
 #include <QTimer>
 #include <QTranslator>
@@ -15,37 +14,12 @@
 
 class QComboBox;
 class QLabel;
+class QListView;
 
 namespace configtool {
 
-/// A sheet on the screen, of which a row can be chosen: by a click, or by the arrow keys and Enter.
-class SheetView : public QListView
-{
-public:
-    SheetView();
-
-    /// Shows other rows, those marked that are `changed`.
-    void show(preview::Sheet shown);
-    /// Shows the rows without marks.
-    void fade();
-    void setPaper(const preview::PaperSize &size);
-
-    const preview::Sheet &rows() const { return sheet; }
-    preview::PaperSize paperSize() const { return paper; }
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    void layOut();
-
-    preview::Sheet sheet;
-    preview::PaperSize paper{128, 80};
-    std::optional<preview::SheetPainter> painter; // of the sheet
-    QStringListModel places;                      // of the rows; what they show is the sheet's
-};
-
-/// A document on paper, printed with the settings as they stand in the tree.
+/// A document on paper, printed with the settings as they stand in the tree. A line of it can be
+/// chosen: by a click, or by the arrow keys and Enter.
 class PaperPane : public QWidget
 {
     Q_DECLARE_TR_FUNCTIONS(PaperPane)
@@ -63,10 +37,16 @@ public:
     /// Shows a request of the person's own. Answers why it cannot, or an empty text.
     QString openRequest(const QString &path);
     void zoomBy(double factor);
+    /// What is shown.
+    const preview::Sheet &shown() const { return sheet; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void addSamples();
     void chooseDocument();
+    void layOut();
     void explain(size_t row);
     std::vector<preview::Row> printed();
     bool shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row);
@@ -79,10 +59,14 @@ private:
     QStringList groups; // whose settings print the request
     QComboBox *const documents;
     QComboBox *const widths;
-    SheetView *const view;
+    QListView *const view; // in which a row is chosen
     QLabel *const remark;
-    std::vector<preview::Row> settled; // what changes are marked against
-    QTimer fading;                     // of the marks
+    preview::Sheet sheet;
+    preview::PaperSize paper{128, 80};
+    std::optional<preview::SheetPainter> painter; // of the sheet
+    QStringListModel places;                      // of its rows
+    std::vector<preview::Row> settled;            // what changes are marked against
+    QTimer fading;                                // of the marks
 };
 
 } // namespace configtool
