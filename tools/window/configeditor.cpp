@@ -71,12 +71,12 @@ QTreeWidgetItem *itemOf(const Outline &outline, qsizetype index, QTreeWidgetItem
 QString listOf(const std::vector<Finding> &findings)
 {
     constexpr size_t Most = 12; // lines in a box
-    QStringList lines;
+    QString lines;
     for (size_t i = 0; i < findings.size() && i < Most; ++i)
-        lines.append(u"• "_s + findings[i].text);
-    if (findings.size() > Most)
-        lines.append(ConfigEditor::tr("and %1 more").arg(findings.size() - Most));
-    return lines.join(u'\n');
+        lines += u"• "_s + findings[i].text + u'\n';
+    return findings.size() > Most
+               ? lines + ConfigEditor::tr("and %1 more").arg(findings.size() - Most)
+               : lines;
 }
 
 } // namespace
@@ -141,7 +141,6 @@ void ConfigEditor::nameFile(const Source &file)
     source = file;
     tree->fileItem()->setText(0, file.path);
     setWindowTitle(u"%1[*] - %2"_s.arg(QFileInfo(file.path).fileName(), tr("Configuration")));
-    updateHint();
 }
 
 void ConfigEditor::chooseFile()
@@ -226,18 +225,26 @@ void ConfigEditor::closeEvent(QCloseEvent *event)
     event->setAccepted(!tree->fileItem() || confirmLeaving());
 }
 
-void ConfigEditor::treeChanged()
-{
-    pause.start();
-    drawing.start();
-}
-
 void ConfigEditor::listFindings()
 {
     pause.stop();
-    updateHint();
     const TreeOutline listed = tree->outlineIn(source.format);
-    std::vector<Finding> found = findingsIn(listed.outline);
+    std::vector<Finding> found;
+    if (const QString reason = whyUnwritable(source.path); !reason.isEmpty())
+        found.push_back(
+            {Severity::Error,
+             "unwritable"_L1,
+             tr("This file cannot be written: %1. “Save As” writes another.").arg(reason),
+             {},
+             0});
+    if (tree->fileItem()->childCount() == 0)
+        found.push_back({Severity::Note,
+                         "empty"_L1,
+                         tr("There are no settings yet. “zentaro config init” writes a complete "
+                            "configuration to start from; or add a group “zentaro” first."),
+                         {},
+                         0});
+    std::ranges::move(findingsIn(listed.outline), std::back_inserter(found));
     for (Finding &loss : lossesInFormat(listed.outline, source.format)) {
         if (loss.code == "lost-group"_L1 || loss.code == "lost-duplicate"_L1)
             continue; // found above
@@ -291,18 +298,6 @@ void ConfigEditor::currentChanged()
     setting->showCurrent();
     if (const QTreeWidgetItem *const item = tree->currentItem())
         paper->follow(libconfig::isGroupItem(*item) ? item->text(0) : item->parent()->text(0));
-}
-
-void ConfigEditor::updateHint()
-{
-    QStringList hints;
-    if (const QString reason = whyUnwritable(source.path); !reason.isEmpty())
-        hints.append(tr("This file cannot be written: %1. “Save As” writes another.").arg(reason));
-    if (tree->fileItem()->childCount() == 0)
-        hints.append(tr("There are no settings yet. “zentaro config init” writes a complete "
-                        "configuration to start from; or add a group “zentaro” first."));
-    hint->setText(hints.join(u'\n'));
-    hint->setVisible(!hints.isEmpty());
 }
 
 } // namespace configtool

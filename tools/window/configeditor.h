@@ -61,10 +61,8 @@ private:
     bool confirmLeaving();
     bool confirmSaving(const Source &target);
     void nameFile(const Source &file);
-    void treeChanged();
     void currentChanged();
     void showFinding(int row);
-    void updateHint();
 
     Source source;
     QByteArray written; ///< the file's content as it was last read or written
@@ -75,7 +73,6 @@ private:
     ConfigTree *const tree;
     SettingPane *const setting;
     PaperPane *const paper;
-    QLabel *const hint; ///< what to do with an empty tree, or a file that cannot be written
     QLabel *const findingsTitle;
     QListWidget *const findings;
 

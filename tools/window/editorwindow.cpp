@@ -19,7 +19,6 @@ ConfigEditor::ConfigEditor()
     , tree(new ConfigTree)
     , setting(new SettingPane(*tree))
     , paper(new PaperPane(*tree))
-    , hint(new QLabel)
     , findingsTitle(new QLabel)
     , findings(new QListWidget)
 {
@@ -33,7 +32,8 @@ ConfigEditor::ConfigEditor()
     connect(&pause, &QTimer::timeout, this, &ConfigEditor::listFindings);
     connect(&drawing, &QTimer::timeout, setting, &SettingPane::showCurrent);
     connect(&drawing, &QTimer::timeout, paper, &PaperPane::draw);
-    connect(&tree->changes, &QUndoStack::indexChanged, this, &ConfigEditor::treeChanged);
+    for (QTimer *const timer : {&pause, &drawing})
+        connect(&tree->changes, &QUndoStack::indexChanged, timer, qOverload<>(&QTimer::start));
     connect(&tree->changes, &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
     connect(tree, &QTreeWidget::currentItemChanged, this, &ConfigEditor::currentChanged);
@@ -49,8 +49,6 @@ void ConfigEditor::buildWindow()
 {
     searchLine->setPlaceholderText(tr("Search keys (Ctrl+F)"));
     searchLine->setClearButtonEnabled(true);
-    hint->setWordWrap(true);
-    hint->setTextFormat(Qt::PlainText);
     findings->setWordWrap(true);
     findings->setIconSize({16, 16});
     findings->setResizeMode(QListView::Adjust);
@@ -74,76 +72,73 @@ void ConfigEditor::buildWindow()
     columns->setStretchFactor(0, 1);
     columns->setStretchFactor(1, 1);
     layout->addWidget(searchLine);
-    layout->addWidget(hint);
     layout->addWidget(columns, 1);
     setCentralWidget(center);
+    QToolBar *const bar = addToolBar(tr("Tools"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     resize(1'040, 760);
 }
 
 void ConfigEditor::buildMenus()
 {
+    using enum QStyle::StandardPixmap;
     constexpr double Step = 1.25; // of zooming
     const auto add = [this](QMenu *menu, const QString &text, QStyle::StandardPixmap icon,
                             const QKeySequence &shortcut, auto run) {
         return menu->addAction(style()->standardIcon(icon), text, shortcut, this, run);
     };
-    QUndoStack &changes = tree->changes;
     QMenu *const file = menuBar()->addMenu(tr("&File"));
-    add(file, tr("&Open…"), QStyle::SP_DialogOpenButton, QKeySequence::Open,
-        [this] { chooseFile(); });
+    add(file, tr("&Open…"), SP_DialogOpenButton, QKeySequence::Open, &ConfigEditor::chooseFile);
     QAction *const saving =
-        add(file, tr("&Save"), QStyle::SP_DialogSaveButton, QKeySequence::Save, [this] { save(); });
-    add(file, tr("Save &As…"), QStyle::SP_DialogSaveButton, u"Ctrl+Shift+S"_s,
-        [this] { chooseTarget(); });
+        add(file, tr("&Save"), SP_DialogSaveButton, QKeySequence::Save, &ConfigEditor::save);
+    add(file, tr("Save &As…"), SP_DialogSaveButton, u"Ctrl+Shift+S"_s, &ConfigEditor::chooseTarget);
     file->addSeparator();
-    add(file, tr("&Quit"), QStyle::SP_DialogCloseButton, u"Ctrl+Q"_s, [this] { close(); });
+    add(file, tr("&Quit"), SP_DialogCloseButton, u"Ctrl+Q"_s, &ConfigEditor::close);
 
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
-    QAction *const undo = add(edit, tr("&Undo"), QStyle::SP_ArrowBack, QKeySequence::Undo,
-                              [this, &changes] { tree->finishTyping(), changes.undo(); });
-    QAction *const redo = add(edit, tr("&Redo"), QStyle::SP_ArrowForward, QKeySequence::Redo,
-                              [this, &changes] { tree->finishTyping(), changes.redo(); });
+    QAction *const undo = add(edit, tr("&Undo"), SP_ArrowBack, QKeySequence::Undo,
+                              [this] { tree->finishTyping(), tree->changes.undo(); });
+    QAction *const redo = add(edit, tr("&Redo"), SP_ArrowForward, QKeySequence::Redo,
+                              [this] { tree->finishTyping(), tree->changes.redo(); });
     undo->setEnabled(false);
     redo->setEnabled(false);
-    connect(&changes, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
-    connect(&changes, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
+    connect(&tree->changes, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
+    connect(&tree->changes, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
     edit->addSeparator();
     const auto addItem = [this](QTreeWidgetItem *item) { searchLine->clear(), tree->add(item); };
     const QList<QAction *> ofItems = {
-        add(edit, tr("Add &Setting"), QStyle::SP_FileIcon, u"Ins"_s,
+        add(edit, tr("Add &Setting"), SP_FileIcon, u"Ins"_s,
             [addItem] { addItem(libconfig::newSettingItem({}, {})); }),
-        add(edit, tr("Add &Group"), QStyle::SP_FileDialogNewFolder, u"Ctrl+G"_s,
+        add(edit, tr("Add &Group"), SP_FileDialogNewFolder, u"Ctrl+G"_s,
             [addItem] { addItem(libconfig::newGroupItem({})); }),
-        add(edit, tr("Ren&ame"), QStyle::SP_FileDialogDetailedView, u"F2"_s,
+        add(edit, tr("Ren&ame"), SP_FileDialogDetailedView, u"F2"_s,
             [this] { tree->editItem(tree->currentItem()); }),
-        add(edit, tr("Change &Value"), QStyle::SP_FileDialogContentsView, u"F3"_s,
+        add(edit, tr("Change &Value"), SP_FileDialogContentsView, u"F3"_s,
             [this] { setting->focusEditor(); }),
-        add(edit, tr("Switch &On or Off"), QStyle::SP_DialogApplyButton, u"Ctrl+T"_s,
+        add(edit, tr("Switch &On or Off"), SP_DialogApplyButton, u"Ctrl+T"_s,
             [this] { setting->toggleSwitch(); }),
-        add(edit, tr("Set &Everywhere"), QStyle::SP_DialogYesToAllButton, u"Ctrl+E"_s,
+        add(edit, tr("Set &Everywhere"), SP_DialogYesToAllButton, u"Ctrl+E"_s,
             [this] { tree->setEverywhere(); }),
-        add(edit, tr("Re&move"), QStyle::SP_TrashIcon, QKeySequence::Delete,
+        add(edit, tr("Re&move"), SP_TrashIcon, QKeySequence::Delete,
             [this] { tree->removeSelected(); })};
     tree->addActions(ofItems);
     edit->addSeparator();
-    add(edit, tr("&Find"), QStyle::SP_FileDialogContentsView, QKeySequence::Find,
+    add(edit, tr("&Find"), SP_FileDialogContentsView, QKeySequence::Find,
         [this] { searchLine->setFocus(), searchLine->selectAll(); });
-    add(edit, tr("&Next Finding"), QStyle::SP_ArrowDown, u"F8"_s, [this] {
+    add(edit, tr("&Next Finding"), SP_ArrowDown, u"F8"_s, [this] {
         findings->setCurrentRow((findings->currentRow() + 1) % qMax(findings->count(), 1));
     });
 
     QMenu *const menu = menuBar()->addMenu(tr("&Paper"));
-    add(menu, tr("Open a &Print Request…"), QStyle::SP_DialogOpenButton, u"Ctrl+P"_s,
-        [this] { chooseRequest(); });
-    add(menu, tr("Zoom &In"), QStyle::SP_ArrowUp, QKeySequence::ZoomIn,
-        [this] { paper->zoomBy(Step); });
-    add(menu, tr("Zoom &Out"), QStyle::SP_ArrowDown, QKeySequence::ZoomOut,
+    add(menu, tr("Open a &Print Request…"), SP_DialogOpenButton, u"Ctrl+P"_s,
+        &ConfigEditor::chooseRequest);
+    add(menu, tr("Zoom &In"), SP_ArrowUp, QKeySequence::ZoomIn, [this] { paper->zoomBy(Step); });
+    add(menu, tr("Zoom &Out"), SP_ArrowDown, QKeySequence::ZoomOut,
         [this] { paper->zoomBy(1 / Step); });
 
-    QToolBar *const bar = addToolBar(tr("Tools"));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar->addActions({saving, undo, redo, ofItems[0], ofItems[1], ofItems.last()});
+    findChild<QToolBar *>()->addActions(
+        {saving, undo, redo, ofItems[0], ofItems[1], ofItems.last()});
 }
 
 } // namespace configtool
