@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/command.h"
 
-#include "tools/check/requestcheck.h"
 #include "tools/config/configcommand.h"
-#include "tools/preview/preview.h"
-#include "tools/schema/schema.h"
 #include "tools/terminal.h"
 
 #include <QFile>

@@ -56,7 +56,7 @@ bool CheckingDevice::startElement(const QString &namespaceURI, const QString &lo
         root = places.tag();
         checkDeclaration();
     }
-    open.push_back({qName, places.tag().begin.line});
+    open.emplace_back(qName, places.tag().begin.line);
     elementName = qName;
     atts = ownAttributes(attributes);
     row = nullptr;
@@ -151,10 +151,7 @@ bool CheckingDevice::startMethod()
         tell("prints-nothing", u"`%1` prints nothing, whatever the request holds"_s.arg(name),
              methodTag);
     row = &methodElement();
-    for (int i = 0; i < atts.count(); ++i) {
-        if (fateOf(*row, atts, i, settings) == Fate::Unread)
-            tellUnread(i);
-    }
+    checkAttributes();
     return true;
 }
 

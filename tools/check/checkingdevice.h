@@ -18,20 +18,13 @@ namespace requestcheck {
 class CheckingDevice : public CompanyPrinterDriver
 {
 public:
-    /// An element whose end was not read.
-    struct OpenElement
-    {
-        QString name;
-        qint64 line;
-    };
-
     /// `places` follows the same reading. Without a configuration, what switches leave away is not
     /// told: they are all off.
     CheckingDevice(const TagPlaces &places, tools::FindingStore &findings, bool isConfigured);
     ~CheckingDevice() override { stream.reset(); } // before the text that it writes to
 
-    /// The innermost last.
-    const std::vector<OpenElement> &openElements() const { return open; }
+    /// The elements whose ends were not read, and their lines; the innermost last.
+    const std::vector<std::pair<QString, qint64>> &openElements() const { return open; }
     /// Tells what is left where the reading ends early.
     void finish();
     /// The root's tag; line 0 before it.
@@ -100,7 +93,7 @@ private:
     QString lastLine;                   // printed for the element, without its frame
     bool hasPrinted = false;            // the element
     bool isPrinterName = false;
-    std::vector<OpenElement> open;
+    std::vector<std::pair<QString, qint64>> open;
     std::optional<tools::Finding> unlessGroup; // about the innermost, unless it groups others
     Range root;
     Range printer;                  // where its name stands; line 0 before it

@@ -3,8 +3,7 @@
 
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
-#include "tools/paperrules.h"
-#include "tools/preview/paper.h"
+#include "tools/preview/preview.h"
 #include "tools/terminal.h"
 
 #include <QTextCodec>
@@ -152,15 +151,15 @@ void CheckingDevice::println(unsigned int indent, const QString &text)
     const qsizetype pad = paper.size() - size - Frame;
     lastLine = paper.sliced(1 + pad, size);
     hasPrinted = true;
-    if (!hasControl(lastLine) && !tools::isRule(lastLine, settings.paperWidth))
+    if (!hasControl(lastLine) && !preview::isRule(lastLine, settings.paperWidth))
         checkLine(lastLine, pad);
 }
 
 void CheckingDevice::checkLine(const QString &text, qsizetype pad)
 {
     const qsizetype width = settings.paperWidth;
-    const qsizetype size = tools::beyondEdge(text, 0);
-    if (tools::beyondEdge(text, width) > 0)
+    const qsizetype size = preview::beyondEdge(text, 0);
+    if (preview::beyondEdge(text, width) > 0)
         return tellTooLong(text);
     const bool endsBehind = size > 0 && pad + size > width;
     const bool beginsAtEdge = size > 0 && justify == "center"_L1 && pad == 0 && width - size >= 2
@@ -201,7 +200,7 @@ void CheckingDevice::tellTooLong(const QString &text)
     const Code code = "line-too-long";
     if (findings.isFull(code.name))
         return tell(code, {}, {});
-    const QString excess = QString::number(tools::beyondEdge(text, settings.paperWidth));
+    const QString excess = QString::number(preview::beyondEdge(text, settings.paperWidth));
     bool isTold = false;
     for (int i = 0; row && i < atts.count(); ++i) {
         const QString value = atts.value(i);
@@ -222,8 +221,8 @@ void CheckingDevice::tellTooLong(const QString &text)
                          : longest >= 0 ? "the line of "_L1 + tools::excerpt(atts.qName(longest))
                                         : tools::excerpt(text);
     tell(code,
-         u"%1 has %2, %3 more than the paper"_s.arg(what, inCharacters(tools::beyondEdge(text, 0)),
-                                                    excess),
+         u"%1 has %2, %3 more than the paper"_s.arg(
+             what, inCharacters(preview::beyondEdge(text, 0)), excess),
          placeIn(text));
 }
 
@@ -266,7 +265,7 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
              placeOf("name"_L1));
     const auto check = [this](Code code, QLatin1StringView attribute, const QString &value,
                               char16_t point, const QString &fault) {
-        if (!tools::isFiscalNumber(value, point))
+        if (!preview::isFiscalNumber(value, point))
             tell(code,
                  value.isEmpty() ? u"the item has no `%1`"_s.arg(attribute)
                                  : fault.arg(tools::excerpt(value)),

@@ -4,6 +4,7 @@
 #include "app/ztconfiguration.h"
 #include "render/requestreader.h"
 #include "tools/check/checkingdevice.h"
+#include "tools/command.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
@@ -21,10 +22,8 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
 {
     using enum TagPlaces::In;
     const bool open = !device.openElements().empty();
-    const QString inside =
-        open ? u"`%1`, open since line %2, is not closed"_s.arg(device.openElements().back().name)
-                   .arg(device.openElements().back().line)
-             : QString();
+    const auto &[name, line] = open ? device.openElements().back() : std::pair<QString, qint64>();
+    const QString inside = u"`%1`, open since line %2, is not closed"_s.arg(name).arg(line);
     const TagPlaces::In in = places.wasIn();
     const QStringView two = places.lastTwo();
     if (places.fault == "unexpected end of file"_L1)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/command.h"
-#include "tools/terminal.h"
 #include "tools/terminal.h"
 
 #include <algorithm>
@@ -11,7 +9,6 @@
 
 class QIODevice;
 
-/// `zentaro check`: tells what is wrong with print requests.
 namespace requestcheck {
 
 // What the check finds, each under a name that stays.
@@ -63,7 +60,5 @@ inline tools::Finding finding(Code code, const QString &text, const tools::Range
 /// and printed as by the print run, with the process's configuration and translation, but nothing
 /// is written. `isConfigured`: whether there is a configuration.
 std::vector<tools::Finding> check(QIODevice &request, bool isConfigured);
-
-int run(const tools::Call &call);
 
 } // namespace requestcheck

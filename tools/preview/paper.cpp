@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/paper.h"
+#include "tools/preview/preview.h"
 
 #include <QStringList>
 
@@ -53,9 +53,9 @@ int widthOf(QByteArrayView file, QTextCodec *codec)
         if (line.kind != LineKind::Printed)
             continue;
         const auto rule = qsizetype(line.text.size() - line.text.find_first_not_of(U' '));
-        if (rule >= LeastRule && tools::isRule(line.text, rule))
+        if (rule >= LeastRule && isRule(line.text, rule))
             return int(rule);
-        longest = std::max(longest, tools::beyondEdge(line.text, 0));
+        longest = std::max(longest, beyondEdge(line.text, 0));
     }
     return int(longest);
 }

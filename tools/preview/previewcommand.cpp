@@ -4,6 +4,7 @@
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
+#include "tools/command.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
@@ -18,17 +19,6 @@ namespace preview {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// What the options of a call say.
-struct Options
-{
-    int columns = 0;             ///< of the paper; 0: not said
-    QTextCodec *codec = nullptr; ///< of print files; null: UTF-8
-    bool annotate = false;
-    QString configuration; ///< empty: the user's own
-    QString other;         ///< the configuration to compare with; empty: none
-    PictureOptions picture;
-};
 
 void addOptions(tools::CommandLine &line)
 {
@@ -54,45 +44,6 @@ void addOptions(tools::CommandLine &line)
     line.addPositionalArgument(u"FILE"_s, u"A print request or a print file."_s, u"FILE..."_s);
 }
 
-/// Ends the command where an option is wrong.
-Options readOptions(const tools::CommandLine &line)
-{
-    const auto number = [&line](const QString &option, int least, int most) {
-        const int value = line.value(option).toInt(); // 0 for what is none
-        if (value < least || value > most)
-            line.wrongUsage(
-                u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most));
-        return value;
-    };
-    Options options;
-    options.codec = text::localeCodec();
-    if (line.isSet(u"encoding"_s)) {
-        options.codec = QTextCodec::codecForName(line.value(u"encoding"_s).toLatin1());
-        if (!options.codec)
-            line.wrongUsage("unknown encoding `"_L1 + line.value(u"encoding"_s) + u'`');
-    }
-    options.configuration = line.value(u"config"_s);
-    options.other = line.value(u"against"_s);
-    if (line.isSet(u"against"_s) && options.other.isEmpty())
-        line.wrongUsage(u"--against takes the name of a configuration"_s);
-    options.picture.fileName = line.value(u"output"_s);
-    if (line.isSet(u"output"_s) && options.picture.fileName.isEmpty())
-        line.wrongUsage(u"--output takes the name of a picture"_s);
-    if (options.picture.fileName.contains(QChar::ReplacementCharacter))
-        line.wrongUsage(u"the name of the picture is not UTF-8"_s);
-    options.annotate = line.isSet(u"annotate"_s);
-    if (options.annotate && !options.other.isEmpty())
-        line.wrongUsage(u"--annotate and --against do not go together"_s);
-    options.picture.inPairs = !options.other.isEmpty(); // before and after
-    options.picture.paper.widthMm = line.value(u"width-mm"_s).toInt();
-    if (options.picture.paper.widthMm != 58 && options.picture.paper.widthMm != 80)
-        line.wrongUsage(u"--width-mm is 58 or 80"_s);
-    options.picture.paper.dpi = number(u"dpi"_s, 50, 1'200);
-    if (line.isSet(u"columns"_s))
-        options.columns = number(u"columns"_s, 1, MostPaperWidth);
-    return options;
-}
-
 /// What a word of the command names: a print request, by its content, or a print file.
 struct Input
 {
@@ -111,17 +62,47 @@ void print(const QString &text)
 class Preview
 {
 public:
-    Preview(const tools::Call &call, const Options &options)
+    /// Reads the options; ends the command where one is wrong.
+    Preview(const tools::Call &call, const tools::CommandLine &line)
         : call(call)
-        , options(options)
+        , annotates(line.isSet(u"annotate"_s))
+        , first(line.value(u"config"_s))
+        , second(line.value(u"against"_s))
     {
+        const auto number = [&line](const QString &option, int least, int most) {
+            const int value = line.value(option).toInt(); // 0 for what is none
+            if (value < least || value > most)
+                line.wrongUsage(
+                    u"--%1 takes a number from %2 to %3"_s.arg(option).arg(least).arg(most));
+            return value;
+        };
+        if (line.isSet(u"encoding"_s))
+            codec = QTextCodec::codecForName(line.value(u"encoding"_s).toLatin1());
+        if (!codec && line.isSet(u"encoding"_s))
+            line.wrongUsage("unknown encoding `"_L1 + line.value(u"encoding"_s) + u'`');
+        picture = {line.value(u"output"_s), {}, !second.isEmpty()};
+        if (line.isSet(u"against"_s) && second.isEmpty())
+            line.wrongUsage(u"--against takes the name of a configuration"_s);
+        if (line.isSet(u"output"_s) && picture.fileName.isEmpty())
+            line.wrongUsage(u"--output takes the name of a picture"_s);
+        if (picture.fileName.contains(QChar::ReplacementCharacter))
+            line.wrongUsage(u"the name of the picture is not UTF-8"_s);
+        if (annotates && !second.isEmpty())
+            line.wrongUsage(u"--annotate and --against do not go together"_s);
+        picture.paper.widthMm = line.value(u"width-mm"_s).toInt();
+        if (picture.paper.widthMm != 58 && picture.paper.widthMm != 80)
+            line.wrongUsage(u"--width-mm is 58 or 80"_s);
+        picture.paper.dpi = number(u"dpi"_s, 50, 1'200);
+        if (line.isSet(u"columns"_s))
+            columns = number(u"columns"_s, 1, MostPaperWidth);
     }
 
+    bool drawsPicture() const { return !picture.fileName.isEmpty(); }
     /// Answers the exit status.
     int draw(const tools::RequestFiles &files)
     {
         status = files.isWhole ? tools::Fine : tools::Trouble;
-        const bool compares = !options.other.isEmpty();
+        const bool compares = !second.isEmpty();
         for (const QString &name : files.names) {
             std::optional<Input> input = read(name);
             if (!input) {
@@ -136,10 +117,10 @@ public:
         }
         if (compares)
             compare();
-        if (options.picture.fileName.isEmpty() || sheets.empty())
+        if (!drawsPicture() || sheets.empty())
             return status;
-        const QString fault = call.desktop->writePicture(sheets, options.picture);
-        return fault.isEmpty() ? status : tools::tellTrouble(call, options.picture.fileName, fault);
+        const QString fault = call.desktop->writePicture(sheets, picture);
+        return fault.isEmpty() ? status : tools::tellTrouble(call, picture.fileName, fault);
     }
 
 private:
@@ -161,9 +142,9 @@ private:
             fault = file->errorString();
         else if (isRequest(bytes))
             return Input{name, bytes, true};
-        else if (options.annotate)
+        else if (annotates)
             fault = u"a print file does not tell the lines of its request"_s;
-        else if (!options.other.isEmpty())
+        else if (!second.isEmpty())
             fault = u"not a print request, which --against renders anew"_s;
         else
             return Input{name, bytes};
@@ -177,13 +158,13 @@ private:
     Document documentOf(const Input &input)
     {
         if (input.isRequest && !std::exchange(isConfigured, true)
-            && !configuration.use(call, options.configuration))
+            && !configuration.use(call, first))
             tools::tellTrouble(
-                call, first,
+                call, nameOfFirst(),
                 u"no such file: every setting has its default; `zentaro config init` writes one"_s);
         const text::LineSink errors(text::LineSink::toErrors);
-        Document document = input.isRequest ? render(input.bytes, options.annotate)
-                                            : Document{input.bytes, options.codec, {}, {}};
+        Document document =
+            input.isRequest ? render(input.bytes, annotates) : Document{input.bytes, codec, {}, {}};
         if (!document.fault.isEmpty()) {
             tools::tellTrouble(call, input.name, document.fault);
             status = qMax(status, int(tools::Findings));
@@ -197,7 +178,7 @@ private:
     void show(const QString &name, const Document &document, bool isOneOfSeveral)
     {
         constexpr qsizetype PieceSize = 65'536; // characters that are written at once
-        if (!options.picture.fileName.isEmpty()) {
+        if (drawsPicture()) {
             sheets.push_back({QFileInfo(name).fileName(), rows(document), {}});
             return;
         }
@@ -205,7 +186,7 @@ private:
         const TerminalDrawing drawing(
             text::localeCodec(),
             document.origins.empty() ? 0 : document.origins.back().requestLine);
-        drawRows(document, options.columns, [&](const Row &row) {
+        drawRows(document, columns, [&](const Row &row) {
             text += drawing.drawn(row) + u'\n';
             if (text.size() > PieceSize)
                 print(std::exchange(text, {}));
@@ -217,7 +198,7 @@ private:
     /// Renders the requests with the second configuration too, and shows those that change.
     void compare()
     {
-        configuration.use(call, options.other);
+        configuration.use(call, second);
         int changes = 0;
         for (const auto &[request, before] : compared) {
             const Document after = documentOf(request);
@@ -234,14 +215,14 @@ private:
     void showChange(const QString &name, const Document &before, const Document &after)
     {
         const QString title = QFileInfo(name).fileName() + ", "_L1;
-        Sheet old{title + QFileInfo(first).fileName(), rows(before), {}};
-        Sheet changed{title + QFileInfo(options.other).fileName(), rows(after), {}};
+        Sheet old{title + QFileInfo(nameOfFirst()).fileName(), rows(before), {}};
+        Sheet changed{title + QFileInfo(second).fileName(), rows(after), {}};
         const bool isColoured = isatty(STDOUT_FILENO) != 0
                                 && qEnvironmentVariableIsEmpty("NO_COLOR")
                                 && qgetenv("TERM") != "dumb";
         const QString line = u"%1 %2\t%3\n"_s;
-        print(line.arg(u"---"_s, tools::inOneLine(name), tools::inOneLine(first))
-              + line.arg(u"+++"_s, tools::inOneLine(name), tools::inOneLine(options.other))
+        print(line.arg(u"---"_s, tools::inOneLine(name), tools::inOneLine(nameOfFirst()))
+              + line.arg(u"+++"_s, tools::inOneLine(name), tools::inOneLine(second))
               + unifiedDifference(old.rows, changed.rows, TerminalDrawing(text::localeCodec(), 0),
                                   isColoured));
         if (std::max(old.rows.size(), changed.rows.size()) > MostRows)
@@ -253,13 +234,18 @@ private:
 
     std::vector<Row> rows(const Document &document) const
     {
-        return rowsOf(document, options.columns, MostRows + 1); // one where too many
+        return rowsOf(document, columns, MostRows + 1); // one where too many
     }
 
+    QString nameOfFirst() const { return first.isEmpty() ? ZTConfiguration::userFile() : first; }
+
     const tools::Call &call;
-    const Options &options;
-    const QString first =
-        options.configuration.isEmpty() ? ZTConfiguration::userFile() : options.configuration;
+    const bool annotates;
+    const QString first;                     // configuration; empty: the user's own
+    const QString second;                    // to compare with; empty: none
+    QTextCodec *codec = text::localeCodec(); // of print files; null: UTF-8
+    int columns = 0;                         // of the paper; 0: not said
+    PictureOptions picture;
     tools::ConfigurationInUse configuration;
     bool isConfigured = false;                        // print files need no configuration
     int status = tools::Fine;                         // so far
@@ -277,14 +263,15 @@ int run(const tools::Call &call)
                             u"- for standard input."_s);
     addOptions(line);
     line.read(1, -1);
-    const Options options = readOptions(line);
-    if (!options.picture.fileName.isEmpty() && !call.desktop)
+    std::unique_ptr<QCoreApplication> application; // for the translation
+    Preview preview(call, line);
+    if (preview.drawsPicture() && !call.desktop)
         return tools::startDesktop(call);
-    // For the translation; for pictures one that draws.
-    const auto application = options.picture.fileName.isEmpty()
-                                 ? std::make_unique<QCoreApplication>(call.argc, call.argv)
-                                 : call.desktop->pictureApplication(call.argv);
-    return Preview(call, options).draw(tools::requestFiles(call, line.positionalArguments()));
+    if (preview.drawsPicture())
+        application = call.desktop->pictureApplication(call.argv);
+    else
+        application = std::make_unique<QCoreApplication>(call.argc, call.argv);
+    return preview.draw(tools::requestFiles(call, line.positionalArguments()));
 }
 
 } // namespace preview

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/preview/paper.h"
+#include "tools/preview/preview.h"
 
 #include <QList>
 #include <QTextCodec>
@@ -45,9 +45,9 @@ void readItem(PrintLine &line)
         line.receipt.emplace_back(U"  Adjustment", rest.substr(0, rest.size() - 3));
     if (name.find(U'"') != CellsView::npos)
         line.fault = u"a double quote ends the name early"_s;
-    else if (!tools::isFiscalNumber(quantity, U'.') || !tools::isFiscalNumber(price, U','))
+    else if (!isFiscalNumber(quantity, U'.') || !isFiscalNumber(price, U','))
         line.fault = u"quantity and price take digits and at most one point"_s;
-    else if (!tools::isFiscalNumber(department))
+    else if (!isFiscalNumber(department))
         line.fault = u"the department is no number"_s;
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tools/schema/schema.h"
-
 #include "render/vocabulary.h"
 #include "tools/check/elementtable.h"
+#include "tools/command.h"
 #include "tools/terminal.h"
 
 #include <QXmlStreamReader>
@@ -190,8 +189,10 @@ QString compact(QXmlStreamReader &xml, const QString &indent)
            + indented(form.close, indent);
 }
 
-} // namespace
-
+/// A RELAX NG schema of requests for the document at `method` of documentMethods, or for any (-1):
+/// what elements it reads, in any order and nesting, and their attributes. What is wanted only
+/// under a setting may be missing; elements without attributes may group others. In the XML syntax
+/// or the compact one.
 QString requestSchema(qsizetype method, bool isCompact)
 {
     const auto about =
@@ -217,6 +218,8 @@ QString requestSchema(qsizetype method, bool isCompact)
     }
     return text;
 }
+
+} // namespace
 
 int run(const tools::Call &call)
 {

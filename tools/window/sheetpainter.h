@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/preview/paper.h"
+#include "tools/preview/preview.h"
 
 #include <QColor>
 #include <QFontMetricsF>
