@@ -58,13 +58,11 @@ int printOut(const QString &text) { return printBytes(text::toLocale(text)); }
 
 int printBytes(const QByteArray &bytes)
 {
-    if (std::ferror(stdout) != 0)
-        return Trouble; // told before
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return Fine;
     printError(u"zentaro: standard output could not be written\n"_s);
-    return Trouble;
+    throw Ended{};
 }
 
 void printError(const QString &text) { std::fputs(text::toLocale(text).constData(), stderr); }

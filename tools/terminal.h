@@ -12,7 +12,7 @@
 /// checking command tells about a file.
 namespace tools {
 
-/// Writes to standard output; Fine, or Trouble when it takes nothing (which is told once).
+/// Writes to standard output; Fine. Where it takes nothing, the command ends with Trouble.
 int printOut(const QString &text);
 /// The same for bytes, which are written as they are.
 int printBytes(const QByteArray &bytes);

@@ -10,7 +10,6 @@
 
 #include <array>
 #include <filesystem>
-#include <utility>
 
 namespace configtool {
 
@@ -75,8 +74,9 @@ QByteArray contentOf(const Call &call, const Source &source)
 
 int writeContent(const Call &call, const QString &path, const QByteArray &content)
 {
-    const QString fault = libconfig::replaceFile(path, content);
-    return fault.isEmpty() ? int(Fine) : tellTrouble(call, path, fault);
+    if (const QString fault = libconfig::replaceFile(path, content); !fault.isEmpty())
+        throw Ended{tellTrouble(call, path, fault)};
+    return Fine;
 }
 
 OpenedFile::OpenedFile(CommandLine &line, int leastArguments, int mostArguments)
@@ -108,8 +108,8 @@ int getValues(const Call &call)
             refuse(call, unread);
         complete = complete && !value.isEmpty() && unread.isEmpty();
     }
-    const int printed = printOut(values);
-    return printed == Fine && !complete ? Findings : printed;
+    printOut(values);
+    return complete ? Fine : Findings;
 }
 
 int listValues(const Call &call)
@@ -117,12 +117,9 @@ int listValues(const Call &call)
     CommandLine line(call, u"Prints every key and its value, one a line, in the order of the "
                            u"file; also those that no lookup finds (check tells which)."_s);
     const OpenedFile file(line, 0, 0);
-    constexpr qsizetype Portion = 65'536; // characters printed at once
     QString list;
     file.config.forEachSetting([&list](const QString &key, const QString &value) {
         list += inOneLine(key + " = "_L1 + value) + u'\n';
-        if (list.size() > Portion)
-            printOut(std::exchange(list, {}));
     });
     return printOut(list);
 }
@@ -159,9 +156,9 @@ int check(const Call &call)
     const std::vector<Finding> findings =
         abridged(findingsIn(readOutline(file.content, file.source.format)));
     const QString &path = file.source.path;
-    const int printed = line.isSet(u"json"_s) ? printBytes(findingsAsJson({{path, findings}}))
-                                              : printOut(findingLines(path, findings));
-    return printed == Fine && !findings.empty() ? Findings : printed;
+    line.isSet(u"json"_s) ? printBytes(findingsAsJson({{path, findings}}))
+                          : printOut(findingLines(path, findings));
+    return findings.empty() ? Fine : Findings;
 }
 
 int edit(const Call &call)

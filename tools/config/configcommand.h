@@ -33,7 +33,7 @@ bool isMissing(const QString &path);
 /// The content of the file. Where it cannot be read, or has more bytes than the store reads, the
 /// command ends, and for one that is missing names what writes it.
 QByteArray contentOf(const tools::Call &call, const Source &source);
-/// Writes a file, all at once; answers an exit status. What went wrong has been told.
+/// Writes a file, all at once; Fine. Where that fails, which is told, the command ends.
 int writeContent(const tools::Call &call, const QString &path, const QByteArray &content);
 
 /// Reads a command's words, and the configuration that they name, or ends the command.

@@ -162,23 +162,16 @@ Outline CfgReader::read()
     if (bytes.starts_with("\xEF\xBB\xBF"))
         tell(Error, "byte-order-mark"_L1, bytes.substr(0, 3),
              tr("the file begins with a byte order mark, which becomes part of its first name"));
-    for (bool goesOn = true; goesOn;) {
-        switch (scanner.next()) {
-        case CfgScanner::Statement::GroupBegin:
+    using enum CfgScanner::Statement;
+    for (auto statement = scanner.next(); statement != EndOfFile; statement = scanner.next()) {
+        if (statement == GroupBegin)
             beginGroup();
-            break;
-        case CfgScanner::Statement::Setting:
+        else if (statement == Setting)
             addSetting();
-            break;
-        case CfgScanner::Statement::GroupEnd:
-            goesOn = endGroup();
-            break;
-        case CfgScanner::Statement::EndOfFile:
-            endFile();
-            goesOn = false;
-            break;
-        }
+        else if (!endGroup())
+            return std::move(outline);
     }
+    endFile();
     return std::move(outline);
 }
 
@@ -364,9 +357,7 @@ QString Outline::pathOf(qsizetype entry) const
 
 Outline readOutline(const QByteArray &content, const QString &format)
 {
-    return format == "xml"_L1 ? readXmlOutline(content) : readCfgOutline(content);
+    return format == "xml"_L1 ? readXmlOutline(content) : CfgReader(content).read();
 }
-
-Outline readCfgOutline(const QByteArray &content) { return CfgReader(content).read(); }
 
 } // namespace configtool

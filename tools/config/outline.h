@@ -76,11 +76,9 @@ struct Outline
     QString pathOf(qsizetype entry) const;
 };
 
-/// Reads a file's content in the format "cfg" or "xml". What is not well-formed XML has no entries
-/// but the file.
-Outline readOutline(const QByteArray &content, const QString &format);
-/// Reads the "cfg" form as the store does, and notes where the text is lost or goes elsewhere than
-/// it seems to.
-Outline readCfgOutline(const QByteArray &content);
+/// Reads a file's content in the format "cfg" or "xml", as the store does, and notes where the text
+/// is lost or goes elsewhere than it seems to. What is not well-formed XML has no entries but the
+/// file.
+Outline readOutline(const QByteArray &content, const QString &format = QStringLiteral("cfg"));
 
 } // namespace configtool

@@ -31,7 +31,7 @@ struct KeyInFile
     const QByteArray &content;
     const QString key;
     const QStringList names = key.split(u'.');
-    const Outline outline = readCfgOutline(content);
+    const Outline outline = readOutline(content);
     qsizetype group = 0;             // that the first names lead to, of several the first
     qsizetype depth = 0;             // the number of these names
     std::vector<qsizetype> settings; // of the key, in file order

@@ -40,8 +40,8 @@ bool isAllowed(const Call &call, const QString &reason)
 /// The errors of a configuration that another does not have.
 std::vector<Finding> newErrors(const QByteArray &content, const QByteArray &before)
 {
-    const std::vector<Finding> old = findingsIn(readCfgOutline(before));
-    std::vector<Finding> found = findingsIn(readCfgOutline(content));
+    const std::vector<Finding> old = findingsIn(readOutline(before));
+    std::vector<Finding> found = findingsIn(readOutline(content));
     std::erase_if(found, [&old](const Finding &finding) {
         return finding.severity != Severity::Error
                || std::ranges::find(old, finding.text, &Finding::text) != old.end();
@@ -94,7 +94,7 @@ int changeValues(const Call &call, CommandLine &line, bool sets)
         printError(findingLines(file.source.path, errors));
         return refuse(call, u"nothing was changed; --force writes it all the same"_s, Findings);
     }
-    return changed == file.content ? Fine : writeContent(call, file.source.path, changed);
+    return changed == file.content ? int(Fine) : writeContent(call, file.source.path, changed);
 }
 
 /// What paper of 32, 40, 42 and 48 columns wants of the documents.
@@ -240,8 +240,7 @@ int init(const Call &call)
     std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
     if (error)
         return tellTrouble(call, folder, qt_error_string(error.value()));
-    if (writeContent(call, file, startingConfiguration(paper, language)) != Fine)
-        return Trouble;
+    writeContent(call, file, startingConfiguration(paper, language));
     const bool isOwn = file == ZTConfiguration::userFile();
     return printOut(
         u"wrote %1, for %2 columns, with labels in `%3`; `zentaro preview%4` shows what a request "

@@ -164,8 +164,8 @@ int list(const Call &call)
         text += name + ": "_L1 + state + ", "_L1 + QString::number(count) + " waiting, "_L1
                 + device.captured(2) + u'\n' + told;
     }
-    const int status = printOut(text);
-    return status == Fine && stopped ? Findings : status;
+    printOut(text);
+    return stopped ? Findings : Fine;
 }
 
 /// Characters of European print files; what an encoding lacks comes out as `?`.
