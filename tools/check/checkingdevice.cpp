@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/check/checkingdevice.h"
+#include "tools/check/requestcheck.h"
 
 #include "render/vocabulary.h"
 #include "tools/terminal.h"
@@ -150,7 +150,7 @@ bool CheckingDevice::startMethod()
     if (knownElements.empty())
         tell("prints-nothing", u"`%1` prints nothing, whatever the request holds"_s.arg(name),
              methodTag);
-    row = &methodElement();
+    row = &methodElement;
     checkAttributes();
     return true;
 }
@@ -311,7 +311,8 @@ void CheckingDevice::tellSwitchedOff(bool DocumentSettings::*aSwitch, const QStr
 void CheckingDevice::checkMissing()
 {
     for (const AttributeUse &use : row->attributes) {
-        if (!isOff(settings, use.onlyIf) && use.need == Need::Expected && atts.index(use.name) < 0)
+        const bool isChecked = row->isFiscal() && use.name != "name"_L1; // when it is printed
+        if (!isOff(settings, use.onlyIf) && use.isPrinted && !isChecked && atts.index(use.name) < 0)
             tell("missing-attribute",
                  u"`%1` lacks `%2`, which prints %3"_s.arg(
                      elementName, use.name, use.column == Column::Sign ? "`-`"_L1 : "empty"_L1),

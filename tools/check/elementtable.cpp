@@ -75,21 +75,18 @@ constexpr A count{"number"_L1, "how many there are"_L1};
 constexpr A sum{"total"_L1, "their amount"_L1};
 constexpr A firstSerial{"firstserial"_L1, "the number of the first"_L1};
 constexpr A lastSerial{"lastserial"_L1, "the number of the last"_L1};
-constexpr A department{"department"_L1, "the fiscal printer's department, a number"_L1, None,
-                       nullptr, Need::Checked};
-constexpr A fiscalNumber{"number"_L1, "how many: digits with one point at most"_L1, None, nullptr,
-                         Need::Checked};
-constexpr A fiscalPrice{"price"_L1, "the price: digits with one point at most"_L1, None, nullptr,
-                        Need::Checked};
+constexpr A department{"department"_L1, "the fiscal printer's department, a number"_L1};
+constexpr A fiscalNumber{"number"_L1, "how many: digits with one point at most"_L1};
+constexpr A fiscalPrice{"price"_L1, "the price: digits with one point at most"_L1};
 constexpr A fiscalName{"name"_L1, "what it is, without double quotes"_L1};
 constexpr std::span<const A> none;
 
 constexpr A printers[] = {
     {"name"_L1, "the printer's name"_L1},
     {"charsize"_L1, "the size of its characters, which this printer does not use"_L1, None, nullptr,
-     Need::Kept},
-    {"ipaddress"_L1, "its address, which this printer does not use"_L1, None, nullptr, Need::Kept},
-    {"port"_L1, "its port, which this printer does not use"_L1, None, nullptr, Need::Kept},
+     false},
+    {"ipaddress"_L1, "its address, which this printer does not use"_L1, None, nullptr, false},
+    {"port"_L1, "its port, which this printer does not use"_L1, None, nullptr, false},
 };
 constexpr A serialNumber[] = {{"serialnumber"_L1, "the document's number"_L1}};
 constexpr A orderInfo[] = {
@@ -162,7 +159,6 @@ constexpr auto change =
     "itself, and the name"_L1;
 
 constexpr A methodName[] = {{"name"_L1, "the document method"_L1}};
-constexpr ElementRow methodRow{element::method, 0, "opens the document's section"_L1, methodName};
 
 constexpr auto rows = std::to_array<ElementRow>({
     {element::printers, Lists, "nothing; the name is kept for `headers`"_L1, printers},
@@ -277,7 +273,8 @@ const ElementRow *elementRow(QStringView element, qsizetype method)
     return found == rows.end() ? nullptr : found;
 }
 
-const ElementRow &methodElement() { return methodRow; }
+constinit const ElementRow methodElement{element::method, 0, "opens the document's section"_L1,
+                                         methodName};
 
 std::vector<const ElementRow *> rowsOf(qsizetype method)
 {
@@ -342,7 +339,7 @@ Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
         row.rest == Rest::InOrder || (row.rest == Rest::Triples && position >= FirstOfTriples);
     if (!isNamed && !isInOrder)
         return row.rest == Rest::Ignored ? Fate::Kept : Fate::Unread;
-    if (isNamed && use->need == Need::Kept)
+    if (isNamed && !use->isPrinted)
         return Fate::Kept;
     return isOff(settings, row.onlyIf) || (isNamed && isOff(settings, use->onlyIf))
                ? Fate::SwitchedOff

@@ -30,19 +30,13 @@ enum class Column {
 /// The width of a column in characters; -1 for one without a width of its own.
 int widthOf(Column column, const DocumentSettings &settings);
 
-enum class Need {
-    Expected, ///< an element without it prints an empty text
-    Checked,  ///< the same, and the check of fiscal commands tells it
-    Kept,     ///< read and never printed
-};
-
 struct AttributeUse
 {
     QLatin1StringView name;
     QLatin1StringView text; ///< what its value is, for the documentation
     Column column = Column::None;
     bool DocumentSettings::*onlyIf = nullptr; ///< the switch that it is printed under
-    Need need = Need::Expected;
+    bool isPrinted = true;
 };
 
 /// What an element reads beside its named attributes.
@@ -73,6 +67,8 @@ struct ElementRow
     bool isHidden(const QXmlAttributes &atts) const;
     /// The attribute of this name, or null.
     const AttributeUse *find(QStringView name) const;
+    /// Whether it is a command of the fiscal printer, which is checked as such.
+    bool isFiscal() const { return find(u"department"); }
     /// Whether it prints its attributes in columns.
     bool hasColumns() const;
 };
@@ -80,7 +76,7 @@ struct ElementRow
 /// The element as the method at `method` of documentMethods reads it, or null.
 const ElementRow *elementRow(QStringView element, qsizetype method);
 /// The element that names the document method, which all documents read.
-const ElementRow &methodElement();
+extern const ElementRow methodElement;
 /// The first element that has the role in a document; empty without one.
 QString elementWith(Role role, qsizetype method);
 /// Whether any document reads an element of this name.

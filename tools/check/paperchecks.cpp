@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/check/checkingdevice.h"
+#include "tools/check/requestcheck.h"
 
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
@@ -56,8 +56,7 @@ void CheckingDevice::checkValue(int position)
     else if (control != value.end())
         tell("control-character",
              u"the control character %1 in %2"_s.arg(tools::excerpt(QString(*control)), name), at);
-    const bool isFramed = !row->find(u"department"); // unlike a fiscal command
-    if (isFramed && value.contains("\"@"_L1))
+    if (!row->isFiscal() && value.contains("\"@"_L1))
         tell("end-mark", u"`\"@` in %1 ends the printed line early"_s.arg(name), at);
     if (std::ranges::any_of(value, [](QChar c) { return c.unicode() >= 0x80; }))
         checkEncoding(value, name, at);

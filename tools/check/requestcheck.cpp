@@ -3,7 +3,6 @@
 
 #include "app/ztconfiguration.h"
 #include "render/requestreader.h"
-#include "tools/check/checkingdevice.h"
 #include "tools/command.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
@@ -24,38 +23,36 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
     const bool open = !device.openElements().empty();
     const auto &[name, line] = open ? device.openElements().back() : std::pair<QString, qint64>();
     const QString inside = u"`%1`, open since line %2, is not closed"_s.arg(name).arg(line);
+    const QString &fault = places.fault;
+    const bool isAtEnd = fault == "unexpected end of file"_L1;
     const TagPlaces::In in = places.wasIn();
     const QStringView two = places.lastTwo();
-    if (places.fault == "unexpected end of file"_L1)
-        return places.isIn() == Quotes ? u"the request ends in a value, whose quote is missing"_s
-               : open                  ? "the request ends, and "_L1 + inside
-                                       : u"the request ends without an element"_s;
-    if (places.fault == "tag mismatch"_L1)
-        return inside + " before this end tag"_L1;
-    if (two.contains(u'&'))
-        return u"a bare `&` is written `&amp;`"_s;
-    if (places.fault == "error occurred while parsing reference"_L1)
-        return u"a reference ends with `;`, and a bare `&` is written `&amp;`"_s;
-    if (two.contains(u'<') && (in == Quotes || (open && two.back().isSpace())))
-        return u"a bare `<` is written `&lt;`"_s;
-    if (in == Attribute)
-        return u"an attribute is a name, `=` and a value in quotes"_s;
-    if (open && two.front() == u'<')
-        return u"a name begins with a letter"_s;
-    if (places.fault == "invalid name for processing instruction"_L1)
-        return u"the XML declaration has to stand at the very beginning"_s;
-    if (places.fault == "error occurred while parsing comment"_L1)
-        return u"a comment holds no `--`"_s;
-    if (open || places.fault.contains("declaration"_L1)
-        || places.fault.contains("document type"_L1))
-        return places.fault;
-    if (places.head().startsWith("<?xml"_L1) && !places.head().contains("?>"_L1))
-        return u"the XML declaration holds `version`, `encoding` and `standalone` in this order, "
-               "in quotes, and ends with `?>`"_s;
-    return device.rootTag().line > 0
-               ? u"something stands behind the end of the root element"_s
-               : u"no element begins here: the request is another file, or not in the encoding "
-                 "that it names"_s;
+    const QString &head = places.head();
+    const std::pair<bool, QString> reasons[] = {
+        {isAtEnd && places.isIn() == Quotes,
+         u"the request ends in a value, whose quote is missing"_s},
+        {isAtEnd && open, "the request ends, and "_L1 + inside},
+        {isAtEnd, u"the request ends without an element"_s},
+        {fault == "tag mismatch"_L1, inside + " before this end tag"_L1},
+        {two.contains(u'&'), u"a bare `&` is written `&amp;`"_s},
+        {fault == "error occurred while parsing reference"_L1,
+         u"a reference ends with `;`, and a bare `&` is written `&amp;`"_s},
+        {two.contains(u'<') && (in == Quotes || (open && two.back().isSpace())),
+         u"a bare `<` is written `&lt;`"_s},
+        {in == Attribute, u"an attribute is a name, `=` and a value in quotes"_s},
+        {open && two.front() == u'<', u"a name begins with a letter"_s},
+        {fault == "invalid name for processing instruction"_L1,
+         u"the XML declaration has to stand at the very beginning"_s},
+        {fault == "error occurred while parsing comment"_L1, u"a comment holds no `--`"_s},
+        {open || fault.contains("declaration"_L1) || fault.contains("document type"_L1), fault},
+        {head.startsWith("<?xml"_L1) && !head.contains("?>"_L1),
+         u"the XML declaration holds `version`, `encoding` and `standalone` in this order, in "
+         "quotes, and ends with `?>`"_s},
+        {device.rootTag().line > 0, u"something stands behind the end of the root element"_s},
+        {true, u"no element begins here: the request is another file, or not in the encoding that "
+               "it names"_s},
+    };
+    return std::ranges::find(reasons, true, &std::pair<bool, QString>::first)->second;
 }
 
 void tellStop(const TagPlaces &places, const CheckingDevice &device, tools::FindingStore &findings)

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/terminal.h"
+#include "render/companyprinterdriver.h"
+#include "tools/check/elementtable.h"
+#include "tools/check/tagplaces.h"
 
-#include <algorithm>
-#include <span>
+#include <set>
 #include <string_view>
 
 class QIODevice;
+class QTextCodec;
 
 namespace requestcheck {
 
@@ -60,5 +62,96 @@ inline tools::Finding finding(Code code, const QString &text, const tools::Range
 /// and printed as by the print run, with the process's configuration and translation, but nothing
 /// is written. `isConfigured`: whether there is a configuration.
 std::vector<tools::Finding> check(QIODevice &request, bool isConfigured);
+
+/// The receipt printer once more, given the same elements: what it would write is looked at line by
+/// line and thrown away, and each element is held against the table of elements.
+class CheckingDevice : public CompanyPrinterDriver
+{
+public:
+    /// `places` follows the same reading. Without a configuration, what switches leave away is not
+    /// told: they are all off.
+    CheckingDevice(const TagPlaces &places, tools::FindingStore &findings, bool isConfigured);
+    ~CheckingDevice() override { stream.reset(); } // before the text that it writes to
+
+    /// The elements whose ends were not read, and their lines; the innermost last.
+    const std::vector<std::pair<QString, qint64>> &openElements() const { return open; }
+    /// Tells what is left where the reading ends early.
+    void finish();
+    /// The root's tag; line 0 before it.
+    tools::Place rootTag() const { return root.begin; }
+
+    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+                      const QXmlAttributes &attributes) override;
+    bool endElement(const QString &namespaceURI, const QString &localName,
+                    const QString &qName) override;
+    bool skippedEntity(const QString &name) override;
+    bool endDocument() override;
+
+    void println(unsigned int indent, const QString &text) override;
+    using CompanyPrinterDriver::println;
+    void printPrinterInfo() override;
+    void printRowFiscal(const QString &department, const QString &quantity,
+                        const QString &description, const QString &price) override;
+    using CompanyPrinterDriver::printRowFiscal;
+
+private:
+    void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {})
+    {
+        findings.add(finding(code, text, at, suggestion));
+    }
+    Range placeOf(QLatin1StringView attribute) const
+    {
+        return places.attribute(atts.index(attribute));
+    }
+
+    void checkDeclaration();
+    bool startMethod();
+    void checkElement();
+    void checkUnknownElement();
+    void tellUnlessGroup(const tools::Finding &told);
+    QString meantElement() const;
+    void checkComplete();
+    // The attributes against the table.
+    void checkAttributes();
+    void checkAttribute(int position);
+    void tellUnread(int position);
+    void tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what, const Range &at);
+    void checkMissing();
+    void checkTriples();
+    // The value of a printed attribute.
+    void checkValue(int position);
+    void checkEncoding(const QString &value, const QString &name, const Range &at);
+    void checkMeaning(int position, const AttributeUse &use);
+    // The paper.
+    void checkLine(const QString &text, qsizetype pad);
+    int longestIn(const QString &text) const;
+    Range placeIn(const QString &text) const;
+    void tellTooLong(const QString &text);
+    void checkDescription();
+    void tellCut(QLatin1StringView attribute, const QString &lost);
+
+    // The element that is being printed.
+    QString elementName;
+    QXmlAttributes atts;
+    const ElementRow *row = nullptr; // null: the method does not react to it
+
+    const TagPlaces &places;
+    tools::FindingStore &findings;
+    const bool isConfigured;
+    QTextCodec *requestCodec = nullptr; // of eight bits, which the request names; null: another
+    QString paper;                      // what was written since it was last looked at
+    QString lastLine;                   // printed for the element, without its frame
+    bool hasPrinted = false;            // the element
+    bool isPrinterName = false;
+    std::vector<std::pair<QString, qint64>> open;
+    std::optional<tools::Finding> unlessGroup; // about the innermost, unless it groups others
+    Range root;
+    Range printer;                  // where its name stands; line 0 before it
+    Range methodTag;                // of the chosen one
+    qsizetype method = -1;          // its place in documentMethods
+    std::set<Role> seenRoles;       // in its document
+    QStringList knownElements;      // of the method
+    std::set<QString> toldSwitches; // by their keys
+};
 
 } // namespace requestcheck

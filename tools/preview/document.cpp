@@ -45,40 +45,24 @@ public:
     /// What was printed since it was last noted comes from the tag that was read last.
     void noteOrigin()
     {
+        stream->flush(); // the file's position counts what is not encoded yet
         const qint64 begin = origins.empty() ? 0 : origins.back().end;
-        if (const qint64 end = written(); end > begin)
+        if (const qint64 end = file->size(); end > begin)
             origins.push_back(
                 {end, traceElements ? places.tag().begin.line : 0, settings.paperWidth});
     }
-    /// Whether all that was printed is in the print file.
-    bool isWritten()
+    /// Whether all that was noted is in the print file.
+    bool isWritten() const
     {
-        written();
         return stream->status() == QTextStream::Ok && file->error() == QFile::NoError;
     }
 
     std::vector<Origin> origins;
 
 private:
-    /// The bytes in the print file. Its position counts those before they are encoded.
-    qint64 written()
-    {
-        stream->flush();
-        return file->size();
-    }
-
     const TagPlaces &places;
     const bool traceElements;
 };
-
-/// Why the print file is not whole; empty when it is.
-QString faultOf(TracingDevice &device, const TagPlaces &places)
-{
-    if (!device.isWritten())
-        return u"more than %1 bytes would be printed"_s.arg(MostBytes);
-    return places.stop ? u"line %1: the print run stops reading here"_s.arg(places.last().line)
-                       : QString();
-}
 
 } // namespace
 
@@ -111,7 +95,10 @@ Document render(const QByteArray &request, bool traceElements)
         source.setData(request);
         requestreader::read(source, device, &places);
         device.noteOrigin();
-        document.fault = faultOf(device, places);
+        if (!device.isWritten())
+            document.fault = u"more than %1 bytes would be printed"_s.arg(MostBytes);
+        else if (places.stop)
+            document.fault = u"line %1: the print run stops reading here"_s.arg(places.last().line);
         document.origins = std::move(device.origins);
     }
     written.seek(0);

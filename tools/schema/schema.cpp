@@ -51,7 +51,7 @@ QString attributesOf(const ElementRow &row)
     QString attributes;
     QStringList names;
     for (const requestcheck::AttributeUse &use : row.attributes) {
-        const bool isOptional = use.need == requestcheck::Need::Kept || use.onlyIf || row.onlyIf;
+        const bool isOptional = !use.isPrinted || use.onlyIf || row.onlyIf;
         const QString form = isOptional ? u"<optional>%1</optional>"_s : u"%1"_s;
         attributes += form.arg(
             u"<attribute name=\"%1\"><a:documentation>%2</a:documentation><text/></attribute>"_s
