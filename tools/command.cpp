@@ -18,15 +18,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString helpOn(const CommandLine &line, const CommandGroup &group)
+QString helpOn(const CommandLine &line, std::span<const Command> commands)
 {
     QString help = line.help() + "\nCommands:\n"_L1;
-    for (const Command &command : group.commands)
+    for (const Command &command : commands)
         help += "  "_L1 + QString(command.name).leftJustified(10) + command.summary + u'\n';
     return help + "\n`"_L1 + line.call.command + " COMMAND --help` tells about one of them.\n"_L1;
 }
 
-constexpr std::array<Command, 5> commands = {{
+constexpr std::array<Command, 5> companionCommands = {{
     {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
     {"config"_L1, "the configuration: reads, checks and changes it"_L1, configtool::run},
     {"preview"_L1, "shows what will be printed, as text or as a picture"_L1, preview::run},
@@ -58,29 +58,26 @@ int tellTrouble(const Call &call, const QString &name, const QString &trouble)
     return refuse(call, inOneLine(name) + ": "_L1 + trouble);
 }
 
-int dispatch(const Call &call, const CommandGroup &group)
+int dispatch(const Call &call, const QString &description, std::span<const Command> commands,
+             const QList<QCommandLineOption> &options)
 {
-    CommandLine line(call, group.description);
-    line.addOptions(group.common);
-    if (group.version)
-        line.addOption({u"version"_s, u"Shows the version."_s});
+    CommandLine line(call, description);
+    line.addOptions(options);
     line.addPositionalArgument(u"COMMAND"_s, u"What to do, see below."_s, u"COMMAND ..."_s);
     line.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     if (call.words.isEmpty()) {
-        printError(helpOn(line, group));
+        printError(helpOn(line, commands));
         return Trouble;
     }
     line.readWords();
     if (line.isSet(u"help"_s))
-        return printOut(helpOn(line, group));
-    if (group.version && line.isSet(u"version"_s))
-        return printOut(group.version());
+        return printOut(helpOn(line, commands));
     const QStringList arguments = line.positionalArguments();
     if (arguments.isEmpty())
         line.wrongUsage(u"a command is missing"_s);
     const QString &name = arguments.first();
-    const auto found = std::ranges::find(group.commands, name, &Command::name);
-    if (found == group.commands.end())
+    const auto found = std::ranges::find(commands, name, &Command::name);
+    if (found == commands.end())
         line.wrongUsage("unknown command `"_L1 + name + u'`');
     const QStringList optionsBefore = call.words.first(call.words.size() - arguments.size());
     return found->run({call.command + u' ' + name, optionsBefore + arguments.sliced(1), call.argc,
@@ -139,8 +136,11 @@ int runCompanion(int argc, char **argv, const Desktop *desktop)
         }
     }
     try {
+        if (words.value(0) == "--version"_L1)
+            return printOut(versions());
         return dispatch({u"zentaro"_s, words, argc, argv, desktop},
-                        {u"The companion of zentaro-print."_s, commands, {}, versions});
+                        u"The companion of zentaro-print."_s, companionCommands,
+                        {QCommandLineOption(u"version"_s, u"Shows the version."_s)});
     } catch (const Ended &end) {
         return end.exitStatus;
     }

@@ -93,17 +93,10 @@ struct Command
     int (*run)(const Call &call);
 };
 
-/// A command whose first argument names another.
-struct CommandGroup
-{
-    QString description;
-    std::span<const Command> commands;
-    QList<QCommandLineOption> common; ///< options of all of them, which may stand before the name
-    QString (*version)() = nullptr;   ///< what `--version` prints; null for no such option
-};
-
-/// Calls the command that the first argument names; `--help` lists the commands.
-int dispatch(const Call &call, const CommandGroup &group);
+/// Calls the command that the first argument names; `--help` lists the commands. The options, of
+/// all of them, may stand before the name.
+int dispatch(const Call &call, const QString &description, std::span<const Command> commands,
+             const QList<QCommandLineOption> &options = {});
 
 /// The options and arguments of one command, with `--help` among them.
 class CommandLine : public QCommandLineParser

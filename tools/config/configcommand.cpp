@@ -188,10 +188,8 @@ constexpr std::array<Command, 10> commands = {{
 
 int run(const Call &call)
 {
-    return dispatch(call, {u"Reads, checks and changes the configuration of the suite."_s,
-                           commands,
-                           sourceOptions(),
-                           {}});
+    return dispatch(call, u"Reads, checks and changes the configuration of the suite."_s, commands,
+                    sourceOptions());
 }
 
 } // namespace configtool

@@ -232,9 +232,6 @@ constexpr std::array<Command, 4> commands = {{
 
 } // namespace
 
-int run(const Call &call)
-{
-    return dispatch(call, {u"The queues of receipt printers."_s, commands, {}, {}});
-}
+int run(const Call &call) { return dispatch(call, u"The queues of receipt printers."_s, commands); }
 
 } // namespace queuetool
