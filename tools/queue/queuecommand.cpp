@@ -9,7 +9,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QXmlStreamWriter>
 
 #include <array>
 
@@ -181,32 +180,25 @@ QByteArray testPage(const QString &queue, const QString &encoding)
     const QString path = ZTConfiguration::queueFileInUse(queue);
     const bool isReadable = QFileInfo(path).isReadable();
     const ZTConfiguration settings(isReadable ? path : u"/dev/null"_s);
-    QByteArray request;
-    QXmlStreamWriter writer(&request);
-    const auto writeItem = [&](const QString &number, const QString &name) {
-        writer.writeEmptyElement(u"receipe"_s);
-        writer.writeAttribute(u"number"_s, number);
-        writer.writeAttribute(u"name"_s, name);
-        writer.writeAttribute(u"price"_s, u"1.50"_s);
-        writer.writeAttribute(u"totalPrice"_s, u"12.00"_s);
+    const auto item = [](const QString &number, const QString &name) {
+        return uR"(<receipe number="%1" name="%2" price="1.50" totalPrice="12.00"/>)"_s.arg(
+            number.toHtmlEscaped(), name.toHtmlEscaped());
     };
-    const auto writeMethod = [&](const QString &method, const QString &prefix) {
-        writer.writeEmptyElement(u"method"_s);
-        writer.writeAttribute(u"name"_s, method);
-        writeItem(u"8"_s, u"1234567890"_s.repeated(10));
+    const auto method = [&](const QString &name, const QString &prefix) {
+        QString text = uR"(<method name="%1"/>)"_s.arg(name);
+        text += item(u"8"_s, u"1234567890"_s.repeated(10));
         for (const QString &word : {u"paperWidth"_s, u"quantityFieldWidth"_s, u"priceFieldWidth"_s,
                                     u"totalPriceFieldWidth"_s})
-            writeItem(settings.getStrValue(prefix + word), word);
+            text += item(settings.getStrValue(prefix + word), word);
+        return text;
     };
-    writer.writeStartElement(u"print"_s);
-    writeMethod(u"printPartialOrder"_s, u"zentaro.doc."_s);
+    QString request = "<print>"_L1 + method(u"printPartialOrder"_s, u"zentaro.doc."_s);
     for (const QString &text : {queue, isReadable ? path : u"no settings"_s, encoding})
-        writeItem({}, text);
+        request += item({}, text);
     for (const char16_t *const row : characters)
-        writeItem({}, QString::fromUtf16(row));
-    writeMethod(u"printFullOrderReceipt"_s, u"zentaro.receiptdoc."_s);
-    writer.writeEndElement();
-    return request;
+        request += item({}, QString::fromUtf16(row));
+    request += method(u"printFullOrderReceipt"_s, u"zentaro.receiptdoc."_s) + "</print>"_L1;
+    return request.toUtf8();
 }
 
 int test(const Call &call)
