@@ -287,7 +287,9 @@ void ConfigTree::removeSelected()
 {
     finishTyping();
     auto removal = std::make_unique<Change>(*this);
-    for (QTreeWidgetItem *const item : selectedItems()) {
+    QList<QTreeWidgetItem *> chosen = selectedItems();
+    std::ranges::reverse(chosen); // from the front, each would move all behind it
+    for (QTreeWidgetItem *const item : std::as_const(chosen)) {
         const QTreeWidgetItem *above = item->parent();
         while (above && !above->isSelected())
             above = above->parent();
