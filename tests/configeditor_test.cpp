@@ -73,7 +73,8 @@ protected:
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    void undo(int times, const QString &text = u"Undo"_s)
+    /// The same a number of times.
+    void choose(int times, const QString &text)
     {
         for (int i = 0; i < times; ++i)
             choose(text);
@@ -123,13 +124,13 @@ TEST_F(Editor, ChangesAddsRemovesUndoesAndSaves)
     const QSignalSpy current(tree, &QTreeWidget::currentItemChanged);
     choose(u"Remove"_s);
     EXPECT_EQ(item(u"zentaro"_s)->childCount(), 1);
-    undo(1);
+    choose(u"Undo"_s);
     EXPECT_EQ(saved(), all);
-    undo(1, u"Redo"_s);
+    choose(u"Redo"_s);
     EXPECT_LE(current.count(), 5) << "for each all is laid out, of thousands for seconds";
-    undo(6);
+    choose(6, u"Undo"_s);
     EXPECT_EQ(saved(), small);
-    undo(6, u"Redo"_s);
+    choose(6, u"Redo"_s);
     EXPECT_EQ(item(u"db"_s)->childCount(), 0);
     EXPECT_EQ(asked, u"");
 }
@@ -148,10 +149,6 @@ TEST_F(Editor, ForgetsAnItemThatIsNotEntered)
         choose(nothing);
     EXPECT_EQ(tree->topLevelItemCount(), 1); // the file itself stays
     EXPECT_FALSE(editor.isWindowModified());
-
-    open("zentaro : { doc : { style = \"a\nb\"; }; };");
-    choose(u"Rename"_s, u"style = a\nb"_s, u""_s); // nor does the value lose its line end
-    EXPECT_TRUE(item(u"style = a\nb"_s));
 }
 
 TEST_F(Editor, ListsFindingsAsOneTypesAndGoesToThem)
@@ -175,19 +172,16 @@ TEST_F(Editor, ListsFindingsAsOneTypesAndGoesToThem)
 
 TEST_F(Editor, ShowsWhatASearchFinds)
 {
-    open("zentaro : { doc : { printDate = true; paperWidth = 40; }; bin : { path = /date; }; };");
-    const auto hidden = [this](const QString &text) {
+    open("zentaro : { doc : { printDate = 1; paperWidth = 2; }; bin : { path = date; }; };");
+    const QStringList settings{u"printDate = 1"_s, u"paperWidth = 2"_s, u"path = date"_s};
+    for (const auto &[text, shown] :
+         {std::pair(u"DATE"_s, 0b001), // in a value it is not looked for
+          std::pair(u"zentaro.bin"_s, 0b100), std::pair(u""_s, 0b111)}) {
         QWidget *const center = editor.centralWidget();
         center->findChild<QLineEdit *>({}, Qt::FindDirectChildrenOnly)->setText(text);
-        QString marks;
-        for (const auto &each : {u"printDate = true"_s, u"paperWidth = 40"_s, u"bin"_s})
-            marks += item(each)->isHidden() ? u'-' : u'+';
-        return marks;
-    };
-    EXPECT_EQ(hidden(u"DATE"_s), u"+--"); // in a value, it is not looked for
-    EXPECT_EQ(hidden(u"zentaro.bin"_s), u"--+");
-    EXPECT_FALSE(item(u"path = /date"_s)->isHidden()); // below what is found
-    EXPECT_EQ(hidden({}), u"+++");
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(item(settings[i])->isHidden(), ((shown >> i) & 1) == 0) << i << shown;
+    }
 }
 
 TEST_F(Editor, AsksBeforeAnythingIsLost)
@@ -278,7 +272,7 @@ TEST_F(Paper, IsDrawnAnewWithWhatIsTyped)
     QTest::keyClicks(number, u"32"_s);
     EXPECT_TRUE(drawn().contains(u'*' + QString(32, u'='))) << drawn().join(u'\n').toStdString();
     EXPECT_TRUE(drawn().contains(u" Table: 7"_s)); // not marked
-    undo(1);                                       // all that was typed
+    choose(u"Undo"_s);                             // all that was typed
     EXPECT_EQ(tree->currentItem()->text(0), u"paperWidth = 40");
     select(u"printTable"_s);
     choose(u"Switch On or Off"_s);
@@ -292,7 +286,7 @@ TEST_F(Paper, IsDrawnAnewWithWhatIsTyped)
     editor.findChild<QSpinBox *>()->setValue(48);
     choose(u"Set Everywhere"_s);
     EXPECT_EQ(saved().count("paperWidth = \"48\""), 8);
-    undo(3);
+    choose(3, u"Undo"_s);
     EXPECT_EQ(saved(), before);
 }
 
@@ -373,11 +367,11 @@ TEST_F(Editor, SpeaksEveryLanguageWithKeysOfItsOwn)
         shortcuts.removeAll(QString());
         EXPECT_EQ(shortcuts.removeDuplicates(), 0) << "of two with one shortcut none works";
         for (const QMenu *const menu : foreign.findChildren<QMenu *>()) {
-            QString letters;
+            QStringList letters;
             for (const QAction *const action : menu->actions())
                 letters += action->text().section(u'&', 1).left(1).toLower();
-            for (const QChar letter : letters)
-                EXPECT_EQ(letters.count(letter), 1) << language.data() << letters.toStdString();
+            letters.removeAll(QString());
+            EXPECT_EQ(letters.removeDuplicates(), 0) << menu->title().toStdString();
         }
     }
 }
@@ -392,11 +386,9 @@ TEST(Companion, LoadsNoDesktopLibraryAndNamesThePackageThatDoes)
     EXPECT_TRUE(libraries.contains("libQt6Core.so"));
     for (const char *const library : {"libQt6Gui", "libQt6Widgets", "libQt6Sql"})
         EXPECT_FALSE(libraries.contains(library)) << library;
-    for (const auto &words : {u"config edit"_s, u"preview -o a.png -"_s}) {
-        const support::Outcome outcome = support::run(program, words.split(u' '), support::Home());
-        EXPECT_EQ(outcome.exitStatus, 2);
-        EXPECT_TRUE(outcome.errors.contains("zentaro-desktop")) << outcome.errors.constData();
-    }
+    for (const auto &words : {u"config edit"_s, u"preview -o a.png -"_s})
+        EXPECT_TRUE(support::run(program, words.split(u' '), support::Home())
+                        .errors.contains("zentaro-desktop"));
 }
 
 } // namespace
