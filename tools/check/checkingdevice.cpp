@@ -38,11 +38,8 @@ bool hasPlainAttributes(const QXmlAttributes &atts)
 
 } // namespace
 
-CheckingDevice::CheckingDevice(const TagPlaces &places, tools::FindingStore &findings,
-                               bool isConfigured)
+CheckingDevice::CheckingDevice(bool isConfigured)
     : CompanyPrinterDriver(u"/dev/null"_s)
-    , places(places)
-    , findings(findings)
     , isConfigured(isConfigured)
 {
     stream = std::make_unique<QTextStream>(&paper);
@@ -75,12 +72,13 @@ bool CheckingDevice::startElement(const QString &namespaceURI, const QString &lo
 bool CheckingDevice::endElement(const QString &namespaceURI, const QString &localName,
                                 const QString &qName)
 {
-    finish();
+    tellPending();
     open.pop_back();
     return CompanyPrinterDriver::endElement(namespaceURI, localName, qName);
 }
 
-void CheckingDevice::finish()
+/// Tells what does not group others: it has ended, or has attributes.
+void CheckingDevice::tellPending()
 {
     if (unlessGroup)
         findings.add(*std::exchange(unlessGroup, std::nullopt));
@@ -193,7 +191,7 @@ void CheckingDevice::tellUnlessGroup(const tools::Finding &told)
 {
     unlessGroup = told;
     if (!told.suggestion.isEmpty() || hasPlainAttributes(atts) || isElement(elementName))
-        finish();
+        tellPending();
 }
 
 /// What a name that the document does not read stands for: the nearest that it reads, or what has

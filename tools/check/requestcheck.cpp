@@ -13,15 +13,13 @@ namespace requestcheck {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 /// What is wrong where the reader met a fault, and what to do: what it took last says more than its
 /// own word, which is used for what is rare.
-QString faultIn(const TagPlaces &places, const CheckingDevice &device)
+QString CheckingDevice::faultToTell() const
 {
     using enum TagPlaces::In;
-    const bool open = !device.openElements().empty();
-    const auto &[name, line] = open ? device.openElements().back() : std::pair<QString, qint64>();
+    const bool isOpen = !open.empty();
+    const auto &[name, line] = isOpen ? open.back() : std::pair<QString, qint64>();
     const QString inside = u"`%1`, open since line %2, is not closed"_s.arg(name).arg(line);
     const QString &fault = places.fault;
     const bool isAtEnd = fault == "unexpected end of file"_L1;
@@ -31,44 +29,57 @@ QString faultIn(const TagPlaces &places, const CheckingDevice &device)
     const std::pair<bool, QString> reasons[] = {
         {isAtEnd && places.isIn() == Quotes,
          u"the request ends in a value, whose quote is missing"_s},
-        {isAtEnd && open, "the request ends, and "_L1 + inside},
+        {isAtEnd && isOpen, "the request ends, and "_L1 + inside},
         {isAtEnd, u"the request ends without an element"_s},
         {fault == "tag mismatch"_L1, inside + " before this end tag"_L1},
         {two.contains(u'&'), u"a bare `&` is written `&amp;`"_s},
         {fault == "error occurred while parsing reference"_L1,
          u"a reference ends with `;`, and a bare `&` is written `&amp;`"_s},
-        {two.contains(u'<') && (in == Quotes || (open && two.back().isSpace())),
+        {two.contains(u'<') && (in == Quotes || (isOpen && two.back().isSpace())),
          u"a bare `<` is written `&lt;`"_s},
         {in == Attribute, u"an attribute is a name, `=` and a value in quotes"_s},
-        {open && two.front() == u'<', u"a name begins with a letter"_s},
+        {isOpen && two.front() == u'<', u"a name begins with a letter"_s},
         {fault == "invalid name for processing instruction"_L1,
          u"the XML declaration has to stand at the very beginning"_s},
         {fault == "error occurred while parsing comment"_L1, u"a comment holds no `--`"_s},
-        {open || fault.contains("declaration"_L1) || fault.contains("document type"_L1), fault},
+        {isOpen || fault.contains("declaration"_L1) || fault.contains("document type"_L1), fault},
         {head.startsWith("<?xml"_L1) && !head.contains("?>"_L1),
          u"the XML declaration holds `version`, `encoding` and `standalone` in this order, in "
          "quotes, and ends with `?>`"_s},
-        {device.rootTag().line > 0, u"something stands behind the end of the root element"_s},
+        {root.begin.line > 0, u"something stands behind the end of the root element"_s},
         {true, u"no element begins here: the request is another file, or not in the encoding that "
                "it names"_s},
     };
     return std::ranges::find(reasons, true, &std::pair<bool, QString>::first)->second;
 }
 
-void tellStop(const TagPlaces &places, const CheckingDevice &device, tools::FindingStore &findings)
+std::vector<tools::Finding> CheckingDevice::takeFindings()
 {
-    const QString limit = requestreader::exceededLimit(*places.stop);
-    if (places.last().line == 0)
-        return findings.add(finding("xml", u"the request is empty"_s));
-    if (limit.isEmpty() && *places.stop != requestreader::Stop::Fault)
-        return;
+    using requestreader::Stop;
+    tellPending();
+    const Stop why = places.stop.value_or(Stop::Refused); // which has been told
+    const QString limit = requestreader::exceededLimit(why);
     tools::Place at = places.last();
     at.column -= places.lastTwo().startsWith(u'&') ? 1 : 0; // which the character behind it tells
-    findings.add(finding(limit.isEmpty() ? Code("xml") : Code("limit"),
-                         (limit.isEmpty() ? faultIn(places, device) : limit)
-                             + ": the print run stops here"_L1,
-                         {at, {at.line, at.column + 1}}));
+    const Range here{at, {at.line, at.column + 1}};
+    const auto stops = ": the print run stops here"_L1;
+    if (places.stop && at.line == 0)
+        tell("xml", u"the request is empty"_s, {});
+    else if (!limit.isEmpty())
+        tell("limit", limit + stops, here);
+    else if (why == Stop::Fault)
+        tell("xml", faultToTell() + stops, here);
+    return findings.take();
 }
+
+std::vector<tools::Finding> check(QIODevice &request, bool isConfigured)
+{
+    CheckingDevice device(isConfigured);
+    requestreader::read(request, device, &device.places);
+    return device.takeFindings();
+}
+
+namespace {
 
 /// Checks every file; one that cannot be read is told and does not keep the others from it.
 int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
@@ -107,18 +118,6 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
 }
 
 } // namespace
-
-std::vector<tools::Finding> check(QIODevice &request, bool isConfigured)
-{
-    TagPlaces places;
-    tools::FindingStore findings;
-    CheckingDevice device(places, findings, isConfigured);
-    requestreader::read(request, device, &places);
-    device.finish();
-    if (places.stop)
-        tellStop(places, device, findings);
-    return findings.take();
-}
 
 int run(const tools::Call &call)
 {

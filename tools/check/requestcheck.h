@@ -68,17 +68,13 @@ std::vector<tools::Finding> check(QIODevice &request, bool isConfigured);
 class CheckingDevice : public CompanyPrinterDriver
 {
 public:
-    /// `places` follows the same reading. Without a configuration, what switches leave away is not
-    /// told: they are all off.
-    CheckingDevice(const TagPlaces &places, tools::FindingStore &findings, bool isConfigured);
+    /// Without a configuration, what switches leave away is not told: they are all off.
+    explicit CheckingDevice(bool isConfigured);
     ~CheckingDevice() override { stream.reset(); } // before the text that it writes to
 
-    /// The elements whose ends were not read, and their lines; the innermost last.
-    const std::vector<std::pair<QString, qint64>> &openElements() const { return open; }
-    /// Tells what is left where the reading ends early.
-    void finish();
-    /// The root's tag; line 0 before it.
-    tools::Place rootTag() const { return root.begin; }
+    /// When the request has been read.
+    std::vector<tools::Finding> takeFindings();
+    TagPlaces places; ///< follows the same reading
 
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
                       const QXmlAttributes &attributes) override;
@@ -95,6 +91,8 @@ public:
     using CompanyPrinterDriver::printRowFiscal;
 
 private:
+    QString faultToTell() const;
+    void tellPending();
     void tell(Code code, const QString &text, const Range &at, const QString &suggestion = {})
     {
         findings.add(finding(code, text, at, suggestion));
@@ -135,16 +133,15 @@ private:
     QXmlAttributes atts;
     const ElementRow *row = nullptr; // null: the method does not react to it
 
-    const TagPlaces &places;
-    tools::FindingStore &findings;
+    tools::FindingStore findings;
     const bool isConfigured;
     QTextCodec *requestCodec = nullptr; // of eight bits, which the request names; null: another
     QString paper;                      // what was written since it was last looked at
     QString lastLine;                   // printed for the element, without its frame
     bool hasPrinted = false;            // the element
     bool isPrinterName = false;
-    std::vector<std::pair<QString, qint64>> open;
-    std::optional<tools::Finding> unlessGroup; // about the innermost, unless it groups others
+    std::vector<std::pair<QString, qint64>> open; // elements and their lines, the innermost last
+    std::optional<tools::Finding> unlessGroup;    // about the innermost, unless it groups others
     Range root;
     Range printer;                  // where its name stands; line 0 before it
     Range methodTag;                // of the chosen one

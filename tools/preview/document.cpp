@@ -15,7 +15,6 @@
 namespace preview {
 
 using namespace Qt::StringLiterals;
-using requestcheck::TagPlaces;
 
 namespace {
 
@@ -23,9 +22,8 @@ namespace {
 class TracingDevice : public CompanyPrinterDriver
 {
 public:
-    TracingDevice(std::unique_ptr<QFile> printFile, const TagPlaces &places, bool traceElements)
+    TracingDevice(std::unique_ptr<QFile> printFile, bool traceElements)
         : CompanyPrinterDriver(std::move(printFile))
-        , places(places)
         , traceElements(traceElements)
     {
     }
@@ -58,9 +56,9 @@ public:
     }
 
     std::vector<Origin> origins;
+    requestcheck::TagPlaces places; ///< follows the same reading
 
 private:
-    const TagPlaces &places;
     const bool traceElements;
 };
 
@@ -89,16 +87,16 @@ Document render(const QByteArray &request, bool traceElements)
         return document;
     }
     {
-        TagPlaces places;
-        TracingDevice device(std::move(printFile), places, traceElements);
+        TracingDevice device(std::move(printFile), traceElements);
         QBuffer source;
         source.setData(request);
-        requestreader::read(source, device, &places);
+        requestreader::read(source, device, &device.places);
         device.noteOrigin();
         if (!device.isWritten())
             document.fault = u"more than %1 bytes would be printed"_s.arg(MostBytes);
-        else if (places.stop)
-            document.fault = u"line %1: the print run stops reading here"_s.arg(places.last().line);
+        else if (device.places.stop)
+            document.fault =
+                u"line %1: the print run stops reading here"_s.arg(device.places.last().line);
         document.origins = std::move(device.origins);
     }
     written.seek(0);
