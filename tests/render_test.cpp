@@ -180,4 +180,14 @@ TEST(Device, WritesOnADescriptorInAnyEncoding)
     ::close(descriptor);
 }
 
+TEST(LocaleEncoding, LosesNoCharacter)
+{
+    EXPECT_EQ(text::encoded(u"\u00E8\U0001F355\u0416", QTextCodec::codecForName("GB18030")),
+              "\xA8\xA8\x94\x39\xB8\x33\xA7\xA8");
+    EXPECT_EQ(text::encoded(u"a\U0001F355", QTextCodec::codecForName("ISO-8859-1")), "a?");
+    EXPECT_EQ(text::encoded(u"\u200B\uFE0F\uFEFF|", QTextCodec::codecForName("ISO-8859-15")),
+              "???|");
+    EXPECT_EQ(text::encoded(u"a\U0001F355", nullptr), "a\U0001F355");
+}
+
 } // namespace

@@ -72,21 +72,6 @@ Home::Home(const QByteArray &configuration)
 
 QString Home::configurationPath() const { return path(u".zentaro/conf/zentaro.conf"_s); }
 
-Locale::Locale(const QString &codeset)
-    : name(u"xx_XX."_s + codeset)
-{
-    QProcess localedef;
-    localedef.start(u"localedef"_s, {u"-f"_s, codeset, u"-i"_s, u"POSIX"_s, path(name)});
-    localedef.waitForFinished();
-    EXPECT_TRUE(QFileInfo(path(name)).isDir());
-}
-
-QStringList Locale::variables() const
-{
-    // The C library itself leaks the search path, which is no finding of ours.
-    return {u"LOCPATH="_s + path(), u"LC_ALL="_s + name, u"ASAN_OPTIONS=detect_leaks=0"_s};
-}
-
 Outcome run(const QString &program, const QStringList &words, const Home &home,
             const QStringList &variables)
 {

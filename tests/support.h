@@ -48,18 +48,6 @@ public:
     QString configurationPath() const;
 };
 
-/// A locale of the given codeset, built for the test alone.
-class Locale : public Folder
-{
-public:
-    explicit Locale(const QString &codeset);
-    /// The environment's variables that choose it.
-    QStringList variables() const;
-
-private:
-    QString name;
-};
-
 /// What a program left behind.
 struct Outcome
 {
