@@ -38,7 +38,8 @@ struct Place
     qint64 line = 0;
     qint64 column = 0;
 
-    auto operator<=>(const Place &) const = default;
+    auto
+    operator<=>(const Place &) const = default; // NOLINT(modernize-use-nullptr): none is written
 };
 
 /// From a character to the place behind another; line 0 where that is not known.

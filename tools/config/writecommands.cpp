@@ -142,7 +142,7 @@ QByteArray startingConfiguration(size_t paper, const QString &language)
 QString languageFor(const CommandLine &line)
 {
     const QString named = line.value(u"language"_s);
-    const QString language = named.isEmpty() ? QLocale::system().name().section(u'_', 0, 0) : named;
+    QString language = named.isEmpty() ? QLocale::system().name().section(u'_', 0, 0) : named;
     if (language == "en"_L1 || !labelsFolder(language).isEmpty())
         return language;
     if (named.isEmpty())
