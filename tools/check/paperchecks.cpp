@@ -46,40 +46,39 @@ char32_t firstOf(const preview::Cells &characters, auto &&is)
 void CheckingDevice::checkValue(int position)
 {
     const QString value = atts.value(position);
-    const QString name = tools::excerpt(atts.qName(position));
-    const Range at = places.attribute(position);
     const auto *const control =
         std::ranges::find_if(value, [](QChar c) { return c.category() == QChar::Other_Control; });
     if (value.contains(u'\n') || value.contains(u'\r'))
-        tell("line-feed",
-             u"a line end in %1: the printer takes what follows for a command"_s.arg(name), at);
+        tellValue("line-feed", position,
+                  u"a line end in %1: the printer takes what follows for a command"_s);
     else if (control != value.end())
-        tell("control-character",
-             u"the control character %1 in %2"_s.arg(tools::excerpt(QString(*control)), name), at);
+        tellValue("control-character", position, u"the control character %2 in %1"_s,
+                  tools::excerpt(QString(*control)));
     if (!row->isFiscal() && value.contains("\"@"_L1))
-        tell("end-mark", u"`\"@` in %1 ends the printed line early"_s.arg(name), at);
+        tellValue("end-mark", position, u"`\"@` in %1 ends the printed line early"_s);
     if (std::ranges::any_of(value, [](QChar c) { return c.unicode() >= 0x80; }))
-        checkEncoding(value, name, at);
+        checkEncoding(position);
     if (const AttributeUse *const use = row->find(atts.qName(position)))
         checkMeaning(position, *use);
 }
 
 /// Whether the characters are those that were meant, and each is printed, in one column.
-void CheckingDevice::checkEncoding(const QString &value, const QString &name, const Range &at)
+void CheckingDevice::checkEncoding(int position)
 {
+    const QString value = atts.value(position);
     const preview::Cells characters = preview::cellsOf(value);
+    const auto isNone = [](char32_t c) { return QChar::isNonCharacter(c); };
     if (value.contains(QChar::ReplacementCharacter))
-        return tell("undecodable",
-                    u"%1 has bytes that are not in the encoding of the request"_s.arg(name), at);
-    if (!value.isValidUtf16()
-        || firstOf(characters, [](char32_t c) { return QChar::isNonCharacter(c); }))
-        return tell("no-character", u"a reference in %1 is to no character"_s.arg(name), at);
+        return tellValue("undecodable", position,
+                         u"%1 has bytes that are not in the encoding of the request"_s);
+    if (!value.isValidUtf16() || firstOf(characters, isNone))
+        return tellValue("no-character", position, u"a reference in %1 is to no character"_s);
     const QByteArray bytes = requestCodec ? requestCodec->fromUnicode(value) : QByteArray();
     if (requestCodec && QUtf8StringView(bytes).isValidUtf8())
         return tell("mistaken-encoding",
                     u"%1 is %2 in the encoding that the request names, and text in UTF-8"_s.arg(
-                        name, tools::excerpt(value)),
-                    at, QString::fromUtf8(bytes));
+                        tools::excerpt(atts.qName(position)), tools::excerpt(value)),
+                    places.attribute(position), QString::fromUtf8(bytes));
     QTextCodec *const codec = text::localeCodec(); // null for UTF-8, which has them all
     const auto isUnknown = [codec](char32_t c) {
         return codec && c >= 0x80 && text::encoded(QString::fromUcs4(&c, 1), codec) == "?";
@@ -88,15 +87,12 @@ void CheckingDevice::checkEncoding(const QString &value, const QString &name, co
         return c >= 0xA0 && !preview::fillsOneColumn(c) && !isUnknown(c);
     };
     if (const char32_t c = firstOf(characters, isUnknown))
-        tell("not-in-encoding",
-             u"%1 in %2 prints as `?`: it is not in %3"_s.arg(preview::numberOf(c), name,
-                                                              QString::fromLatin1(codec->name())),
-             at);
+        tellValue("not-in-encoding", position, u"%2 in %1 prints as `?`: it is not in %3"_s,
+                  preview::numberOf(c), QString::fromLatin1(codec->name()));
     if (const char32_t c = firstOf(characters, shifts))
-        tell("character-width",
-             u"%1 in %2 does not fill one column from left to right: what follows it shifts"_s.arg(
-                 preview::numberOf(c), name),
-             at);
+        tellValue("character-width", position,
+                  u"%2 in %1 does not fill one column from left to right: what follows it shifts"_s,
+                  preview::numberOf(c));
 }
 
 /// Values that mean something to the device.

@@ -97,6 +97,13 @@ private:
     {
         findings.add(finding(code, text, at, suggestion));
     }
+    /// `%1` in the text is the attribute's name.
+    template <typename... Others>
+    void tellValue(Code code, int position, const QString &text, const Others &...others)
+    {
+        tell(code, text.arg(tools::excerpt(atts.qName(position)), others...),
+             places.attribute(position));
+    }
     Range placeOf(QLatin1StringView attribute) const
     {
         return places.attribute(atts.index(attribute));
@@ -118,7 +125,7 @@ private:
     void checkTriples();
     // The value of a printed attribute.
     void checkValue(int position);
-    void checkEncoding(const QString &value, const QString &name, const Range &at);
+    void checkEncoding(int position);
     void checkMeaning(int position, const AttributeUse &use);
     // The paper.
     void checkLine(const QString &text, qsizetype pad);

@@ -22,12 +22,6 @@ QString faultOfEnd(const PrintLine &line)
     return hasReturn ? u"ends with a carriage return"_s : u"without its carriage return"_s;
 }
 
-QString joined(QStringList notes)
-{
-    notes.removeAll(QString());
-    return notes.join("; "_L1);
-}
-
 /// The lines of a receipt, the right at the edge: two where it has no room behind the left.
 std::vector<Cells> laidOut(const std::vector<std::pair<Cells, Cells>> &receipt, int width)
 {
@@ -169,6 +163,12 @@ private:
 };
 
 } // namespace
+
+QString joined(QStringList notes)
+{
+    notes.removeAll(QString());
+    return notes.join("; "_L1);
+}
 
 void drawRows(const Document &document, int columns, const std::function<bool(Row)> &take)
 {

@@ -187,6 +187,9 @@ constexpr int MostPaperWidth = 500;
 /// The most rows of a document that are compared, or drawn in a picture.
 constexpr size_t MostRows = 4'000;
 
+/// Notes in one, those that are not empty.
+QString joined(QStringList notes);
+
 /// Draws a document row by row, until `take` answers false. The paper is `columns` cells wide;
 /// where that is 0, as the origins say; without them as wide as the first rule of `=` in the file,
 /// else as its longest line, at least the device's.

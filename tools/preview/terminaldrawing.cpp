@@ -103,12 +103,9 @@ QString TerminalDrawing::notesOn(const Row &row) const
     }
     if (more > 0)
         numbers.append(u"and %1 more"_s.arg(more));
-    QStringList notes{row.note, numbers.join(u' ')};
-    if (row.overrun() > 0)
-        notes.prepend(
-            (frames ? u"← %1 beyond the edge"_s : u"<- %1 beyond the edge"_s).arg(row.overrun()));
-    notes.removeAll(QString());
-    return notes.join("; "_L1);
+    const QString overrun = frames ? u"← %1 beyond the edge"_s : u"<- %1 beyond the edge"_s;
+    return joined(
+        {row.overrun() > 0 ? overrun.arg(row.overrun()) : QString(), row.note, numbers.join(u' ')});
 }
 
 QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row> &after,
