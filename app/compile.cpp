@@ -9,14 +9,12 @@
 #include "text/filename.h"
 #include "text/standardoutput.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTranslator>
 
 #include <csignal>
 #include <cstdlib>
 #include <exception>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -49,21 +47,6 @@ void shieldFromEnvironment()
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 }
 
-/// Makes the toolkit's application object as in the "C" locale and without the event loop of
-/// another toolkit: the user's locale files and that loop cost a run a twentieth, and it uses
-/// neither. Who does, asks the environment, which is as it was.
-void makeApplication(std::optional<QCoreApplication> &application, int &argc, char **argv)
-{
-    const QByteArray locale = qgetenv("LC_ALL");
-    qputenv("LC_ALL", "C");
-    qputenv("QT_NO_GLIB", "1");
-    application.emplace(argc, argv);
-    if (locale.isNull())
-        qunsetenv("LC_ALL");
-    else
-        qputenv("LC_ALL", locale);
-}
-
 } // namespace
 
 void compile(int argc, char **argv)
@@ -76,8 +59,7 @@ void compile(int argc, char **argv)
     }
     const QString requestName = text::nameOfFile(argv[1]);
     const QString printName = text::nameOfNewFile(argv[2]);
-    std::optional<QCoreApplication> application;
-    makeApplication(application, argc, argv);
+    const auto application = makeApplication(argc, argv);
     QTranslator translator; // without a translation the texts stay as they are
     loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
     QCoreApplication::installTranslator(&translator);

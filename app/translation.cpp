@@ -11,6 +11,19 @@
 
 using namespace Qt::StringLiterals;
 
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
+{
+    const QByteArray locale = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "C");
+    qputenv("QT_NO_GLIB", "1");
+    auto application = std::make_unique<QCoreApplication>(argc, argv);
+    if (locale.isNull())
+        qunsetenv("LC_ALL");
+    else
+        qputenv("LC_ALL", locale);
+    return application;
+}
+
 bool loadTranslation(QTranslator &translator, const QString &base, const QString &file)
 {
     if (base.size() + file.size() > PATH_MAX)

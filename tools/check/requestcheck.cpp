@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/requestcheck.h"
 
+#include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "render/requestreader.h"
 #include "tools/command.h"
 #include "tools/requests/requests.h"
 #include "tools/terminal.h"
-
-#include <QCoreApplication>
 
 namespace requestcheck {
 
@@ -132,7 +131,7 @@ int run(const tools::Call &call)
     line.addPositionalArgument(u"REQUEST"_s, u"A print request, or a folder of them."_s,
                                u"REQUEST..."_s);
     line.read(1, -1);
-    const QCoreApplication application(call.argc, call.argv);
+    const auto application = makeApplication(call.argc, call.argv);
     tools::ConfigurationInUse configuration; // its labels have the lengths that they have on paper
     const bool isConfigured = configuration.use(call, line.value(u"config"_s));
     return checkFiles(call, tools::requestFiles(call, line.positionalArguments()), line,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/preview.h"
 
+#include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
@@ -270,7 +271,7 @@ int run(const tools::Call &call)
     if (preview.drawsPicture())
         application = call.desktop->pictureApplication(call.argv);
     else
-        application = std::make_unique<QCoreApplication>(call.argc, call.argv);
+        application = makeApplication(call.argc, call.argv);
     return preview.draw(tools::requestFiles(call, line.positionalArguments()));
 }
 
