@@ -45,8 +45,8 @@ CheckingDevice::CheckingDevice(bool isConfigured)
     stream = std::make_unique<QTextStream>(&paper);
 }
 
-bool CheckingDevice::startElement(const QString &namespaceURI, const QString &localName,
-                                  const QString &qName, const QXmlAttributes &attributes)
+bool CheckingDevice::startElement(const QString &, const QString &, const QString &qName,
+                                  const QXmlAttributes &attributes)
 {
     unlessGroup.reset(); // it groups this one
     if (root.begin.line == 0) {
@@ -62,19 +62,17 @@ bool CheckingDevice::startElement(const QString &namespaceURI, const QString &lo
         checkElement();
     else if (!startMethod())
         return false;
-    const bool accepted =
-        CompanyPrinterDriver::startElement(namespaceURI, localName, qName, attributes);
+    const bool accepted = CompanyPrinterDriver::startElement({}, {}, qName, attributes);
     checkDescription();
     paper.truncate(0);
     return accepted;
 }
 
-bool CheckingDevice::endElement(const QString &namespaceURI, const QString &localName,
-                                const QString &qName)
+bool CheckingDevice::endElement(const QString &, const QString &, const QString &)
 {
     tellPending();
     open.pop_back();
-    return CompanyPrinterDriver::endElement(namespaceURI, localName, qName);
+    return true;
 }
 
 /// Tells what does not group others: it has ended, or has attributes.
@@ -90,7 +88,7 @@ bool CheckingDevice::skippedEntity(const QString &name)
     tell("unknown-entity",
          tools::excerpt(u'&' + name + u';') + " is not declared, and prints nothing"_L1,
          {{last.line, last.column - name.size() - 1}, {last.line, last.column + 1}});
-    return CompanyPrinterDriver::skippedEntity(name);
+    return true;
 }
 
 bool CheckingDevice::endDocument()

@@ -76,10 +76,9 @@ public:
     std::vector<tools::Finding> takeFindings();
     TagPlaces places; ///< follows the same reading
 
-    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+    bool startElement(const QString &, const QString &, const QString &qName,
                       const QXmlAttributes &attributes) override;
-    bool endElement(const QString &namespaceURI, const QString &localName,
-                    const QString &qName) override;
+    bool endElement(const QString &, const QString &, const QString &) override;
     bool skippedEntity(const QString &name) override;
     bool endDocument() override;
 

@@ -155,13 +155,13 @@ public:
     {
     }
 
-    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+    bool startElement(const QString &, const QString &, const QString &qName,
                       const QXmlAttributes &atts) override
     {
         const bool isMethod = qName == element::method;
         if (isMethod)
             noteOrigin(); // of what the method before has printed
-        const bool goOn = CompanyPrinterDriver::startElement(namespaceURI, localName, qName, atts);
+        const bool goOn = CompanyPrinterDriver::startElement({}, {}, qName, atts);
         if (isMethod || traceElements)
             noteOrigin();
         return goOn;

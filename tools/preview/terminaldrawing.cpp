@@ -20,8 +20,7 @@ QString rangeOf(std::span<const RowPair> above, std::span<const RowPair> hunk,
 {
     const auto has = [member](const RowPair &pair) { return pair.*member >= 0; };
     const auto count = std::ranges::count_if(hunk, has);
-    return QString::number(std::ranges::count_if(above, has) + (count > 0 ? 1 : 0)) + u','
-           + QString::number(count);
+    return u"%1,%2"_s.arg(std::ranges::count_if(above, has) + (count > 0 ? 1 : 0)).arg(count);
 }
 
 QString coloured(const QString &line)
@@ -111,28 +110,28 @@ QString TerminalDrawing::notesOn(const Row &row) const
 QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row> &after,
                           const TerminalDrawing &drawing, bool inColours)
 {
-    constexpr ptrdiff_t Context = 3;
-    const std::vector<RowPair> pairs = comparedRows(before, after);
+    constexpr size_t Context = 3;
     const auto isChange = [](const RowPair &pair) { return pair.before < 0 || pair.after < 0; };
+    const std::vector<RowPair> pairs = comparedRows(before, after);
+    std::vector<bool> isShown(pairs.size());
+    for (size_t i = 0; i < pairs.size(); ++i) {
+        const size_t last = std::min(pairs.size(), i + Context + 1);
+        for (size_t j = i - std::min(i, Context); j < last && isChange(pairs[i]); ++j)
+            isShown[j] = true;
+    }
     QString text;
     const auto addLine = [&](const QString &line) {
         text += (inColours ? coloured(line) : line) + u'\n';
     };
-    auto end = pairs.begin(); // of the hunk before
-    while (true) {
-        auto last = std::find_if(end, pairs.end(), isChange);
-        if (last == pairs.end())
+    for (auto end = isShown.begin();;) {
+        const auto begin = std::find(end, isShown.end(), true);
+        if (begin == isShown.end())
             return text;
-        const auto begin = last - std::min(last - end, Context);
-        // Changes with at most twice the context between them share a hunk.
-        for (auto next = last; next != pairs.end() && next - last <= 2 * Context + 1;
-             next = std::find_if(next + 1, pairs.end(), isChange))
-            last = next;
-        end = last + std::min(pairs.end() - last, Context + 1);
-        const std::span<const RowPair> above(pairs.begin(), begin);
-        const std::span<const RowPair> hunk(begin, end);
-        addLine("@@ -"_L1 + rangeOf(above, hunk, &RowPair::before) + " +"_L1
-                + rangeOf(above, hunk, &RowPair::after) + " @@"_L1);
+        end = std::find(begin, isShown.end(), false);
+        const auto above = std::span(pairs).first(size_t(begin - isShown.begin()));
+        const auto hunk = std::span(pairs).subspan(above.size(), size_t(end - begin));
+        addLine(u"@@ -%1 +%2 @@"_s.arg(rangeOf(above, hunk, &RowPair::before),
+                                       rangeOf(above, hunk, &RowPair::after)));
         for (const RowPair &pair : hunk) {
             const QChar sign = pair.after < 0 ? u'-' : pair.before < 0 ? u'+' : u' ';
             addLine(sign
