@@ -260,7 +260,7 @@ int main(int argc, char **argv)
     }
     std::set_terminate(endWithoutMemory);
     // Standard output is the printer: what the print run has to say goes to the scheduler's log.
-    const text::LineSink toLog(text::LineSink::toErrors);
+    const QScopedValueRollback<std::FILE *> toLog(text::diagnostics, stderr);
     int words = 1; // the others are not the toolkit's
     const QCoreApplication application(words, argv);
     const QString queue = qEnvironmentVariable("PRINTER", QFile::decodeName(argv[0]));

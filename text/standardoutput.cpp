@@ -1,37 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "text/standardoutput.h"
 
-#include <cstdio>
-#include <utility>
-
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace text {
 
-namespace {
+std::FILE *diagnostics = stdout;
 
-void writeLine(QByteArrayView line, std::FILE *file)
+void printLine(QByteArrayView line)
 {
-    std::fwrite(line.data(), 1, size_t(line.size()), file);
-    std::fputc('\n', file);
-    std::fflush(file);
+    if (!diagnostics)
+        return;
+    std::fwrite(line.data(), 1, size_t(line.size()), diagnostics);
+    std::fputc('\n', diagnostics);
+    std::fflush(diagnostics);
 }
-
-constinit LineSink::Take sink = nullptr; // standard output
-
-} // namespace
-
-void printLine(QByteArrayView line) { sink ? sink(line) : writeLine(line, stdout); }
-
-LineSink::LineSink(Take take)
-    : before(std::exchange(sink, take))
-{
-}
-
-LineSink::~LineSink() { sink = before; }
-
-void LineSink::toErrors(QByteArrayView line) { writeLine(line, stderr); }
 
 void reserveStandardStreams()
 {

@@ -220,7 +220,7 @@ constexpr qint64 MostBytes = qint64(64) * 1'024 * 1'024;
 bool isRequest(const QByteArray &bytes);
 
 /// Prints a request into memory, by the device of the print run, with the configuration and the
-/// translation that are in use. What the print run tells goes where text::LineSink says. With
+/// translation that are in use. What the print run tells goes to text::diagnostics. With
 /// `traceElements` the origins know the lines of the request.
 Document render(const QByteArray &request, bool traceElements);
 

@@ -163,7 +163,7 @@ private:
             tools::tellTrouble(
                 call, nameOfFirst(),
                 u"no such file: every setting has its default; `zentaro config init` writes one"_s);
-        const text::LineSink errors(text::LineSink::toErrors);
+        const QScopedValueRollback<std::FILE *> errors(text::diagnostics, stderr);
         Document document =
             input.isRequest ? render(input.bytes, annotates) : Document{input.bytes, codec, {}, {}};
         if (!document.fault.isEmpty()) {

@@ -101,7 +101,7 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
     const bool isThere = !isOwn || !configtool::isMissing(path);
     const QByteArray content = isThere ? configtool::contentOf(call, {path, format}) : QByteArray();
     // The first use reads the user's own file, whose absence is told by whoever minds it.
-    const text::LineSink quiet(text::LineSink::drop);
+    const QScopedValueRollback<std::FILE *> quiet(text::diagnostics, nullptr);
     ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();
     if (!isOwn)
         configuration->readContent(content, path, format);

@@ -209,7 +209,7 @@ bool PaperPane::eventFilter(QObject *watched, QEvent *event)
 /// The request as the present settings print it; what is wrong with it stands below the paper.
 std::vector<preview::Row> PaperPane::printed()
 {
-    const text::LineSink quiet(text::LineSink::drop); // the remark tells
+    const QScopedValueRollback<std::FILE *> quiet(text::diagnostics, nullptr); // the remark tells
     SyncSingleton<ZTConfiguration>::instance_pointer = &configuration;
     configuration.loadListView(&tree);
     const QString present = configuration.getStrValue(u"zentaro.language.basedir"_s) + u'\n'
