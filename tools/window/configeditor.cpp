@@ -112,7 +112,7 @@ bool ConfigEditor::open(const Source &file)
     if (nestsTooDeep(outline))
         return refuse(trouble, tr("Its groups stand too deep within each other."));
     written = content;
-    fileLosses = std::move(outline.losses);
+    asRead = std::move(outline);
     libconfig::Config stored;
     stored.readContent(content, file.path, file.format);
     const std::unique_ptr<QTreeWidget> view(stored.newConfigListView());
@@ -120,13 +120,6 @@ bool ConfigEditor::open(const Source &file)
     if (!item) {
         item.reset(libconfig::newGroupItem(file.path));
         item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    }
-    fileFaults.clear();
-    for (Finding &fault : outline.faults) { // each stands in or behind what it is about
-        const auto next =
-            std::ranges::upper_bound(outline.entries, placeOf(fault), {}, placeOf<Entry>);
-        const qsizetype index = next - outline.entries.begin() - 1;
-        fileFaults.push_back({std::move(fault), itemOf(outline, index, item.get())});
     }
     tree->take(std::move(item));
     nameFile(file);
@@ -182,8 +175,7 @@ bool ConfigEditor::saveTo(const Source &target)
     if (!fault.isEmpty())
         return refuse(tr("%1 could not be written.").arg(target.path), fault);
     written = *content;
-    fileFaults.clear();
-    fileLosses.clear();
+    asRead = {};
     tree->changes.setClean();
     nameFile(target);
     listFindings();
@@ -201,7 +193,7 @@ bool ConfigEditor::confirmSaving(const Source &target)
                tr("Saving replaces it with what this window shows."), Choice)
                != QMessageBox::Save)
         return false;
-    std::vector<Finding> lost = fileLosses;
+    std::vector<Finding> lost = asRead.losses;
     std::ranges::move(lossesInFormat(tree->outlineIn(target.format).outline, target.format),
                       std::back_inserter(lost));
     return lost.empty()
@@ -263,20 +255,20 @@ void ConfigEditor::listFindings()
             item.setIcon(0, icons[finding.severity == Severity::Error]);
     }
 
-    const size_t count = fileFaults.size() + found.size();
+    const size_t count = asRead.faults.size() + found.size();
     const QSignalBlocker silence(findings);
     findings->clear();
     subjects.clear();
-    const auto list = [&](const QString &text, Severity severity, QTreeWidgetItem *subject) {
+    const auto list = [&](const QString &text, Severity severity) {
         new QListWidgetItem(icons[severity == Severity::Error], text, findings);
-        subjects.push_back(subject);
     };
-    for (const auto &[fault, item] : fileFaults)
+    for (const Finding &fault : asRead.faults)
         list(tr("In the file, line %1: %2").arg(fault.at.begin.line).arg(fault.text),
-             fault.severity, item);
-    for (const Finding &finding : tools::abridged(std::move(found)))
-        list(finding.text, finding.severity,
-             finding.subject < 0 ? nullptr : listed.items[size_t(finding.subject)]);
+             fault.severity);
+    for (const Finding &finding : tools::abridged(std::move(found))) {
+        list(finding.text, finding.severity);
+        subjects.push_back(finding.subject < 0 ? nullptr : listed.items[size_t(finding.subject)]);
+    }
     findingsTitle->setText(count == 0 ? tr("Nothing wrong") : tr("Findings: %1").arg(count));
     tree->showMatching(searchLine->text());
 }
@@ -286,10 +278,16 @@ void ConfigEditor::showFinding(int row)
 {
     if (pause.isActive()) // the items may not be there any more
         listFindings();
-    if (row < 0 || row >= int(subjects.size()))
-        return;
-    QTreeWidgetItem *const item = subjects[size_t(row)];
-    if (item && item->treeWidget())
+    const auto behind = row - qsizetype(asRead.faults.size());
+    QTreeWidgetItem *item = nullptr;
+    if (row >= 0 && behind < 0) { // it stands in or behind what it is about
+        const auto next = std::ranges::upper_bound(
+            asRead.entries, placeOf(asRead.faults[size_t(row)]), {}, placeOf<Entry>);
+        item = itemOf(asRead, next - asRead.entries.begin() - 1, tree->fileItem());
+    } else if (behind < qsizetype(subjects.size()) && row >= 0) {
+        item = subjects[size_t(behind)];
+    }
+    if (item)
         tree->showItem(item);
 }
 

@@ -42,13 +42,6 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    /// What is wrong with the file as it was read, and the item that it is about, if any.
-    struct FileFault
-    {
-        Finding finding;
-        QTreeWidgetItem *item;
-    };
-
     void buildWindow();
     void buildMenus();
 
@@ -66,8 +59,7 @@ private:
 
     Source source;
     QByteArray written; ///< the file's content as it was last read or written
-    std::vector<FileFault> fileFaults;
-    std::vector<Finding> fileLosses; ///< what reading the file lost
+    Outline asRead;     ///< the file when it was opened; none once it is written
 
     QLineEdit *const searchLine;
     ConfigTree *const tree;
@@ -76,9 +68,10 @@ private:
     QLabel *const findingsTitle;
     QListWidget *const findings;
 
-    std::vector<QTreeWidgetItem *> subjects; ///< what the findings' rows are about; null: the file
-    QTimer pause;                            ///< after a change, before the findings are listed
-    QTimer drawing;                          ///< draws the paper when all of a change is there
+    std::vector<QTreeWidgetItem *>
+        subjects;   ///< of the findings' rows behind the faults of the file
+    QTimer pause;   ///< after a change, before the findings are listed
+    QTimer drawing; ///< draws the paper when all of a change is there
 };
 
 } // namespace configtool

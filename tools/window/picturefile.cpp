@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <span>
 
 namespace preview {
@@ -49,6 +50,7 @@ public:
         painters.reserve(sheets.size());
         for (size_t i = 0; i < sheets.size(); ++i) {
             const QSize sheet = painters.emplace_back(sheets[i], paper, frame).size();
+            leastCell = std::min(leastCell, painters.back().cellWidth());
             columns[i % perRow] = std::max(columns[i % perRow], sheet.width());
             rows[i / perRow] = std::max(rows[i / perRow], sheet.height());
         }
@@ -58,12 +60,6 @@ public:
             size.setHeight(std::min(size.height() + row, TooHigh));
     }
 
-    bool isTooSmall() const
-    {
-        return std::ranges::any_of(painters, [](const SheetPainter &painter) {
-            return painter.cellWidth() < LeastCellWidth;
-        });
-    }
     QString faultOfPage() const
     {
         return std::max(size.width(), size.height()) > LongestPageMm * VectorDotsOfMm
@@ -87,6 +83,7 @@ public:
     }
 
     QSize size{0, 0};
+    int leastCell = std::numeric_limits<int>::max(); // its width in pixels
 
 private:
     const size_t perRow;
@@ -137,7 +134,7 @@ struct Palette
 QString writePng(const std::vector<Sheet> &sheets, const PictureOptions &options, QBuffer &file)
 {
     const Picture picture(sheets, options, options.paper.dpi);
-    if (picture.isTooSmall())
+    if (picture.leastCell < LeastCellWidth)
         return u"the characters would be too small to be read: raise --dpi"_s;
     if (std::max(picture.size.width(), picture.size.height()) > MostPixelsOfSide
         || qint64(picture.size.width()) * picture.size.height() > MostPixels)
