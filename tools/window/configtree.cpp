@@ -348,7 +348,7 @@ bool ConfigTree::showWhere(QTreeWidgetItem *item, const QString &key, const QStr
     isWithin = isWithin || key.contains(text, Qt::CaseInsensitive);
     bool isShown = isWithin;
     for (int i = 0; i < item->childCount(); ++i) {
-        const QString name = nameOf(*item->child(i));
+        const QString name = isWithin ? QString() : nameOf(*item->child(i));
         isShown |=
             showWhere(item->child(i), key.isEmpty() ? name : key + u'.' + name, text, isWithin);
     }
