@@ -135,7 +135,7 @@ bool CheckingDevice::startMethod()
         return false;
     }
     if (method >= 0)
-        tell("second-method", u"a second `method`, which opens another section"_s, places.tag());
+        tell("second-method", u"a second `method`, which opens another section"_s);
     checkComplete();
     method = chosen - documentMethods.data();
     methodTag = places.tag();
@@ -177,18 +177,17 @@ void CheckingDevice::checkElement()
     if (open.size() == 1 && !isKnown) // the root
         return;
     const QString meant = element::method.toString();
-    tellUnlessGroup(finding("before-method",
-                            u"%1 stands before the `method` element and prints nothing"_s.arg(
-                                tools::excerpt(elementName)),
-                            places.tag(),
-                            isKnown ? QString() : tools::nearest(elementName, {&meant, 1})));
+    tellUnlessGroup("before-method",
+                    u"%1 stands before the `method` element and prints nothing"_s.arg(
+                        tools::excerpt(elementName)),
+                    isKnown ? QString() : tools::nearest(elementName, {&meant, 1}));
 }
 
 /// An element of a name that nobody knows, without attributes, may group others.
-void CheckingDevice::tellUnlessGroup(const tools::Finding &told)
+void CheckingDevice::tellUnlessGroup(Code code, const QString &text, const QString &meant)
 {
-    unlessGroup = told;
-    if (!told.suggestion.isEmpty() || hasPlainAttributes(atts) || isElement(elementName))
+    unlessGroup = finding(code, text, places.tag(), meant);
+    if (!meant.isEmpty() || hasPlainAttributes(atts) || isElement(elementName))
         tellPending();
 }
 
@@ -225,7 +224,7 @@ void CheckingDevice::checkUnknownElement()
         else if (meant.isEmpty())
             text += ", which reads "_L1 + someOf({knownElements.rbegin(), knownElements.rend()});
     }
-    tellUnlessGroup(finding(code, text, places.tag(), meant));
+    tellUnlessGroup(code, text, meant);
 }
 
 void CheckingDevice::checkAttributes()
@@ -234,14 +233,11 @@ void CheckingDevice::checkAttributes()
         printer = placeOf("name"_L1);
     else if (elementName == element::headers && printer.begin.line == 0)
         tell("no-printer",
-             u"`headers` prints the printer's name, which no `printers` before it gives"_s,
-             places.tag());
+             u"`headers` prints the printer's name, which no `printers` before it gives"_s);
     if (row->rest == Rest::Ignored) {
         if (hasPlainAttributes(atts))
-            tell("prints-nothing",
-                 u"`%1` prints nothing in `%2`, its payments included"_s.arg(elementName,
-                                                                             currentMethod),
-                 places.tag());
+            tell("prints-nothing", u"`%1` prints nothing in `%2`, its payments included"_s.arg(
+                                       elementName, currentMethod));
         return;
     }
     if (row->isHidden(atts))
@@ -311,8 +307,7 @@ void CheckingDevice::checkMissing()
         if (!isOff(settings, use.onlyIf) && use.isPrinted && !isChecked && atts.index(use.name) < 0)
             tell("missing-attribute",
                  u"`%1` lacks `%2`, which prints %3"_s.arg(
-                     elementName, use.name, use.column == Column::Sign ? "`-`"_L1 : "empty"_L1),
-                 places.tag());
+                     elementName, use.name, use.column == Column::Sign ? "`-`"_L1 : "empty"_L1));
     }
 }
 

@@ -96,6 +96,8 @@ private:
     {
         findings.add(finding(code, text, at, suggestion));
     }
+    /// About the element.
+    void tell(Code code, const QString &text) { tell(code, text, places.tag()); }
     /// `%1` in the text is the attribute's name.
     template <typename... Others>
     void tellValue(Code code, int position, const QString &text, const Others &...others)
@@ -112,7 +114,7 @@ private:
     bool startMethod();
     void checkElement();
     void checkUnknownElement();
-    void tellUnlessGroup(const tools::Finding &told);
+    void tellUnlessGroup(Code code, const QString &text, const QString &meant);
     QString meantElement() const;
     void checkComplete();
     // The attributes against the table.
