@@ -22,6 +22,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <functional>
 #include <limits>
 #include <system_error>
 #include <unistd.h>
@@ -34,58 +35,41 @@ namespace {
 constexpr std::array documentTypes = {"order"_L1,   "prefiscal"_L1, "fiscal"_L1, "receipt"_L1,
                                       "invoice"_L1, "delivery"_L1,  "report"_L1};
 
-/// A copy on its way, line by line; a line longer than the buffer goes in pieces.
-class LineCopy
+/// Copies a file line by line, after the first `skipped` lines, as long as `goesOn()` answers true
+/// behind a line; a line longer than the buffer goes in pieces. False as HLibrary::copy() has it.
+bool copyLines(const QString &src, const QString &dst, quint64 skipped,
+               const std::function<bool()> &goesOn)
 {
-public:
-    LineCopy(const QString &src, const QString &dst)
-        : source(text::nameOfFile(QFile::encodeName(src)))
-        , destination(text::nameOfNewFile(QFile::encodeName(dst)))
-    {
-    }
-
-    bool open()
-    {
-        const QFileInfo from(source);
-        const bool named = !source.fileName().isEmpty() && !destination.fileName().isEmpty();
-        std::error_code differs; // set where one of them does not exist
-        const bool onItself =
-            from.isFile()
-            && std::filesystem::equivalent(from.filesystemFilePath(),
-                                           QFileInfo(destination).filesystemFilePath(), differs);
-        return named && !onItself && source.open(QIODevice::ReadOnly)
-               && destination.open(QIODevice::WriteOnly);
-    }
-
-    /// Whether the source has no more. Looks for a byte, since pipes and devices do not know
-    /// beforehand.
-    bool atEnd()
-    {
+    QFile source(text::nameOfFile(QFile::encodeName(src)));
+    QFile destination(text::nameOfNewFile(QFile::encodeName(dst)));
+    const QFileInfo from(source);
+    std::error_code differs; // set where one of them does not exist
+    const bool onItself =
+        from.isFile()
+        && std::filesystem::equivalent(from.filesystemFilePath(),
+                                       QFileInfo(destination).filesystemFilePath(), differs);
+    if (source.fileName().isEmpty() || destination.fileName().isEmpty() || onItself
+        || !source.open(QIODevice::ReadOnly) || !destination.open(QIODevice::WriteOnly))
+        return false;
+    std::array<char, 128> line = {}; // with the zero that closes it
+    // Looks for a byte, since pipes and devices do not know beforehand.
+    const auto atEnd = [&source] {
         char next = 0;
         return source.peek(&next, 1) < 1;
+    };
+    for (; skipped > 0; --skipped) {
+        source.readLine(line.data(), line.size());
+        if (atEnd())
+            return false;
     }
-
-    qint64 readLine() { return source.readLine(line.data(), line.size()); }
-
-    bool copyLine()
-    {
-        const qint64 length = readLine();
-        return length > 0 && destination.write(line.data(), length) == length
-               && destination.flush();
+    for (bool wanted = true; wanted && !atEnd(); wanted = goesOn()) {
+        const qint64 length = source.readLine(line.data(), line.size());
+        if (length <= 0 || destination.write(line.data(), length) != length || !destination.flush())
+            return false;
     }
-
-    /// Closes both files; whether all went well with them.
-    bool finish()
-    {
-        destination.close();
-        return source.error() == QFile::NoError && destination.error() == QFile::NoError;
-    }
-
-private:
-    QFile source;
-    QFile destination;
-    std::array<char, 128> line = {}; // with the zero that closes it
-};
+    destination.close();
+    return source.error() == QFile::NoError && destination.error() == QFile::NoError;
+}
 
 void pauseFor(unsigned milliseconds)
 {
@@ -206,13 +190,7 @@ void HLibrary::askForSheet()
 bool HLibrary::copy(const QString &src, const QString &dst, unsigned linesPerSheet,
                     unsigned pauseMs)
 {
-    LineCopy copy(src, dst);
-    if (!copy.open())
-        return false;
-    unsigned lines = 0;
-    while (!copy.atEnd()) {
-        if (!copy.copyLine())
-            return false;
+    return copyLines(src, dst, 0, [=, lines = 0U]() mutable {
         // Tested before the line is counted: the first sheet takes one line more.
         if (linesPerSheet != 0 && lines >= linesPerSheet) {
             askForSheet();
@@ -220,8 +198,8 @@ bool HLibrary::copy(const QString &src, const QString &dst, unsigned linesPerShe
         }
         pauseFor(pauseMs);
         ++lines;
-    }
-    return copy.finish();
+        return true;
+    });
 }
 
 bool HLibrary::copy(const QString &src, const QString &dst, const QString &linesPerSheet,
@@ -233,20 +211,10 @@ bool HLibrary::copy(const QString &src, const QString &dst, const QString &lines
 bool HLibrary::copy(const QString &src, const QString &dst, unsigned linesPerPage, unsigned pauseMs,
                     unsigned page)
 {
-    LineCopy copy(src, dst);
-    if (!copy.open())
-        return false;
-    const quint64 skipped = quint64(linesPerPage) * page;
-    for (quint64 i = 0; i < skipped; ++i) {
-        copy.readLine();
-        if (copy.atEnd())
+    return copyLines(src, dst, quint64(linesPerPage) * page, [=, lines = 0U]() mutable {
+        if (++lines == linesPerPage)
             return false;
-    }
-    for (unsigned lines = 0; (linesPerPage == 0 || lines < linesPerPage) && !copy.atEnd();) {
-        if (!copy.copyLine())
-            return false;
-        if (++lines != linesPerPage)
-            pauseFor(pauseMs);
-    }
-    return copy.finish();
+        pauseFor(pauseMs);
+        return true;
+    });
 }
