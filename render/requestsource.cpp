@@ -26,14 +26,35 @@ bool isUtf8(QByteArrayView piece)
 
 } // namespace
 
-void Entities::declare(const QString &name, const QString &value)
+RequestSource::RequestSource(QIODevice &request, Observer *observer)
+    : request(request)
+    , observer(observer)
+    , piece(PieceBytes, Qt::Uninitialized)
+{
+    if (!request.isOpen())
+        request.open(QIODevice::ReadOnly | QIODevice::Unbuffered); // else there is nothing to read
+}
+
+void RequestSource::tellStop(std::optional<Stop> otherwise, const QString &fault)
+{
+    if (!observer)
+        return;
+    tell();
+    const bool endMark = at != text.cbegin() && isEndMark(at[-1]);
+    observer->stopped(stop ? *stop : otherwise.value_or(Stop::Fault),
+                      endMark ? QStringLiteral("a character that XML does not allow") : fault);
+}
+
+bool RequestSource::entityDeclared(const QString &name, const QString &value)
 {
     entities.try_emplace(name, Entity{value});
     for (auto &[_, entity] : entities)
         entity.expansion = Unknown;
+    expansion = expansionOf(QStringView(at, end));
+    return expansion <= MaxExpansion;
 }
 
-qint64 Entities::expansionOf(QStringView text)
+qint64 RequestSource::expansionOf(QStringView text)
 {
     const auto isSign = [](QChar c) { return c == u'&' || c == u'%'; };
     const auto endsName = [&](QChar c) { return c == u';' || isSign(c); };
@@ -54,32 +75,13 @@ qint64 Entities::expansionOf(QStringView text)
     return expansion;
 }
 
-qint64 Entities::expansionOf(Entity &entity)
+qint64 RequestSource::expansionOf(Entity &entity)
 {
     if (entity.expansion == Unknown) {
         entity.expansion = MaxExpansion + 1; // for one that holds itself
         entity.expansion = entity.value.size() + expansionOf(entity.value);
     }
     return entity.expansion;
-}
-
-RequestSource::RequestSource(QIODevice &request, Observer *observer)
-    : request(request)
-    , observer(observer)
-    , piece(PieceBytes, Qt::Uninitialized)
-{
-    if (!request.isOpen())
-        request.open(QIODevice::ReadOnly | QIODevice::Unbuffered); // else there is nothing to read
-}
-
-void RequestSource::tellStop(std::optional<Stop> otherwise, const QString &fault)
-{
-    if (!observer)
-        return;
-    tell();
-    const bool endMark = at != text.cbegin() && isEndMark(at[-1]);
-    observer->stopped(stop ? *stop : otherwise.value_or(Stop::Fault),
-                      endMark ? QStringLiteral("a character that XML does not allow") : fault);
 }
 
 QChar RequestSource::firstOfNextPiece()
@@ -92,7 +94,7 @@ QChar RequestSource::firstOfNextPiece()
             return QChar(EndOfDocument);
         decodePiece(QByteArrayView(piece).first(size));
         bytesRead += size;
-        expansion += entities.isEmpty() ? 0 : entities.expansionOf(text);
+        expansion += entities.empty() ? 0 : expansionOf(text);
         if (expansion > MaxExpansion) {
             stop = Stop::Expansion;
             ended = true;

@@ -13,30 +13,6 @@ class QIODevice;
 
 namespace requestreader {
 
-/// The entities that a document type declares.
-class Entities
-{
-public:
-    /// The name of a parameter entity begins with `%`. Of two declarations the first counts.
-    void declare(const QString &name, const QString &value);
-    bool isEmpty() const { return entities.empty(); }
-    /// The characters that the reader goes through for the references in `text`, and for those in
-    /// what they stand for; somewhere above MaxExpansion where it goes through more.
-    qint64 expansionOf(QStringView text);
-
-private:
-    static constexpr qint64 Unknown = -1;
-    struct Entity
-    {
-        QString value;
-        qint64 expansion = Unknown; // of what is declared so far
-    };
-
-    qint64 expansionOf(Entity &entity);
-
-    std::map<QString, Entity> entities;
-};
-
 /// Feeds the reader piece by piece, until the request ends or exceeds a limit. Pieces of 16 KiB,
 /// and the toolkit's decoder in place of a codec where the request is in UTF-8, make reading faster
 /// than the reader alone; any other encoding is left to the toolkit's own way. What the limits
@@ -58,13 +34,9 @@ public:
     }
 
     void setInDocumentType(bool isIn) { inDocumentType = isIn; }
-    /// False if what follows in the piece uses too much of the entities declared so far.
-    bool entityDeclared(const QString &name, const QString &value)
-    {
-        entities.declare(name, value);
-        expansion = entities.expansionOf(QStringView(at, end));
-        return expansion <= MaxExpansion;
-    }
+    /// The name of a parameter entity begins with `%`; of two declarations the first counts. False
+    /// if what follows in the piece uses too much of the entities declared so far.
+    bool entityDeclared(const QString &name, const QString &value);
     /// Of an element: its tag ends with the character taken last.
     void elementBegan()
     {
@@ -89,6 +61,18 @@ private:
     /// The reader takes two of Unicode's non-characters for its own marks.
     static bool isEndMark(QChar c) { return c.unicode() >= 0xFFFE; }
 
+    static constexpr qint64 Unknown = -1;
+    struct Entity
+    {
+        QString value;
+        qint64 expansion = Unknown; // of what is declared so far
+    };
+
+    /// The characters that the reader goes through for the references in `text`, and for those in
+    /// what they stand for; somewhere above MaxExpansion where it goes through more.
+    qint64 expansionOf(QStringView text);
+    qint64 expansionOf(Entity &entity);
+
     [[gnu::noinline]] QChar firstOfNextPiece();
     qint64 readPiece();
     bool exceedsLimits();
@@ -104,11 +88,11 @@ private:
     bool inDocumentType = false;
     bool elementSeen = false; // in the present piece
     qint64 bytesRead = 0;
-    qint64 documentTypeBytes = 0; // of the one being read
-    qsizetype attributes = 0;     // of the element being read, but for its first piece
-    Entities entities;
-    qint64 expansion = 0; // of what stands behind the last declaration of one
-    QString text;         // of the present piece
+    qint64 documentTypeBytes = 0;       // of the one being read
+    qsizetype attributes = 0;           // of the element being read, but for its first piece
+    std::map<QString, Entity> entities; // that the document type declares
+    qint64 expansion = 0;               // of what stands behind the last declaration of one
+    QString text;                       // of the present piece
     QString::const_iterator at = text.cbegin();
     QString::const_iterator end = text.cend();
     QString::const_iterator told = at; // up to here the observer knows it
