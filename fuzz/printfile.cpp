@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A print file of any bytes: its lines hold all of them, and its drawing commands no terminal.
-#include "fuzz/scratch.h"
+#include "fuzz/expect.h"
 #include "tools/preview/preview.h"
 
 #include <algorithm>
@@ -49,7 +49,7 @@ bool isControl(QChar c)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QByteArray file(reinterpret_cast<const char *>(data), qsizetype(size));
+    const QByteArray file = fuzz::content(data, size);
     expectAllBytes(file);
     const preview::TerminalDrawing drawing(nullptr, 0);
     preview::drawRows({file, nullptr, {}, {}}, 0, [&drawing](const preview::Row &row) {

@@ -3,7 +3,7 @@
 // for what the written form does not hold.
 #include "config/config.h"
 #include "config/configtree.h"
-#include "fuzz/scratch.h"
+#include "fuzz/expect.h"
 
 #include <QRegularExpression>
 
@@ -17,7 +17,7 @@ namespace {
 class Tree : public Config
 {
 public:
-    using Config::Config;
+    Tree(const QByteArray &content, const QString &form) { readContent(content, u"conf"_s, form); }
 
     /// What stands below the file element, whose name is the file's.
     QString content() const { return configTreeText().section(u'\n', 2); }
@@ -79,33 +79,24 @@ bool isXmlText(const Tree &tree)
     return !tree.hasSettingsOutsideGroups() && holds(tree, name, value);
 }
 
-void expectCfgBack(Tree &tree)
+/// Held against the tree without what is never written.
+void expectBack(Tree &tree, const QString &form)
 {
-    const QString path = fuzz::path(u"written"_s);
-    tree.buildConfigFile(path);
-    tree.prune(true);
-    fuzz::expectEqual(Tree(path, u"cfg"_s).content(), tree.content());
-}
-
-void expectXmlBack(Tree &tree)
-{
-    const QString path = fuzz::path(u"written"_s);
-    tree.buildConfigXmlFile(path);
-    tree.prune(false);
-    fuzz::expectEqual(Tree(path, u"xml"_s).content(), tree.content());
+    const Tree again(*tree.writtenAs(form), form);
+    tree.prune(form == "cfg"_L1);
+    fuzz::expectEqual(again.content(), tree.content());
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QString path = fuzz::write(u"conf"_s, data, size);
     for (const QString &form : {u"cfg"_s, u"xml"_s}) {
-        Tree tree(path, form);
+        Tree tree(fuzz::content(data, size), form);
         if (isXmlText(tree))
-            expectXmlBack(tree);
+            expectBack(tree, u"xml"_s);
         if (form == "cfg"_L1 || isCfgText(tree))
-            expectCfgBack(tree);
+            expectBack(tree, u"cfg"_s);
     }
     return 0;
 }
