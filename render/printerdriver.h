@@ -127,7 +127,6 @@ public:
     virtual void printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &atts);
     // In reports.cpp.
     virtual void printReport(const QString &qName, const QXmlAttributes &atts);
-    // In statements.cpp.
     virtual void printSold(const QString &qName, const QXmlAttributes &atts);
     virtual void printStatementOfAccount(const QString &qName, const QXmlAttributes &atts);
 

@@ -18,6 +18,16 @@ constexpr std::pair<const char *, QLatin1StringView> paymentRows[] = {
     {QT_TRANSLATE_NOOP("PrinterDriver", "Other: "), "other"_L1},
 };
 
+/// The types of movement that the suite sends, named here for the translators.
+[[maybe_unused]] constexpr const char *movementTypes[] = {
+    QT_TRANSLATE_NOOP("PrinterDriver", "Payment"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Receipt"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Invoice"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Credit note"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Opening balance"),
+    QT_TRANSLATE_NOOP("PrinterDriver", "Balance"),
+};
+
 /// A row of the tax-rate table; `afterRate` stands between its first two columns.
 QString taxRow(const QString &rate, QStringView afterRate, const QString &taxable,
                const QString &tax, const QString &amount)
@@ -180,4 +190,32 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &atts
         report.printInvoices();
     else if (qName == element::cancelledSummary)
         Report{*this, ownAttributes(atts), settings.paperWidth}.printCancelled();
+}
+
+void PrinterDriver::printSold(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts) || qName != element::receipe)
+        return;
+    setBold();
+    println(descriptionRow(valueOf(atts, "quantity"_L1), valueOf(atts, "description"_L1), {},
+                           valueOf(atts, "amount"_L1), u'.', u"qxdpt"_s));
+    setCharSize();
+}
+
+void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttributes &atts)
+{
+    if (printSections(qName, atts))
+        return;
+    const auto layout = u"date-amount-type"_s;
+    if (qName == element::statementList) {
+        setBold();
+        println(descriptionRow(tr("Date"), tr("Description", "statement of account"), tr("Amount"),
+                               {}, u' ', layout));
+        reset();
+    } else if (qName == element::statement) {
+        // The request sends the type of a movement as a source text of the translation.
+        const QByteArray type = valueOf(atts, "type"_L1).toUtf8();
+        println(descriptionRow(valueOf(atts, "date"_L1) + ": "_L1, tr(type.constData()),
+                               valueOf(atts, "amount"_L1), {}, u'.', layout));
+    }
 }
