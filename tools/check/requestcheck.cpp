@@ -132,8 +132,8 @@ int run(const tools::Call &call)
                                u"REQUEST..."_s);
     line.read(1, -1);
     const auto application = makeApplication(call.argc, call.argv);
-    tools::ConfigurationInUse configuration; // its labels have the lengths that they have on paper
-    const bool isConfigured = configuration.use(call, line.value(u"config"_s));
+    QTranslator labels; // which have the lengths that they have on paper
+    const bool isConfigured = tools::useConfiguration(call, line.value(u"config"_s), labels);
     return checkFiles(call, tools::requestFiles(call, line.positionalArguments()), line,
                       isConfigured);
 }

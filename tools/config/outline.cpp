@@ -25,17 +25,6 @@ Place placeOf(const QXmlStreamReader &reader)
     return {reader.lineNumber(), reader.columnNumber() + (reader.isCharacters() ? 0 : 1)};
 }
 
-/// Adds the element that the reader stands at, and its attributes; answers the entry of its group.
-qsizetype addElement(Outline &outline, const QXmlStreamReader &reader, qsizetype parent, Place at)
-{
-    const auto group = qsizetype(outline.entries.size());
-    outline.add(Entry::Kind::Group, parent, reader.qualifiedName().toString(), {at, {}});
-    for (const QXmlStreamAttribute &attribute : reader.attributes())
-        outline.add(Entry::Kind::Setting, group, attribute.qualifiedName().toString(), {at, {}})
-            .value = attribute.value().toString();
-    return group;
-}
-
 /// Reads the XML form: a group per element, a setting per attribute.
 Outline readXmlOutline(const QByteArray &content)
 {
@@ -51,7 +40,11 @@ Outline readXmlOutline(const QByteArray &content)
         const Place at = placeOf(reader); // a token begins where the one before it ended
         reader.readNext();
         if (reader.isStartElement()) {
-            open = addElement(outline, reader, open, at);
+            outline.add(Entry::Kind::Group, open, reader.qualifiedName().toString(), {at, {}});
+            open = qsizetype(outline.entries.size()) - 1;
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                outline.add(Entry::Kind::Setting, open, attribute.qualifiedName().toString(),
+                            {at, {}}, attribute.value().toString());
             if (++depth > MaxDepth)
                 reader.raiseError(Finding::tr("groups nest more than %1 deep").arg(MaxDepth));
         } else if (reader.isEndElement()) {
@@ -327,11 +320,12 @@ QString shown(std::string_view text)
     return excerpt(QString::fromLatin1(QByteArrayView(withoutBlanks(text))));
 }
 
-Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, const Range &at)
+Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, const Range &at,
+                    const QString &value)
 {
     if (parent >= 0)
         entries[size_t(parent)].hasMember = true;
-    return entries.emplace_back(Entry{kind, parent, name, {}, at, at});
+    return entries.emplace_back(Entry{kind, parent, name, value, at, at});
 }
 
 qsizetype Outline::topGroup() const

@@ -64,7 +64,8 @@ struct Outline
     bool keepsEmptyGroups = false; ///< the store keeps groups without members
 
     /// Adds an entry to its parent, -1 for the file, which comes first.
-    Entry &add(Entry::Kind kind, qsizetype parent, const QString &name = {}, const Range &at = {});
+    Entry &add(Entry::Kind kind, qsizetype parent, const QString &name = {}, const Range &at = {},
+               const QString &value = {});
     /// Whether the store keeps an entry.
     bool keeps(const Entry &entry) const
     {

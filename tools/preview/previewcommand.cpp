@@ -159,7 +159,7 @@ private:
     Document documentOf(const Input &input)
     {
         if (input.isRequest && !std::exchange(isConfigured, true)
-            && !configuration.use(call, first))
+            && !tools::useConfiguration(call, first, labels))
             tools::tellTrouble(
                 call, nameOfFirst(),
                 u"no such file: every setting has its default; `zentaro config init` writes one"_s);
@@ -199,7 +199,7 @@ private:
     /// Renders the requests with the second configuration too, and shows those that change.
     void compare()
     {
-        configuration.use(call, second);
+        tools::useConfiguration(call, second, labels);
         int changes = 0;
         for (const auto &[request, before] : compared) {
             const Document after = documentOf(request);
@@ -247,7 +247,7 @@ private:
     QTextCodec *codec = text::localeCodec(); // of print files; null: UTF-8
     int columns = 0;                         // of the paper; 0: not said
     PictureOptions picture;
-    tools::ConfigurationInUse configuration;
+    QTranslator labels;
     bool isConfigured = false;                        // print files need no configuration
     int status = tools::Fine;                         // so far
     std::vector<std::pair<Input, Document>> compared; // with the first configuration

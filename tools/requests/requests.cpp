@@ -91,9 +91,7 @@ void addConfigurationOption(CommandLine &line)
          u"FILE"_s});
 }
 
-ConfigurationInUse::~ConfigurationInUse() { QCoreApplication::removeTranslator(&translator); }
-
-bool ConfigurationInUse::use(const Call &call, const QString &fileName)
+bool useConfiguration(const Call &call, const QString &fileName, QTranslator &labels)
 {
     const bool isOwn = fileName.isEmpty();
     const QString path = isOwn ? ZTConfiguration::userFile() : fileName;
@@ -107,9 +105,9 @@ bool ConfigurationInUse::use(const Call &call, const QString &fileName)
         configuration->readContent(content, path, format);
     if (hasError(configtool::findingsIn(configtool::readOutline(content, format))))
         tellTrouble(call, path, u"it has faults, which `zentaro config check` tells"_s);
-    QCoreApplication::removeTranslator(&translator);
-    if (loadTranslation(translator, *configuration))
-        QCoreApplication::installTranslator(&translator);
+    QCoreApplication::removeTranslator(&labels);
+    if (loadTranslation(labels, *configuration))
+        QCoreApplication::installTranslator(&labels);
     return isThere;
 }
 

@@ -31,19 +31,10 @@ std::unique_ptr<QFile> openedRequest(const Call &call, const QString &name);
 /// `--config`.
 void addConfigurationOption(CommandLine &line);
 
-/// The process's configuration, and the translation of the labels that it names: what a command
-/// prints requests with. It needs an application object, and there is one of it at a time.
-class ConfigurationInUse
-{
-public:
-    ~ConfigurationInUse();
-    /// Uses a file, cfg or xml by its name; for an empty name the user's own, as the print run
-    /// reads it, and where there is none, which answers false, a configuration without settings.
-    /// Faults in it are told; a file that cannot be read ends the command.
-    bool use(const Call &call, const QString &fileName);
-
-private:
-    QTranslator translator;
-};
+/// Makes a file, cfg or xml by its name, the process's configuration, and `labels` the translation
+/// that it names; for an empty name the user's own, as the print run reads it, and where there is
+/// none, which answers false, a configuration without settings. Faults in it are told; a file that
+/// cannot be read ends the command. It needs an application object.
+bool useConfiguration(const Call &call, const QString &fileName, QTranslator &labels);
 
 } // namespace tools
