@@ -176,11 +176,11 @@ void CheckingDevice::checkElement()
     const bool isKnown = isElement(elementName);
     if (open.size() == 1 && !isKnown) // the root
         return;
-    const QString meant = element::method.toString();
+    const QStringList methodOnly{element::method.toString()};
     tellUnlessGroup("before-method",
                     u"%1 stands before the `method` element and prints nothing"_s.arg(
                         tools::excerpt(elementName)),
-                    isKnown ? QString() : tools::nearest(elementName, {&meant, 1}));
+                    isKnown ? QString() : tools::nearest(elementName, methodOnly));
 }
 
 /// An element of a name that nobody knows, without attributes, may group others.
@@ -195,8 +195,8 @@ void CheckingDevice::tellUnlessGroup(Code code, const QString &text, const QStri
 /// the same role in it. Empty where nothing is near.
 QString CheckingDevice::meantElement() const
 {
-    std::vector<QString> names(knownElements.begin(), knownElements.end());
-    std::vector<QString> meant = names;
+    QStringList names = knownElements;
+    QStringList meant = knownElements;
     for (const ElementRow &other : elementRows()) {
         const QString same = elementWith(other.role, method);
         if (other.role != Role::Other && !same.isEmpty()) {
@@ -204,11 +204,11 @@ QString CheckingDevice::meantElement() const
             meant.push_back(same);
         }
     }
-    const auto found = std::ranges::find(names, tools::nearest(elementName, names)) - names.begin();
+    const qsizetype found = names.indexOf(tools::nearest(elementName, names));
     const bool isRead = found < knownElements.size();
-    if (size_t(found) == names.size() || (isRead && isElement(elementName)))
+    if (found < 0 || (isRead && isElement(elementName)))
         return {}; // an element of another document is none that is misspelt
-    return meant[size_t(found)];
+    return meant[found];
 }
 
 void CheckingDevice::checkUnknownElement()
@@ -280,14 +280,13 @@ void CheckingDevice::tellUnread(int position)
     const Code code = "unknown-attribute";
     if (findings.isFull(code.name))
         return tell(code, {}, at);
-    std::vector<QString> names;
+    QStringList names;
     for (const AttributeUse &use : row->attributes)
         names.push_back(use.name);
     const QString meant = tools::nearest(name, names);
     QString text = u"`%1` does not read %2"_s.arg(elementName, tools::excerpt(name));
     if (meant.isEmpty())
-        text += names.empty() ? u", nor any other"_s
-                              : ", but "_L1 + someOf({names.begin(), names.end()});
+        text += names.empty() ? u", nor any other"_s : ", but "_L1 + someOf(names);
     tell(code, text, at, meant);
 }
 

@@ -90,15 +90,23 @@ private:
         if (following == SectionStart && line.end == LineEnd::LineFeed)
             return;
         const bool opensFiscal = following == Fiscal || following == FiscalEnd;
-        if (opensFiscal || line.kind == SectionStart) {
+        const bool opens = opensFiscal || line.kind == SectionStart;
+        if (opens)
             tearOff();
-            locate(offset);
+        // What is known of the place in the file:
+        const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
+        const bool isKnown = origin != document.origins.end();
+        requestLine = isKnown ? origin->requestLine : 0;
+        width = std::clamp(columns > 0 ? columns
+                           : isKnown   ? origin->paperWidth
+                                       : DevicePaperWidth,
+                           1, MostPaperWidth);
+        if (opens) {
             section = opensFiscal ? Section::Fiscal : Section::Listing;
             add(Row::Kind::TopEdge, opensFiscal ? u""_s : u"j"_s,
                 joined({opensFiscal ? u"fiscal"_s : QString(), faultOfEnd(line)}));
             return;
         }
-        locate(offset);
         if (line.kind != SectionEnd && line.kind != FiscalEnd)
             return print(line);
         const auto opened = line.kind == FiscalEnd ? Section::Fiscal : Section::Listing;
@@ -108,18 +116,6 @@ private:
         add(Row::Kind::BottomEdge, line.kind == FiscalEnd ? u"1T"_s : u"J"_s,
             joined({closed == opened ? QString() : u"closes what was not opened"_s,
                     faultOfEnd(line)}));
-    }
-
-    /// Looks up what is known of the place in the file.
-    void locate(qsizetype offset)
-    {
-        const auto origin = std::ranges::upper_bound(document.origins, offset, {}, &Origin::end);
-        const bool isKnown = origin != document.origins.end();
-        requestLine = isKnown ? origin->requestLine : 0;
-        width = std::clamp(columns > 0 ? columns
-                           : isKnown   ? origin->paperWidth
-                                       : DevicePaperWidth,
-                           1, MostPaperWidth);
     }
 
     /// Ends the paper where a section is not closed.
