@@ -182,6 +182,12 @@ public:
         return stream->status() == QTextStream::Ok && file->error() == QFile::NoError;
     }
 
+    QByteArray written()
+    {
+        file->seek(0);
+        return file->readAll();
+    }
+
     std::vector<Origin> origins;
     requestcheck::TagPlaces places; ///< follows the same reading
 
@@ -277,30 +283,25 @@ Document render(const QByteArray &request, bool traceElements)
 {
     Document document;
     document.codec = text::localeCodec();
-    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
     auto printFile = std::make_unique<text::LocaleFile>();
     printFile->limitTo(MostBytes);
-    QFile written;
-    if (!written.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)
-        || !printFile->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    if (!printFile->open(memfd_create("print file", MFD_CLOEXEC),
+                         QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
         document.fault = u"there is no memory for the print file"_s;
         return document;
     }
-    {
-        TracingDevice device(std::move(printFile), traceElements);
-        QBuffer source;
-        source.setData(request);
-        requestreader::read(source, device, &device.places);
-        device.noteOrigin();
-        if (!device.isWritten())
-            document.fault = u"more than %1 bytes would be printed"_s.arg(MostBytes);
-        else if (device.places.stop)
-            document.fault =
-                u"line %1: the print run stops reading here"_s.arg(device.places.last().line);
-        document.origins = std::move(device.origins);
-    }
-    written.seek(0);
-    document.printFile = written.readAll();
+    TracingDevice device(std::move(printFile), traceElements);
+    QBuffer source;
+    source.setData(request);
+    requestreader::read(source, device, &device.places);
+    device.noteOrigin();
+    if (!device.isWritten())
+        document.fault = u"more than %1 bytes would be printed"_s.arg(MostBytes);
+    else if (device.places.stop)
+        document.fault =
+            u"line %1: the print run stops reading here"_s.arg(device.places.last().line);
+    document.origins = std::move(device.origins);
+    document.printFile = device.written();
     return document;
 }
 
