@@ -16,6 +16,7 @@
 #include <cwchar>
 #include <locale.h>
 #include <sys/mman.h>
+#include <unistd.h>
 #include <utility>
 
 namespace preview {
@@ -182,10 +183,12 @@ public:
         return stream->status() == QTextStream::Ok && file->error() == QFile::NoError;
     }
 
-    QByteArray written()
+    /// The print file; read past the file object, which would forget why it is not whole.
+    QByteArray written() const
     {
-        file->seek(0);
-        return file->readAll();
+        QByteArray bytes(qsizetype(file->size()), Qt::Uninitialized);
+        const ssize_t size = pread(file->handle(), bytes.data(), size_t(bytes.size()), 0);
+        return bytes.first(std::max<ssize_t>(size, 0));
     }
 
     std::vector<Origin> origins;
@@ -286,7 +289,7 @@ Document render(const QByteArray &request, bool traceElements)
     auto printFile = std::make_unique<text::LocaleFile>();
     printFile->limitTo(MostBytes);
     if (!printFile->open(memfd_create("print file", MFD_CLOEXEC),
-                         QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
+                         QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
         document.fault = u"there is no memory for the print file"_s;
         return document;
     }
