@@ -77,6 +77,7 @@ Outcome run(const QString &program, const QStringList &words, const Home &home,
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, home.path());
+    environment.insert(u"ZENTARO_CONFIG_FOLDER"_s, home.path(u"etc"_s)); // never the machine's
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     for (const QString &variable : variables)
         environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));

@@ -56,8 +56,8 @@ struct Outcome
     QByteArray errors;
 };
 
-/// Runs a program with `HOME` at `home`, in a UTF-8 locale unless `variables` ("NAME=value") say
-/// another.
+/// Runs a program with `HOME` and the folder of the queues' settings at `home`, in a UTF-8 locale,
+/// unless `variables` ("NAME=value") say another.
 Outcome run(const QString &program, const QStringList &words, const Home &home,
             const QStringList &variables = {});
 
