@@ -144,7 +144,7 @@ TEST_F(Editor, ChangesAddsRemovesUndoesAndSaves)
 TEST_F(Editor, ForgetsAnItemThatIsNotEntered)
 {
     open(small);
-    for (const Qt::Key last : {Qt::Key_Escape, Qt::Key_Return}) {
+    for (const Qt::Key last : {Qt::Key_Return, Qt::Key_Escape}) {
         const bool isRefused = last == Qt::Key_Escape;
         choose(u"Add Setting"_s, u"doc"_s, isRefused ? u"nothing"_s : u""_s, last);
         EXPECT_EQ(item(u"doc"_s)->childCount(), 2);
