@@ -291,11 +291,4 @@ void ConfigEditor::showFinding(int row)
         tree->showItem(item);
 }
 
-void ConfigEditor::currentChanged()
-{
-    setting->showCurrent();
-    if (const QTreeWidgetItem *const item = tree->currentItem())
-        paper->follow(libconfig::isGroupItem(*item) ? item->text(0) : item->parent()->text(0));
-}
-
 } // namespace configtool

@@ -54,7 +54,6 @@ private:
     bool confirmLeaving();
     bool confirmSaving(const Source &target);
     void nameFile(const Source &file);
-    void currentChanged();
     void showFinding(int row);
 
     Source source;

@@ -36,13 +36,17 @@ ConfigEditor::ConfigEditor()
         connect(&tree->changes, &QUndoStack::indexChanged, timer, qOverload<>(&QTimer::start));
     connect(&tree->changes, &QUndoStack::cleanChanged, this,
             [this](bool clean) { setWindowModified(!clean); });
-    connect(tree, &QTreeWidget::currentItemChanged, this, &ConfigEditor::currentChanged);
+    connect(tree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        setting->showCurrent();
+        if (item)
+            paper->follow((libconfig::isGroupItem(*item) ? item : item->parent())->text(0));
+    });
     connect(tree, &QTreeWidget::itemActivated, setting, &SettingPane::focusEditor);
     connect(searchLine, &QLineEdit::textChanged, tree, &ConfigTree::showMatching);
     connect(searchLine, &QLineEdit::returnPressed, tree, qOverload<>(&QWidget::setFocus));
     connect(findings, &QListWidget::currentRowChanged, this, &ConfigEditor::showFinding);
-    connect(findings, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem *row) { showFinding(findings->row(row)); });
+    connect(findings, &QListWidget::clicked, this,
+            [this](const QModelIndex &row) { showFinding(row.row()); });
 }
 
 void ConfigEditor::buildWindow()

@@ -114,8 +114,6 @@ PaperPane::PaperPane(ConfigTree &tree)
     chooseDocument();
 }
 
-PaperPane::~PaperPane() { SyncSingleton<ZTConfiguration>::instance_pointer = nullptr; }
-
 /// The samples, in the order of the methods.
 void PaperPane::addSamples()
 {
@@ -220,6 +218,7 @@ std::vector<preview::Row> PaperPane::printed()
             QCoreApplication::installTranslator(&labels);
     }
     const preview::Document document = preview::render(request, false);
+    SyncSingleton<ZTConfiguration>::instance_pointer = nullptr;
     remark->setText(document.fault);
     return preview::rowsOf(document, 0, preview::MostRows);
 }

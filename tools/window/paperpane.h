@@ -27,8 +27,6 @@ class PaperPane : public QWidget
 public:
     /// The tree is borrowed.
     explicit PaperPane(ConfigTree &tree);
-    Q_DISABLE_COPY_MOVE(PaperPane)
-    ~PaperPane() override;
 
     /// Draws the document anew, with the rows marked for a moment that have changed.
     void draw();
