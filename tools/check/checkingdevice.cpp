@@ -240,32 +240,29 @@ void CheckingDevice::checkAttributes()
                                        elementName, currentMethod));
         return;
     }
-    if (row->isHidden(atts))
+    const bool isHidden = row->isHidden(atts);
+    const bool isRowOff = isOff(settings, row->onlyIf);
+    if (isHidden)
         tell("hidden-item", u"an item whose name begins with `=` is not printed"_s,
              placeOf("name"_L1));
     else
         seenRoles.insert(row->role);
-    if (isOff(settings, row->onlyIf))
+    if (isRowOff)
         tellSwitchedOff(row->onlyIf, elementName, places.tag());
-    for (int i = 0; i < atts.count(); ++i)
-        checkAttribute(i);
-    if (!isOff(settings, row->onlyIf) && !row->isHidden(atts))
+    for (int i = 0; i < atts.count(); ++i) {
+        const Fate fate = fateOf(*row, atts, i, settings);
+        const AttributeUse *const use = row->find(atts.qName(i));
+        if (fate == Fate::Unread)
+            tellUnread(i);
+        else if (fate == Fate::Printed && !isHidden)
+            checkValue(i, use);
+        else if (fate == Fate::SwitchedOff && use && !isRowOff && !atts.value(i).isEmpty())
+            tellSwitchedOff(use->onlyIf, use->name, places.attribute(i));
+    }
+    if (!isRowOff && !isHidden)
         checkMissing();
     if (row->rest == Rest::Triples)
         checkTriples();
-}
-
-void CheckingDevice::checkAttribute(int position)
-{
-    const Fate fate = fateOf(*row, atts, position, settings);
-    const AttributeUse *const use = row->find(atts.qName(position));
-    if (fate == Fate::Unread)
-        tellUnread(position);
-    else if (fate == Fate::Printed && !row->isHidden(atts))
-        checkValue(position);
-    else if (fate == Fate::SwitchedOff && use && !isOff(settings, row->onlyIf)
-             && !atts.value(position).isEmpty())
-        tellSwitchedOff(use->onlyIf, use->name, places.attribute(position));
 }
 
 void CheckingDevice::tellUnread(int position)

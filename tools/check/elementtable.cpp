@@ -338,7 +338,7 @@ Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
     const bool isInOrder =
         row.rest == Rest::InOrder || (row.rest == Rest::Triples && position >= FirstOfTriples);
     if (!isNamed && !isInOrder)
-        return row.rest == Rest::Ignored ? Fate::Kept : Fate::Unread;
+        return Fate::Unread;
     if (isNamed && !use->isPrinted)
         return Fate::Kept;
     return isOff(settings, row.onlyIf) || (isNamed && isOff(settings, use->onlyIf))

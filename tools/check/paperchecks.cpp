@@ -43,7 +43,7 @@ char32_t firstOf(const preview::Cells &characters, auto &&is)
 
 // What the value of an attribute does to the line that it is printed in.
 
-void CheckingDevice::checkValue(int position)
+void CheckingDevice::checkValue(int position, const AttributeUse *use)
 {
     const QString value = atts.value(position);
     const auto *const control =
@@ -58,7 +58,7 @@ void CheckingDevice::checkValue(int position)
         tellValue("end-mark", position, u"`\"@` in %1 ends the printed line early"_s);
     if (std::ranges::any_of(value, [](QChar c) { return c.unicode() >= 0x80; }))
         checkEncoding(position);
-    if (const AttributeUse *const use = row->find(atts.qName(position)))
+    if (use)
         checkMeaning(position, *use);
 }
 

@@ -119,13 +119,12 @@ private:
     void checkComplete();
     // The attributes against the table.
     void checkAttributes();
-    void checkAttribute(int position);
     void tellUnread(int position);
     void tellSwitchedOff(bool DocumentSettings::*aSwitch, const QString &what, const Range &at);
     void checkMissing();
     void checkTriples();
     // The value of a printed attribute.
-    void checkValue(int position);
+    void checkValue(int position, const AttributeUse *use);
     void checkEncoding(int position);
     void checkMeaning(int position, const AttributeUse &use);
     // The paper.
