@@ -2,7 +2,6 @@
 #include "tools/check/requestcheck.h"
 
 #include "render/vocabulary.h"
-#include "tools/terminal.h"
 
 #include <QTextCodec>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/check/elementtable.h"
 
-#include "render/settings.h"
 #include "render/vocabulary.h"
 #include "tools/terminal.h"
 

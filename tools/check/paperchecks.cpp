@@ -4,7 +4,6 @@
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
 #include "tools/preview/preview.h"
-#include "tools/terminal.h"
 
 #include <QTextCodec>
 

@@ -3,10 +3,8 @@
 
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
-#include "render/requestreader.h"
 #include "tools/command.h"
 #include "tools/requests/requests.h"
-#include "tools/terminal.h"
 
 namespace requestcheck {
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/preview.h"
 
-#include <QStringList>
-
-#include <algorithm>
 #include <utility>
 
 namespace preview {

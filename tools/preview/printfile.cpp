@@ -8,10 +8,8 @@
 #include "tools/check/tagplaces.h"
 
 #include <QBuffer>
-#include <QList>
 #include <QTextCodec>
 
-#include <algorithm>
 #include <array>
 #include <cwchar>
 #include <locale.h>

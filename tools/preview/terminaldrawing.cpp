@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/preview/preview.h"
 
-#include <QStringList>
 #include <QTextCodec>
 
-#include <algorithm>
 #include <array>
 #include <span>
 
