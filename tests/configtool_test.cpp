@@ -2,7 +2,6 @@
 #include "config/config.h"
 #include "tests/configfiles.h"
 #include "tools/config/outline.h"
-#include "tools/config/settingcheck.h"
 #include "tools/knownkeys.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/config/settingcheck.h"
+#include "tools/config/outline.h"
 
 #include "config/cfgscanner.h"
 

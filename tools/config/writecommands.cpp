@@ -2,7 +2,7 @@
 #include "tools/config/configcommand.h"
 
 #include "app/ztconfiguration.h"
-#include "tools/config/settingcheck.h"
+#include "tools/config/outline.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"
 

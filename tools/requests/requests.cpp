@@ -6,7 +6,7 @@
 #include "app/ztconfiguration.h"
 #include "text/standardoutput.h"
 #include "tools/config/configcommand.h"
-#include "tools/config/settingcheck.h"
+#include "tools/config/outline.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

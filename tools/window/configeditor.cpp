@@ -3,7 +3,7 @@
 
 #include "config/configviews.h"
 #include "text/localeencoding.h"
-#include "tools/config/settingcheck.h"
+#include "tools/config/outline.h"
 #include "tools/window/settingpane.h"
 
 #include <QCloseEvent>
