@@ -124,11 +124,14 @@ TEST_F(Editor, ChangesAddsRemovesUndoesAndSaves)
     choose(u"Remove"_s);
     EXPECT_EQ(item(u"zentaro"_s)->childCount(), 1);
     choose(u"Undo"_s);
+    choose(u"Remove"_s, u"paperWidth = 32"_s);
+    EXPECT_EQ(tree->currentItem(), item(u"printDate = false"_s)); // not the group, to go next
+    choose(u"Undo"_s);
     EXPECT_EQ(saved(), all);
     choose(5, u"Undo"_s);
     EXPECT_EQ(saved(), small);
     choose(6, u"Redo"_s);
-    EXPECT_EQ(item(u"db"_s)->childCount(), 0);
+    EXPECT_EQ(item(u"doc"_s)->childCount(), 2);
     EXPECT_EQ(asked, u"");
 
     open("zentaro : { doc : { a = 1; b = 1; c = 1; d = 1; e = 1; f = 1; g = 1; h = 1; }; };");

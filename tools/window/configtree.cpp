@@ -118,7 +118,10 @@ private:
             }
         }
         std::ranges::reverse(steps); // the other way round next time
-        tree.showItem(shown ? shown : first.outside ? first.parent : first.item);
+        QTreeWidgetItem *changed = first.item;
+        if (first.outside) // what stands in its place now, or the group where nothing is left
+            changed = first.parent->child(qMin(first.index, first.parent->childCount() - 1));
+        tree.showItem(shown ? shown : changed ? changed : first.parent);
     }
 
     ConfigTree &tree;
