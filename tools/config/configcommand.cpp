@@ -62,13 +62,15 @@ QByteArray contentOf(const Call &call, const Source &source)
     QFile file(source.path);
     QByteArray content =
         file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
-    if (isMissing(source.path))
-        throw Ended{tellTrouble(call, source.path,
-                                file.errorString() + "; `zentaro config init` writes one"_L1)};
+    QString trouble;
     if (file.error() != QFile::NoError)
-        throw Ended{tellTrouble(call, source.path, file.errorString())};
-    if (content.size() > libconfig::CfgScanner::MaxBytes)
-        throw Ended{tellTrouble(call, source.path, u"more than 64 MiB, which nothing reads"_s)};
+        trouble = file.errorString();
+    else if (content.size() > MaxContentBytes)
+        trouble = u"more than 64 MiB, which nothing reads"_s;
+    if (isMissing(source.path))
+        trouble += "; `zentaro config init` writes one"_L1;
+    if (!trouble.isEmpty())
+        throw Ended{tellTrouble(call, source.path, trouble)};
     return content;
 }
 
