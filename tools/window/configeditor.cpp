@@ -3,15 +3,12 @@
 
 #include "config/configviews.h"
 #include "text/localeencoding.h"
-#include "tools/config/outline.h"
 #include "tools/window/settingpane.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QSignalBlocker>
 #include <QStatusBar>
 
 #include <algorithm>

@@ -6,7 +6,6 @@
 
 #include <QMainWindow>
 #include <QMessageBox>
-#include <QTimer>
 
 class QLabel;
 class QLineEdit;

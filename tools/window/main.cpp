@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tools/command.h"
-#include "tools/config/configcommand.h"
 #include "tools/terminal.h"
 #include "tools/window/configeditor.h"
 #include "tools/window/sheetpainter.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLibraryInfo>
-#include <QTranslator>
 
-#include <cstdlib>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;

@@ -11,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QListView>

@@ -9,7 +9,6 @@
 #include <QTimer>
 #include <QTranslator>
 
-#include <memory>
 #include <optional>
 
 class QComboBox;
