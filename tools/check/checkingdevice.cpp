@@ -107,8 +107,8 @@ void CheckingDevice::checkDeclaration()
     if (!text.starts_with(u"<?xml") || quote == text.npos || quote > text.find(u"?>"))
         return;
     const QStringView before = QStringView(head).first(qsizetype(quote) + 1);
-    const auto end = qsizetype(text.find_first_of(u"\"'", quote + 1));
-    const QString name = head.sliced(before.size(), end - before.size());
+    const size_t end = std::min(text.find_first_of(u"\"'", quote + 1), text.size()); // of the head
+    const QString name = head.sliced(before.size(), qsizetype(end) - before.size());
     if (name.startsWith("utf"_L1, Qt::CaseInsensitive))
         return;
     requestCodec = QTextCodec::codecForName(name.toLatin1());
