@@ -54,19 +54,9 @@ QString lossOf(const QString &text, bool isName, bool isXml)
     return *read == text ? QString() : worded(Finding::tr("it is read back as %1"), *read);
 }
 
-class LossFinder
+struct LossFinder
 {
-    Q_DECLARE_TR_FUNCTIONS(Finding)
-
-public:
-    LossFinder(const Outline &outline, bool isXml)
-        : outline(outline)
-        , isXml(isXml)
-    {
-    }
     std::vector<Finding> find();
-
-private:
     void checkEntry(qsizetype index);
     template <typename... Arguments>
     void tell(QLatin1StringView code, qsizetype subject, const QString &words,
@@ -78,8 +68,10 @@ private:
 
     const Outline &outline;
     const bool isXml;
-    std::vector<Finding> findings;
-    QHash<std::pair<qsizetype, QString>, qsizetype> settings; // the last of each name
+    std::vector<Finding> findings = {};
+    QHash<std::pair<qsizetype, QString>, qsizetype> settings = {}; // the last of each name
+
+    Q_DECLARE_TR_FUNCTIONS(Finding)
 };
 
 std::vector<Finding> LossFinder::find()
@@ -135,7 +127,7 @@ void LossFinder::checkEntry(qsizetype index)
 
 std::vector<Finding> lossesInFormat(const Outline &outline, const QString &format)
 {
-    return LossFinder(outline, format == "xml"_L1).find();
+    return LossFinder{outline, format == "xml"_L1}.find();
 }
 
 } // namespace configtool
