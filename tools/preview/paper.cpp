@@ -9,6 +9,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The cells as a terminal takes them: numbers for what does not fill one column.
+QString escaped(CellsView cells)
+{
+    QString text;
+    for (const char32_t c : cells)
+        text += fillsOneColumn(c) ? textOf({&c, 1}) : numberOf(c);
+    return text;
+}
+
 QString faultOfEnd(const PrintLine &line)
 {
     if (line.end == LineEnd::Missing)

@@ -107,9 +107,6 @@ struct PrintLine
 /// UTF-8.
 PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec);
 
-/// The cells as a terminal takes them: numbers for what does not fill one column.
-QString escaped(CellsView cells);
-
 /// Where a stretch of a print file comes from.
 struct Origin
 {

@@ -247,14 +247,6 @@ QString numberOf(char32_t c)
     return "U+"_L1 + QString::number(c, 16).toUpper().rightJustified(4, u'0');
 }
 
-QString escaped(CellsView cells)
-{
-    QString text;
-    for (const char32_t c : cells)
-        text += fillsOneColumn(c) ? textOf({&c, 1}) : numberOf(c);
-    return text;
-}
-
 PrintLine lineAt(QByteArrayView file, qsizetype offset, QTextCodec *codec)
 {
     PrintLine line;
