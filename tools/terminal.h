@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QFileDevice>
 
 #include <compare>
 #include <map>
@@ -18,6 +19,9 @@ int printOut(const QString &text);
 int printBytes(const QByteArray &bytes);
 /// Writes to standard error.
 void printError(const QString &text);
+
+/// Why the last operation on the file failed, in the user's language where the system says it.
+QString reasonOf(const QFileDevice &file);
 
 /// The text in one line: line ends, tabs and other control characters as `\n`, `\t`, `\x1b`.
 QString inOneLine(const QString &text);

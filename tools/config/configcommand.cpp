@@ -64,7 +64,7 @@ QByteArray contentOf(const Call &call, const Source &source)
         file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
     QString trouble;
     if (file.error() != QFile::NoError)
-        trouble = file.errorString();
+        trouble = reasonOf(file);
     else if (content.size() > MaxContentBytes)
         trouble = u"more than 64 MiB, which nothing reads"_s;
     if (isMissing(source.path))

@@ -140,7 +140,7 @@ private:
         if (bytes.size() > MostBytes)
             fault = u"it has more than %1 bytes"_s.arg(MostBytes);
         else if (file->error() != QFile::NoError)
-            fault = file->errorString();
+            fault = tools::reasonOf(*file);
         else if (isRequest(bytes))
             return Input{name, bytes, true};
         else if (annotates)

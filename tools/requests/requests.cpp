@@ -79,7 +79,7 @@ std::unique_ptr<QFile> openedRequest(const Call &call, const QString &name)
                                               : file->open(QIODevice::ReadOnly);
     if (opened)
         return file;
-    tellTrouble(call, name, file->errorString());
+    tellTrouble(call, name, reasonOf(*file));
     return nullptr;
 }
 
