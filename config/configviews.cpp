@@ -20,28 +20,27 @@ public:
         setHeaderLabel(u"ConfigurationFile"_s);
     }
     Q_DISABLE_COPY_MOVE(ConfigListView)
-    /// Leaf by leaf, outside the view: the toolkit deletes nested items by recursion.
+    /// The innermost first, outside the view: the toolkit deletes nested items by recursion.
     ~ConfigListView() override
     {
-        QTreeWidgetItem *item = nullptr;
-        while (item || (item = takeTopLevelItem(0))) {
-            QTreeWidgetItem *const parent = item->parent();
-            if (const int children = item->childCount()) {
-                item = item->child(children - 1);
-            } else {
-                delete (parent ? parent->takeChild(parent->childCount() - 1) : item);
-                item = parent;
-            }
+        const QList<QTreeWidgetItem *> files = invisibleRootItem()->takeChildren();
+        QList<QTreeWidgetItem *> items = files;
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            for (int child = 0; child < items[i]->childCount(); ++child)
+                items.append(items[i]->child(child));
         }
+        while (!items.isEmpty())
+            qDeleteAll(items.takeLast()->takeChildren());
+        qDeleteAll(files);
     }
 };
 
 /// A group's item that is being turned into an element.
-struct OpenItem
+struct OpenGroup
 {
     QTreeWidgetItem *item;
     QDomElement element;
-    int next = 0; ///< of the item's children
+    size_t parent; ///< its place among the groups
 };
 
 QTreeWidgetItem *newItem(ItemType type, const QString &text)
@@ -64,15 +63,14 @@ QString settingText(const QString &key, const QString &value) { return key + " =
 
 std::pair<QString, QString> settingOf(const QString &text)
 {
-    QString key = text.section(u'=', 0, 0);
-    QString value = text.section(u'=', 1);
+    const qsizetype equals = text.indexOf(u'=');
+    QStringView key = QStringView(text).left(equals); // all of it where there is none
     while (key.startsWith(u' '))
-        key.remove(0, 1);
+        key = key.sliced(1);
     while (key.endsWith(u' '))
         key.chop(1);
-    if (value.startsWith(u' '))
-        value.remove(0, 1);
-    return {key, value};
+    const QStringView value = QStringView(text).sliced(equals < 0 ? text.size() : equals + 1);
+    return {key.toString(), value.sliced(value.startsWith(u' ') ? 1 : 0).toString()};
 }
 
 QTreeWidgetItem *newGroupItem(const QString &name) { return newItem(GroupItem, name); }
@@ -161,24 +159,22 @@ void Config::loadListView(QTreeWidgetItem *item, QDomNode parent)
             addSetting(group, *item);
         return;
     }
+    QDomDocument owner = parent.ownerDocument();
+    std::vector<OpenGroup> groups{{item, ConfigTree::newElement(owner, item->text(0)), 0}};
+    for (size_t i = 0; i < groups.size(); ++i) {
+        for (int next = 0; next < groups[i].item->childCount(); ++next) {
+            QTreeWidgetItem *const child = groups[i].item->child(next);
+            if (isGroupItem(*child))
+                groups.push_back({child, ConfigTree::newElement(owner, child->text(0)), i});
+            else
+                addSetting(groups[i].element, *child);
+        }
+    }
     // A group joins the tree when it is complete: the toolkit walks up to the root of the tree for
     // every node and attribute that joins it.
-    QDomDocument owner = parent.ownerDocument();
-    std::vector<OpenItem> open{{item, ConfigTree::newElement(owner, item->text(0))}};
-    while (!open.empty()) {
-        OpenItem &group = open.back();
-        if (group.next == group.item->childCount()) {
-            const QDomElement complete = group.element;
-            open.pop_back();
-            (open.empty() ? parent : open.back().element).appendChild(complete);
-            continue;
-        }
-        QTreeWidgetItem *const child = group.item->child(group.next++);
-        if (isGroupItem(*child))
-            open.push_back({child, ConfigTree::newElement(owner, child->text(0))});
-        else
-            addSetting(group.element, *child);
-    }
+    for (size_t i = groups.size() - 1; i > 0; --i)
+        groups[groups[i].parent].element.insertBefore(groups[i].element, {}); // the first, so far
+    parent.appendChild(groups.front().element);
 }
 
 } // namespace libconfig

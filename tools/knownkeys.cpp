@@ -7,12 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The group of a type of document: its key prefix without the product's group and the last point.
-QLatin1StringView groupOf(const DocumentType &type)
-{
-    return type.keyPrefix.sliced(ProductGroup.size() + 1).chopped(1);
-}
-
 /// The bit, as in Setting::types, of the type of document whose settings the group holds; 0 for
 /// none.
 unsigned documentBit(QStringView group)

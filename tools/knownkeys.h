@@ -21,6 +21,11 @@ inline QString keyOf(const QString &group, const QString &word)
 
 /// The groups below it, in the order of a complete file.
 QStringList knownGroups();
+/// The group of a type of document: its key prefix without the product's group and the last point.
+inline QLatin1StringView groupOf(const DocumentType &type)
+{
+    return type.keyPrefix.sliced(ProductGroup.size() + 1).chopped(1);
+}
 /// Whether the group holds the settings of a type of document.
 bool isDocumentGroup(QStringView group);
 /// The settings of a group, in the order of a complete file; none for an unknown group.

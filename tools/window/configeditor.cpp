@@ -114,10 +114,8 @@ bool ConfigEditor::open(const Source &file)
     stored.readContent(content, file.path, file.format);
     const std::unique_ptr<QTreeWidget> view(stored.newConfigListView());
     std::unique_ptr<QTreeWidgetItem> item(view->takeTopLevelItem(0));
-    if (!item) {
-        item.reset(libconfig::newGroupItem(file.path));
-        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    }
+    if (!item)
+        item = std::make_unique<QTreeWidgetItem>(QStringList(file.path), libconfig::GroupItem);
     tree->take(std::move(item));
     nameFile(file);
     listFindings();
@@ -256,16 +254,16 @@ void ConfigEditor::listFindings()
     const QSignalBlocker silence(findings);
     findings->clear();
     subjects.clear();
-    const auto list = [&](const QString &text, Severity severity) {
+    const auto list = [&](const QString &text, Severity severity, QTreeWidgetItem *subject) {
         new QListWidgetItem(icons[severity == Severity::Error], text, findings);
+        subjects.append(subject);
     };
     for (const Finding &fault : asRead.faults)
         list(tr("In the file, line %1: %2").arg(fault.at.begin.line).arg(fault.text),
-             fault.severity);
-    for (const Finding &finding : tools::abridged(std::move(found))) {
-        list(finding.text, finding.severity);
-        subjects.push_back(finding.subject < 0 ? nullptr : listed.items[size_t(finding.subject)]);
-    }
+             fault.severity, nullptr);
+    for (const Finding &finding : tools::abridged(std::move(found)))
+        list(finding.text, finding.severity,
+             finding.subject < 0 ? nullptr : listed.items[size_t(finding.subject)]);
     findingsTitle->setText(count == 0 ? tr("Nothing wrong") : tr("Findings: %1").arg(count));
     tree->showMatching(searchLine->text());
 }
@@ -275,14 +273,11 @@ void ConfigEditor::showFinding(int row)
 {
     if (pause.isActive()) // the items may not be there any more
         listFindings();
-    const auto behind = row - qsizetype(asRead.faults.size());
-    QTreeWidgetItem *item = nullptr;
-    if (row >= 0 && behind < 0) { // it stands in or behind what it is about
+    QTreeWidgetItem *item = subjects.value(row);
+    if (row >= 0 && size_t(row) < asRead.faults.size()) { // it stands in or behind its subject
         const auto next = std::ranges::upper_bound(
             asRead.entries, placeOf(asRead.faults[size_t(row)]), {}, placeOf<Entry>);
         item = itemOf(asRead, next - asRead.entries.begin() - 1, tree->fileItem());
-    } else if (behind < qsizetype(subjects.size()) && row >= 0) {
-        item = subjects[size_t(behind)];
     }
     if (item)
         tree->showItem(item);

@@ -66,10 +66,9 @@ private:
     QLabel *const findingsTitle;
     QListWidget *const findings;
 
-    std::vector<QTreeWidgetItem *>
-        subjects;   ///< of the findings' rows behind the faults of the file
-    QTimer pause;   ///< after a change, before the findings are listed
-    QTimer drawing; ///< draws the paper when all of a change is there
+    QList<QTreeWidgetItem *> subjects; ///< of the rows of findings; null of the file's faults
+    QTimer pause;                      ///< after a change, before the findings are listed
+    QTimer drawing;                    ///< draws the paper when all of a change is there
 };
 
 } // namespace configtool

@@ -25,10 +25,8 @@ QStringList proposals(const QTreeWidgetItem &item)
     QStringList texts;
     for (const Setting *const setting : tools::settingsOf(item.parent()->text(0))) {
         const bool isSwitch = setting->kind == SettingKind::Switch;
-        for (const auto value : {"true"_L1, "false"_L1, ""_L1}) {
-            if (isSwitch != value.isEmpty())
-                texts << libconfig::settingText(setting->word, value);
-        }
+        for (const QString &value : isSwitch ? QStringList{u"true"_s, u"false"_s} : QStringList{{}})
+            texts << libconfig::settingText(setting->word, value);
     }
     return texts;
 }
@@ -41,12 +39,13 @@ QString nameOf(const QTreeWidgetItem &item)
 /// Adds an item and what is below it.
 void addTo(TreeOutline &result, QTreeWidgetItem *item, qsizetype parent)
 {
-    const bool isGroup = libconfig::isGroupItem(*item);
     const auto index = qsizetype(result.items.size());
-    Entry &entry = result.outline.add(isGroup ? Entry::Kind::Group : Entry::Kind::Setting, parent,
-                                      nameOf(*item));
-    if (!isGroup)
-        entry.value = libconfig::settingOf(item->text(0)).second;
+    if (libconfig::isGroupItem(*item)) {
+        result.outline.add(Entry::Kind::Group, parent, item->text(0));
+    } else {
+        const auto [key, value] = libconfig::settingOf(item->text(0));
+        result.outline.add(Entry::Kind::Setting, parent, key, {}, value);
+    }
     result.items.push_back(item);
     for (int i = 0; i < item->childCount(); ++i)
         addTo(result, item->child(i), index);

@@ -7,6 +7,7 @@
 #include "render/vocabulary.h"
 #include "text/standardoutput.h"
 #include "tools/check/elementtable.h"
+#include "tools/knownkeys.h"
 #include "tools/preview/preview.h"
 
 #include <QBoxLayout>
@@ -26,14 +27,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The group of the settings that a document method prints with; empty for none.
-QString groupOf(const DocumentMethod *method)
+/// The group of the settings that a document method prints with.
+QString groupOf(const DocumentMethod &method)
 {
-    const auto *const type = std::ranges::find_if(documentTypes, [method](const auto &row) {
-        return method && row.name == method->settingsType;
-    });
-    return type == std::end(documentTypes) ? QString()
-                                           : QString(type->keyPrefix).section(u'.', 1, 1);
+    return tools::groupOf(
+        *std::ranges::find(documentTypes, method.settingsType, &DocumentType::name));
 }
 
 /// The groups whose settings a request is printed with.
@@ -42,8 +40,10 @@ QStringList groupsOfRequest(const QByteArray &request)
     QStringList groups;
     QXmlStreamReader reader(request);
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element::method)
-            groups.append(groupOf(documentMethod(reader.attributes().value(u"name"_s))));
+        if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != element::method)
+            continue;
+        if (const auto *const method = documentMethod(reader.attributes().value(u"name"_s)))
+            groups.append(groupOf(*method));
     }
     groups.removeDuplicates();
     return groups;
@@ -158,8 +158,7 @@ QString PaperPane::openRequest(const QString &path)
 
 void PaperPane::follow(const QString &group)
 {
-    const auto method = std::ranges::find(documentMethods, group,
-                                          [](const DocumentMethod &row) { return groupOf(&row); });
+    const auto method = std::ranges::find(documentMethods, group, groupOf);
     if (documents->currentIndex() < int(documentMethods.size()) && !groups.contains(group)
         && method != documentMethods.end())
         documents->setCurrentIndex(int(method - documentMethods.begin()));

@@ -35,16 +35,14 @@ constexpr auto NoMemory = "there is no memory for the picture"_L1;
 class Picture
 {
 public:
-    /// As a page of its own a single sheet is as large as the paper.
+    /// `alone` is around the paper of a single sheet.
     Picture(std::span<const Sheet> sheets, const PictureOptions &options, int dpi,
-            bool isPage = false)
+            SheetPainter::Frame alone = SheetPainter::Frame::Notes)
         : perRow(options.inPairs ? 2 : 5)
         , columns(std::min(perRow, sheets.size()))
         , rows((sheets.size() + perRow - 1) / perRow)
     {
-        const auto frame = sheets.size() > 1 ? SheetPainter::Frame::Title
-                           : isPage          ? SheetPainter::Frame::Bare
-                                             : SheetPainter::Frame::Notes;
+        const auto frame = sheets.size() > 1 ? SheetPainter::Frame::Title : alone;
         const PaperSize paper{dpi, options.paper.widthMm};
         constexpr int TooHigh = 1'000'000'000; // and no higher, for the sum to remain a number
         painters.reserve(sheets.size());
@@ -187,7 +185,7 @@ QString writePdf(const std::vector<Sheet> &sheets, const PictureOptions &options
     QPainter painter;
     for (size_t i = 0; i < sheets.size(); i += perPage) {
         const auto row = std::span(sheets).subspan(i, std::min(perPage, sheets.size() - i));
-        const Picture picture(row, options, VectorDpi, true);
+        const Picture picture(row, options, VectorDpi, SheetPainter::Frame::Bare);
         if (QString fault = picture.faultOfPage(); !fault.isEmpty())
             return fault;
         writer.setPageSize(QPageSize(QSizeF(picture.size) / VectorDotsOfMm, QPageSize::Millimeter));

@@ -38,7 +38,7 @@ public:
     enum class Frame { Notes, Title, Bare };
 
     /// The sheet is borrowed. Sizes are pixels of the paper's dots per inch.
-    SheetPainter(const Sheet &sheet, const PaperSize &paper, Frame frame = Frame::Notes);
+    SheetPainter(const Sheet &sheet, const PaperSize &paper, Frame frame);
 
     QSize size() const;
     int cellWidth() const { return cell; }
