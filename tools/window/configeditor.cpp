@@ -207,30 +207,23 @@ bool ConfigEditor::confirmLeaving()
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
-void ConfigEditor::closeEvent(QCloseEvent *event)
-{
-    event->setAccepted(!tree->fileItem() || confirmLeaving());
-}
+void ConfigEditor::closeEvent(QCloseEvent *event) { event->setAccepted(confirmLeaving()); }
 
 void ConfigEditor::listFindings()
 {
     pause.stop();
     const TreeOutline listed = tree->outlineIn(source.format);
     std::vector<Finding> found;
+    const auto tell = [&found](Severity severity, QLatin1StringView code, const QString &text) {
+        found.push_back({severity, code, text, {}, 0}); // of the whole file
+    };
     if (const QString reason = whyUnwritable(source.path); !reason.isEmpty())
-        found.push_back(
-            {Severity::Error,
-             "unwritable"_L1,
-             tr("This file cannot be written: %1. “Save As” writes another.").arg(reason),
-             {},
-             0});
+        tell(Severity::Error, "unwritable"_L1,
+             tr("This file cannot be written: %1. “Save As” writes another.").arg(reason));
     if (tree->fileItem()->childCount() == 0)
-        found.push_back({Severity::Note,
-                         "empty"_L1,
-                         tr("There are no settings yet. “zentaro config init” writes a complete "
-                            "configuration to start from; or add a group “zentaro” first."),
-                         {},
-                         0});
+        tell(Severity::Note, "empty"_L1,
+             tr("There are no settings yet. “zentaro config init” writes a complete "
+                "configuration to start from; or add a group “zentaro” first."));
     std::ranges::move(findingsIn(listed.outline), std::back_inserter(found));
     for (Finding &loss : lossesInFormat(listed.outline, source.format)) {
         if (loss.code == "lost-group"_L1 || loss.code == "lost-duplicate"_L1)

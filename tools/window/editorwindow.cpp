@@ -78,9 +78,6 @@ void ConfigEditor::buildWindow()
     layout->addWidget(searchLine);
     layout->addWidget(columns, 1);
     setCentralWidget(center);
-    QToolBar *const bar = addToolBar(tr("Tools"));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     resize(1'040, 760);
 }
 
@@ -141,8 +138,10 @@ void ConfigEditor::buildMenus()
     add(menu, tr("Zoom &Out"), SP_ArrowDown, QKeySequence::ZoomOut,
         [this] { paper->zoomBy(1 / Step); });
 
-    findChild<QToolBar *>()->addActions(
-        {saving, undo, redo, ofItems[0], ofItems[1], ofItems.last()});
+    QToolBar *const bar = addToolBar(tr("Tools"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar->addActions({saving, undo, redo, ofItems[0], ofItems[1], ofItems.last()});
 }
 
 } // namespace configtool

@@ -175,10 +175,7 @@ void PaperPane::zoomBy(double factor)
 /// Makes a place for each row of the sheet.
 void PaperPane::layOut()
 {
-    const int present = places.rowCount();
-    const int wanted = int(sheet.rows.size());
-    places.insertRows(present, qMax(wanted - present, 0));
-    places.removeRows(wanted, qMax(present - wanted, 0));
+    places.setRowCount(int(sheet.rows.size()));
     painter.emplace(sheet, paper, preview::SheetPainter::Frame::Bare);
     view->setGridSize({painter->size().width(), 2 * painter->cellWidth()});
     view->viewport()->update();

@@ -5,7 +5,7 @@
 #include "tools/window/configtree.h"
 #include "tools/window/sheetpainter.h"
 
-#include <QStringListModel>
+#include <QStandardItemModel>
 #include <QTimer>
 #include <QTranslator>
 
@@ -61,7 +61,7 @@ private:
     preview::Sheet sheet;
     preview::PaperSize paper{128, 80};
     std::optional<preview::SheetPainter> painter; // of the sheet
-    QStringListModel places;                      // of its rows
+    QStandardItemModel places{0, 1};              // of its rows
     std::vector<preview::Row> settled;            // what changes are marked against
     QTimer fading;                                // of the marks
 };

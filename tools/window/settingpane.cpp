@@ -142,10 +142,9 @@ QStringList SettingPane::languages() const
 QWidget *SettingPane::newEditor(const Setting *setting, const QString &value)
 {
     const SettingKind kind = setting ? setting->kind : SettingKind::Text;
-    if (isLanguage(setting))
-        return newChoice(true, languages(), value);
-    if (const QStringList words = tools::wordsOf(kind); !words.isEmpty())
-        return newChoice(false, words, value);
+    if (const QStringList choices = isLanguage(setting) ? languages() : tools::wordsOf(kind);
+        !choices.isEmpty())
+        return newChoice(isLanguage(setting), choices, value);
     if (kind == SettingKind::Number) {
         auto *const box = new QSpinBox;
         box->setRange(qMin(value.toInt(), 0), setting->most);
