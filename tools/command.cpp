@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/command.h"
 
+#include "text/localeencoding.h"
 #include "tools/config/configcommand.h"
 #include "tools/terminal.h"
 
@@ -17,14 +18,6 @@ namespace tools {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString helpOn(const CommandLine &line, std::span<const Command> commands)
-{
-    QString help = line.help() + "\nCommands:\n"_L1;
-    for (const Command &command : commands)
-        help += "  "_L1 + QString(command.name).leftJustified(10) + command.summary + u'\n';
-    return help + "\n`"_L1 + line.call.command + " COMMAND --help` tells about one of them.\n"_L1;
-}
 
 constexpr std::array<Command, 5> companionCommands = {{
     {"check"_L1, "tells what is wrong with print requests"_L1, requestcheck::run},
@@ -62,16 +55,15 @@ int dispatch(const Call &call, const QString &description, std::span<const Comma
              const QList<QCommandLineOption> &options)
 {
     CommandLine line(call, description);
+    line.commands = commands;
     line.addOptions(options);
     line.addPositionalArgument(u"COMMAND"_s, u"What to do, see below."_s, u"COMMAND ..."_s);
     line.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     if (call.words.isEmpty()) {
-        printError(helpOn(line, commands));
+        printError(line.help());
         return Trouble;
     }
-    line.readWords();
-    if (line.isSet(u"help"_s))
-        return printOut(helpOn(line, commands));
+    line.read(0, -1);
     const QStringList arguments = line.positionalArguments();
     if (arguments.isEmpty())
         line.wrongUsage(u"a command is missing"_s);
@@ -93,7 +85,8 @@ CommandLine::CommandLine(const Call &call, const QString &description)
 
 void CommandLine::read(int leastArguments, int mostArguments)
 {
-    readWords();
+    if (!parse(QStringList(call.command) + call.words))
+        wrongUsage(errorText());
     if (isSet(u"help"_s))
         throw Ended{printOut(help())};
     const QStringList arguments = positionalArguments();
@@ -101,12 +94,6 @@ void CommandLine::read(int leastArguments, int mostArguments)
         wrongUsage(u"an argument is missing"_s);
     if (mostArguments >= 0 && arguments.size() > mostArguments)
         wrongUsage("one argument too many: `"_L1 + arguments[mostArguments] + u'`');
-}
-
-void CommandLine::readWords()
-{
-    if (!parse(QStringList(call.command) + call.words))
-        wrongUsage(errorText());
 }
 
 void CommandLine::wrongUsage(const QString &mistake) const
@@ -118,8 +105,14 @@ void CommandLine::wrongUsage(const QString &mistake) const
 
 QString CommandLine::help() const
 {
-    const QString text = helpText();
-    return "Usage: "_L1 + call.command + text.sliced(text.indexOf(" [options]"_L1));
+    QString help = helpText();
+    help = "Usage: "_L1 + call.command + help.sliced(help.indexOf(" [options]"_L1));
+    if (commands.empty())
+        return help;
+    help += "\nCommands:\n"_L1;
+    for (const Command &command : commands)
+        help += "  "_L1 + QString(command.name).leftJustified(10) + command.summary + u'\n';
+    return help + "\n`"_L1 + call.command + " COMMAND --help` tells about one of them.\n"_L1;
 }
 
 int runCompanion(int argc, char **argv, const Desktop *desktop)
@@ -171,7 +164,7 @@ int startDesktop(const Call &call)
     for (const QString &folder : {place, place + u"/" ZENTARO_LIBEXEC_FROM_BIN ""_s}) {
         execv(QFile::encodeName(folder + "/zentaro-window"_L1).constData(), call.argv);
         if (errno != ENOENT && errno != ENOTDIR)
-            return tellTrouble(call, u"zentaro-window"_s, qt_error_string(errno));
+            return tellTrouble(call, u"zentaro-window"_s, text::systemMessage(errno));
     }
     return refuse(call, u"the package zentaro-desktop is needed for this"_s);
 }

@@ -107,14 +107,13 @@ public:
     /// Reads the words, `mostArguments` is -1 for any number of arguments. Ends the command when
     /// help was asked for, or the words are wrong, which is told.
     void read(int leastArguments, int mostArguments);
-    /// Only the words; help and the number of arguments are left to the caller.
-    void readWords();
     /// Tells a mistake in the words, and where help is; ends the command.
     [[noreturn]] void wrongUsage(const QString &mistake) const;
     /// The toolkit's help, under the whole command instead of the program's name alone.
     QString help() const;
 
     const Call &call;
+    std::span<const Command> commands; ///< for the help
 };
 
 /// Runs the companion program's commands; answers the exit status. `desktop` is null in the program
