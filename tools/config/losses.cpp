@@ -86,12 +86,11 @@ std::vector<Finding> LossFinder::find()
     const qsizetype top = outline.topGroup();
     for (qsizetype i = 1; i < qsizetype(entries.size()); ++i) {
         const Entry &entry = entries[size_t(i)];
-        const bool isGroup = entry.kind == Entry::Kind::Group;
-        const bool isLater = isGroup && entry.parent == 0 && i != top;
+        const bool isLater = entry.isGroup && entry.parent == 0 && i != top;
         isWritten.push_back(isWritten[size_t(entry.parent)] && !isLater);
         if (!isWritten[size_t(entry.parent)])
             continue; // told with the group
-        if (isGroup && !(isXml ? outline.keeps(entry) : hasMember[size_t(i)]))
+        if (entry.isGroup && !(isXml ? outline.keeps(entry) : hasMember[size_t(i)]))
             tell("lost-group"_L1, i, tr("the group %1, which is empty"), outline.pathOf(i));
         else if (isLater)
             tell("lost-group"_L1, i,
@@ -108,7 +107,7 @@ void LossFinder::checkEntry(qsizetype index)
     const Entry &entry = outline.entries[size_t(index)];
     if (const QString loss = lossOf(entry.name, true, isXml); !loss.isEmpty())
         tell("lost-name"_L1, index, tr("the name %1: %2"), entry.name, Plain{loss});
-    if (entry.kind == Entry::Kind::Group)
+    if (entry.isGroup)
         return;
     if (isXml && entry.parent == 0)
         tell("lost-file"_L1, index,

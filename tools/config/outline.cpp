@@ -30,8 +30,6 @@ Outline readXmlOutline(const QByteArray &content)
 {
     constexpr int MaxDepth = libconfig::Config::MaxXmlDepth;
     Outline outline;
-    outline.keepsEmptyGroups = true;
-    outline.add(Entry::Kind::Group, -1);
     QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
     qsizetype open = 0;
@@ -40,11 +38,17 @@ Outline readXmlOutline(const QByteArray &content)
         const Place at = placeOf(reader); // a token begins where the one before it ended
         reader.readNext();
         if (reader.isStartElement()) {
-            outline.add(Entry::Kind::Group, open, reader.qualifiedName().toString(), {at, {}});
+            outline.add({.isGroup = true,
+                         .parent = open,
+                         .name = reader.qualifiedName().toString(),
+                         .at = {at, {}}});
             open = qsizetype(outline.entries.size()) - 1;
             for (const QXmlStreamAttribute &attribute : reader.attributes())
-                outline.add(Entry::Kind::Setting, open, attribute.qualifiedName().toString(),
-                            {at, {}}, attribute.value().toString());
+                outline.add({.parent = open,
+                             .name = attribute.qualifiedName().toString(),
+                             .value = attribute.value().toString(),
+                             .at = {at, {}},
+                             .valueAt = {at, {}}});
             if (++depth > MaxDepth)
                 reader.raiseError(Finding::tr("groups nest more than %1 deep").arg(MaxDepth));
         } else if (reader.isEndElement()) {
@@ -62,15 +66,14 @@ Outline readXmlOutline(const QByteArray &content)
         }
     }
     if (reader.hasError() && !content.isEmpty()) {
-        outline.entries.resize(1, outline.entries.front());
-        outline.entries.front().hasMember = false;
         const QString cause = reader.error() == QXmlStreamReader::CustomError
                                   ? Finding::tr("nothing of the file is read: %1")
                                   : Finding::tr("not well-formed, nothing of the file is read: %1");
-        outline.losses.clear();
+        outline = {};
         outline.faults = {{Severity::Error, "xml"_L1, cause.arg(reader.errorString()),
                            Range{placeOf(reader), {}}}};
     }
+    outline.keepsEmptyGroups = true;
     return outline;
 }
 
@@ -96,7 +99,7 @@ public:
     Outline read();
 
 private:
-    Entry &addEntry(Entry::Kind kind);
+    Entry &addEntry(bool isGroup);
     void beginGroup();
     void addSetting();
     bool endGroup();
@@ -106,12 +109,13 @@ private:
     void checkValueEnd(const QString &key, std::string_view value);
 
     qint64 offsetOf(std::string_view text) const { return text.data() - bytes.data(); }
-    Range rangeOf(std::string_view text) const;
-    /// The line in which the statement ends.
-    qint64 lineOfEnd() const
+    Place placeAt(qint64 offset) const;
+    Range rangeOf(std::string_view text) const
     {
-        return rangeOf(bytes.substr(size_t(scanner.end()) - 1, 0)).begin.line;
+        return {placeAt(offsetOf(text)), placeAt(offsetOf(text) + qint64(text.size()))};
     }
+    /// The line in which the statement ends.
+    qint64 lineOfEnd() const { return placeAt(scanner.end() - 1).line; }
     /// The structural character.
     std::string_view mark() const { return bytes.substr(size_t(scanner.mark()), 1); }
     /// The name of the statement; right before its structural character where it has none.
@@ -147,7 +151,6 @@ CfgReader::CfgReader(const QByteArray &content)
 {
     for (size_t at = bytes.find('\n'); at != bytes.npos; at = bytes.find('\n', at + 1))
         lines.push_back(qint64(at) + 1);
-    outline.add(Entry::Kind::Group, -1);
 }
 
 Outline CfgReader::read()
@@ -169,19 +172,20 @@ Outline CfgReader::read()
 }
 
 /// Adds what the statement names.
-Entry &CfgReader::addEntry(Entry::Kind kind)
+Entry &CfgReader::addEntry(bool isGroup)
 {
-    const bool misread = !checkName(kind == Entry::Kind::Group);
-    Entry &entry = outline.add(kind, open.back(), scanner.name(), rangeOf(nameText()));
-    entry.misread = misread;
-    entry.text = {offsetOf(nameText()), scanner.end()};
-    return entry;
+    return outline.add({.isGroup = isGroup,
+                        .parent = open.back(),
+                        .name = scanner.name(),
+                        .at = rangeOf(nameText()),
+                        .misread = !checkName(isGroup),
+                        .text = {offsetOf(nameText()), scanner.end()}});
 }
 
 void CfgReader::beginGroup()
 {
     const auto index = qsizetype(outline.entries.size());
-    Entry &group = addEntry(Entry::Kind::Group);
+    Entry &group = addEntry(true);
     group.body = {scanner.end(), scanner.end()};
     open.push_back(index);
     const std::string_view skipped = withoutBlanks(scanner.rawValue());
@@ -201,7 +205,7 @@ void CfgReader::beginGroup()
 void CfgReader::addSetting()
 {
     const std::string_view value = withoutBlanks(scanner.rawValue());
-    Entry &setting = addEntry(Entry::Kind::Setting);
+    Entry &setting = addEntry(false);
     setting.value = scanner.value();
     setting.valueAt = rangeOf(value);
     setting.body = {offsetOf(value), offsetOf(value) + qint64(value.size())};
@@ -304,13 +308,10 @@ void CfgReader::checkValueEnd(const QString &key, std::string_view value)
              key, lineOfEnd(), rest);
 }
 
-Range CfgReader::rangeOf(std::string_view text) const
+Place CfgReader::placeAt(qint64 offset) const
 {
-    const auto placeAt = [this](qint64 offset) {
-        const auto next = std::ranges::upper_bound(lines, offset);
-        return Place{next - lines.begin(), offset - *std::prev(next) + 1};
-    };
-    return {placeAt(offsetOf(text)), placeAt(offsetOf(text) + qint64(text.size()))};
+    const auto next = std::ranges::upper_bound(lines, offset);
+    return {next - lines.begin(), offset - *std::prev(next) + 1};
 }
 
 } // namespace
@@ -320,18 +321,16 @@ QString shown(std::string_view text)
     return excerpt(QString::fromLatin1(QByteArrayView(withoutBlanks(text))));
 }
 
-Entry &Outline::add(Entry::Kind kind, qsizetype parent, const QString &name, const Range &at,
-                    const QString &value)
+Entry &Outline::add(Entry entry)
 {
-    if (parent >= 0)
-        entries[size_t(parent)].hasMember = true;
-    return entries.emplace_back(Entry{kind, parent, name, value, at, at});
+    entries[size_t(entry.parent)].hasMember = true;
+    return entries.emplace_back(std::move(entry));
 }
 
 qsizetype Outline::topGroup() const
 {
     const auto found = std::ranges::find_if(entries, [this](const Entry &entry) {
-        return entry.kind == Entry::Kind::Group && entry.parent == 0 && keeps(entry);
+        return entry.isGroup && entry.parent == 0 && keeps(entry);
     });
     return found == entries.end() ? -1 : found - entries.begin();
 }

@@ -42,14 +42,12 @@ struct Extent
 
 struct Entry
 {
-    enum class Kind { Group, Setting };
-
-    Kind kind;
-    qsizetype parent;       ///< of the group that holds it; -1 for the file
-    QString name;           ///< as the store keeps it
-    QString value;          ///< of a setting, as the store keeps it
-    Range at;               ///< of the name; of the whole tag's beginning in XML
-    Range valueAt;          ///< of a setting's value, likewise
+    bool isGroup = false;   ///< otherwise a setting
+    qsizetype parent = -1;  ///< the group that holds it; -1 for the file
+    QString name = {};      ///< as the store keeps it
+    QString value = {};     ///< of a setting, as the store keeps it
+    Range at = {};          ///< of the name; of the whole tag's beginning in XML
+    Range valueAt = {};     ///< of a setting's value, likewise
     bool hasMember = false; ///< of a group: a setting, or a group even if empty
     bool misread = false;   ///< the name swallowed other text, which has been told
     Extent text = {};       ///< in the "cfg" form: from the name to behind the `;`
@@ -58,18 +56,17 @@ struct Entry
 
 struct Outline
 {
-    std::vector<Entry> entries;    ///< in file order; the first one is the file
+    std::vector<Entry> entries = {{.isGroup = true}}; ///< in file order; the first one is the file
     std::vector<Finding> faults;   ///< where the file does not say what it seems to say
     std::vector<Finding> losses;   ///< what the store does not keep and a written file will lack
     bool keepsEmptyGroups = false; ///< the store keeps groups without members
 
-    /// Adds an entry to its parent, -1 for the file, which comes first.
-    Entry &add(Entry::Kind kind, qsizetype parent, const QString &name = {}, const Range &at = {},
-               const QString &value = {});
+    /// Adds an entry to its parent.
+    Entry &add(Entry entry);
     /// Whether the store keeps an entry.
     bool keeps(const Entry &entry) const
     {
-        return entry.kind == Entry::Kind::Setting || entry.hasMember || keepsEmptyGroups;
+        return !entry.isGroup || entry.hasMember || keepsEmptyGroups;
     }
     /// The first top-level group that the store keeps, where every lookup begins; -1 for none.
     qsizetype topGroup() const;

@@ -19,23 +19,11 @@ using namespace tools;
 
 namespace {
 
-class Checker
+struct Checker
 {
-    Q_DECLARE_TR_FUNCTIONS(Finding)
-
-public:
     using enum Severity;
 
-    explicit Checker(const Outline &outline)
-        : outline(outline)
-        , top(outline.topGroup())
-        , findings(outline.faults)
-        , isRead(outline.entries.size(), false)
-    {
-    }
     std::vector<Finding> check();
-
-private:
     void checkGroup(qsizetype index);
     void checkSetting(qsizetype index);
     void checkReadSetting(qsizetype index);
@@ -73,14 +61,18 @@ private:
     }
 
     const Outline &outline;
-    const qsizetype top; // where lookups begin
-    std::vector<Finding> findings;
-    std::vector<bool> isRead;         // by entry: a group of which something is read
-    QHash<QString, qsizetype> groups; // of the top group, the first of each name
-    QHash<std::pair<qsizetype, QString>, qsizetype> settings; // the last of each name in a group
+    const qsizetype top = outline.topGroup(); // where lookups begin
+    std::vector<Finding> findings = outline.faults;
+    // By entry: a group of which something is read.
+    std::vector<bool> isRead = std::vector<bool>(outline.entries.size());
+    QHash<QString, qsizetype> groups = {}; // of the top group, the first of each name
+    // The last of each name in a group.
+    QHash<std::pair<qsizetype, QString>, qsizetype> settings = {};
     // By group and word: the entry that a lookup finds.
-    QHash<std::pair<QString, QString>, qsizetype> effective;
+    QHash<std::pair<QString, QString>, qsizetype> effective = {};
     int unknownKeys = 0; // a way out is looked for only of those that are listed
+
+    Q_DECLARE_TR_FUNCTIONS(Finding)
 };
 
 std::vector<Finding> Checker::check()
@@ -91,13 +83,13 @@ std::vector<Finding> Checker::check()
     settings.reserve(count);
     effective.reserve(count);
     for (qsizetype i = 1; i < count; ++i) {
-        if (entry(i).kind == Entry::Kind::Setting)
-            settings.insert({entry(i).parent, entry(i).name}, i);
-        else
+        if (entry(i).isGroup)
             isRead[size_t(i)] = entry(i).parent == top && !settingsOf(entry(i).name).empty();
+        else
+            settings.insert({entry(i).parent, entry(i).name}, i);
     }
     for (qsizetype i = 1; i < count; ++i)
-        entry(i).kind == Entry::Kind::Group ? checkGroup(i) : checkSetting(i);
+        entry(i).isGroup ? checkGroup(i) : checkSetting(i);
     checkColumns();
     checkLanguage();
     return std::move(findings);
@@ -269,7 +261,7 @@ void Checker::checkLanguage()
 
 } // namespace
 
-std::vector<Finding> findingsIn(const Outline &outline) { return Checker(outline).check(); }
+std::vector<Finding> findingsIn(const Outline &outline) { return Checker{outline}.check(); }
 
 QString unreadKey(const QString &key)
 {

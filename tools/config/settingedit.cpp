@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 namespace configtool {
 
 using namespace Qt::StringLiterals;
@@ -49,11 +51,10 @@ KeyInFile::KeyInFile(const QByteArray &content, const QString &key)
     depths.front() = 0;
     for (qsizetype i = 1; i < qsizetype(depths.size()); ++i) {
         const qsizetype before = depths[size_t(entry(i).parent)];
-        const bool isSetting = entry(i).kind == Entry::Kind::Setting;
         if (before < 0 || entry(i).name != names[before]
-            || isSetting != (before + 1 == names.size()))
+            || entry(i).isGroup == (before + 1 == names.size()))
             continue;
-        if (isSetting) {
+        if (!entry(i).isGroup) {
             settings.push_back(i);
             if (found < 0 || entry(found).value.isEmpty() || entry(found).parent == entry(i).parent)
                 found = i;
@@ -72,7 +73,7 @@ QStringList KeyInFile::others() const
     QStringList all;
     for (qsizetype i = 1; i < qsizetype(outline.entries.size()); ++i) {
         const QString path = outline.pathOf(i);
-        if (entry(i).kind == Entry::Kind::Setting && path != key)
+        if (!entry(i).isGroup && path != key)
             all.append(path + " = "_L1 + entry(i).value);
     }
     return all;
@@ -101,11 +102,11 @@ qsizetype KeyInFile::siblingBefore() const
         depth + 1 == names.size() && depth > 0 ? knownWords(names[depth - 1]) : knownGroups();
     const qsizetype place = order.indexOf(names[depth]);
     qsizetype best = -1;
-    qsizetype bestPlace = -1;
+    qsizetype bestPlace = 0;
     for (auto i = group + 1; i < qsizetype(outline.entries.size()); ++i) {
         const qsizetype childPlace = order.indexOf(entry(i).name);
         if (entry(i).parent == group
-            && (place < 0 || (childPlace >= qMax(bestPlace, qsizetype(0)) && childPlace < place))) {
+            && (place < 0 || (childPlace >= bestPlace && childPlace < place))) {
             best = i;
             bestPlace = childPlace;
         }
@@ -116,12 +117,10 @@ qsizetype KeyInFile::siblingBefore() const
 /// A line end, and the blanks with which the line of an entry begins.
 QByteArray KeyInFile::leadOf(qsizetype index) const
 {
-    const qint64 begin = entry(index).text.begin;
-    const qint64 lineBegin = begin > 0 ? content.lastIndexOf('\n', begin - 1) + 1 : 0;
-    qint64 end = lineBegin;
-    while (end < begin && (content[end] == ' ' || content[end] == '\t'))
-        ++end;
-    return (content.contains("\r\n") ? "\r\n" : "\n") + content.sliced(lineBegin, end - lineBegin);
+    const std::string_view before(content.data(), size_t(entry(index).text.begin));
+    const std::string_view line = before.substr(before.rfind('\n') + 1);
+    const qsizetype blanks = qsizetype(std::min(line.find_first_not_of(" \t"), line.size()));
+    return (content.contains("\r\n") ? "\r\n" : "\n") + QByteArray(line.data(), blanks);
 }
 
 /// The file with a new setting, in new groups where those of the key are missing.
@@ -146,20 +145,19 @@ QByteArray KeyInFile::withNew(const QByteArray &setting) const
 
 QByteArray KeyInFile::without() const
 {
-    QByteArray left = content;
+    constexpr auto Blanks = " \t\r";
+    std::string left = content.toStdString();
     for (size_t i = settings.size(); i-- > 0;) {
-        auto [begin, end] = entry(settings[i]).text;
-        const auto isBlank = [&](qint64 at) { return QByteArrayView(" \t\r").contains(left[at]); };
-        while (begin > 0 && isBlank(begin - 1))
-            --begin;
-        qint64 lineEnd = end;
-        while (lineEnd < left.size() && isBlank(lineEnd))
-            ++lineEnd;
+        const Extent &text = entry(settings[i]).text;
+        const std::string_view before(left.data(), size_t(text.begin));
+        const auto end = size_t(text.end);
+        const size_t begin = before.find_last_not_of(Blanks) + 1;
+        const size_t lineEnd = std::min(left.find_first_not_of(Blanks, end), left.size());
         const bool isLine = (begin == 0 || left[begin - 1] == '\n')
                             && (lineEnd == left.size() || left[lineEnd] == '\n');
-        left.remove(begin, (isLine ? qMin(lineEnd + 1, qint64(left.size())) : end) - begin);
+        left.erase(begin, (isLine ? lineEnd + 1 : end) - begin);
     }
-    return left;
+    return QByteArray::fromStdString(left);
 }
 
 /// What was made of the content, if it is read as it was meant.

@@ -61,8 +61,8 @@ QTreeWidgetItem *itemOf(const Outline &outline, qsizetype index, QTreeWidgetItem
 {
     const Entry &entry = outline.entries[size_t(index)];
     return index <= 0 ? file
-                      : ConfigTree::childOf(itemOf(outline, entry.parent, file),
-                                            entry.kind == Entry::Kind::Group, entry.name);
+                      : ConfigTree::childOf(itemOf(outline, entry.parent, file), entry.isGroup,
+                                            entry.name);
 }
 
 QString listOf(const std::vector<Finding> &findings)

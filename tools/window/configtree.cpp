@@ -36,19 +36,21 @@ QString nameOf(const QTreeWidgetItem &item)
     return libconfig::isGroupItem(item) ? item.text(0) : libconfig::settingOf(item.text(0)).first;
 }
 
-/// Adds an item and what is below it.
-void addTo(TreeOutline &result, QTreeWidgetItem *item, qsizetype parent)
+/// Adds an item, whose entry the outline has already, and what is below it.
+void addTo(TreeOutline &result, QTreeWidgetItem *item)
 {
     const auto index = qsizetype(result.items.size());
-    if (libconfig::isGroupItem(*item)) {
-        result.outline.add(Entry::Kind::Group, parent, item->text(0));
-    } else {
-        const auto [key, value] = libconfig::settingOf(item->text(0));
-        result.outline.add(Entry::Kind::Setting, parent, key, {}, value);
-    }
     result.items.push_back(item);
-    for (int i = 0; i < item->childCount(); ++i)
-        addTo(result, item->child(i), index);
+    for (int i = 0; i < item->childCount(); ++i) {
+        const QTreeWidgetItem *const child = item->child(i);
+        const bool isGroup = libconfig::isGroupItem(*child);
+        result.outline.add(
+            {.isGroup = isGroup,
+             .parent = index,
+             .name = nameOf(*child),
+             .value = isGroup ? QString() : libconfig::settingOf(child->text(0)).second});
+        addTo(result, item->child(i));
+    }
 }
 
 } // namespace
@@ -193,7 +195,7 @@ TreeOutline ConfigTree::outlineIn(const QString &format) const
 {
     TreeOutline result;
     result.outline.keepsEmptyGroups = format == "xml"_L1;
-    addTo(result, fileItem(), -1);
+    addTo(result, fileItem());
     return result;
 }
 
