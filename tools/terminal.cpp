@@ -96,7 +96,7 @@ QString excerpt(const QString &text)
 {
     constexpr qsizetype Most = 40; // characters
     const QString line = inOneLine(text.first(qMin(text.size(), Most + 1)));
-    return u'`' + (text.size() > Most ? line.first(qMin(line.size(), Most)) + u'…' : line) + u'`';
+    return u'`' + (text.size() > Most ? line.first(Most) + u'…' : line) + u'`';
 }
 
 QString nearest(QStringView word, std::span<const QString> words)
@@ -104,18 +104,18 @@ QString nearest(QStringView word, std::span<const QString> words)
     constexpr qsizetype Longest = 64; // no key word comes near; keeps a huge name cheap
     if (word.size() > Longest)
         return {};
-    const qsizetype farthest = qMax(qsizetype(1), word.size() / 3);
-    const QString *found = nullptr;
-    qsizetype least = farthest + 1;
+    QString found;
+    qsizetype least =
+        qMax(qsizetype(1), word.size() / 3) + 1; // the fewest changes that are too many
     for (const QString &other : words) {
         if (qAbs(other.size() - word.size()) >= least)
             continue; // that many letters to insert or delete at least
         if (const int distance = editDistance(word, other); distance < least) {
             least = distance;
-            found = &other;
+            found = other;
         }
     }
-    return found ? *found : QString();
+    return found;
 }
 
 QString didYouMean(const QString &word)

@@ -57,9 +57,9 @@ bool isMissing(const QString &path)
            == std::filesystem::file_type::not_found;
 }
 
-QByteArray contentOf(const Call &call, const Source &source)
+QByteArray contentOf(const Call &call, const QString &path)
 {
-    QFile file(source.path);
+    QFile file(path);
     QByteArray content =
         file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
     QString trouble;
@@ -67,10 +67,10 @@ QByteArray contentOf(const Call &call, const Source &source)
         trouble = reasonOf(file);
     else if (content.size() > MaxContentBytes)
         trouble = u"more than 64 MiB, which nothing reads"_s;
-    if (isMissing(source.path))
+    if (isMissing(path))
         trouble += "; `zentaro config init` writes one"_L1;
     if (!trouble.isEmpty())
-        throw Ended{tellTrouble(call, source.path, trouble)};
+        throw Ended{tellTrouble(call, path, trouble)};
     return content;
 }
 
@@ -86,7 +86,7 @@ OpenedFile::OpenedFile(CommandLine &line, int leastArguments, int mostArguments)
     line.addOptions(sourceOptions());
     line.read(leastArguments, mostArguments);
     source = sourceOf(line);
-    content = contentOf(line.call, source);
+    content = contentOf(line.call, source.path);
     config.readContent(content, source.path, source.format);
 }
 

@@ -32,7 +32,7 @@ bool isMissing(const QString &path);
 
 /// The content of the file. Where it cannot be read, or has more bytes than the store reads, the
 /// command ends, and for one that is missing names what writes it.
-QByteArray contentOf(const tools::Call &call, const Source &source);
+QByteArray contentOf(const tools::Call &call, const QString &path);
 /// Writes a file, all at once; Fine. Where that fails, which is told, the command ends.
 int writeContent(const tools::Call &call, const QString &path, const QByteArray &content);
 

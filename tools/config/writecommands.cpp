@@ -2,6 +2,7 @@
 #include "tools/config/configcommand.h"
 
 #include "app/ztconfiguration.h"
+#include "text/localeencoding.h"
 #include "tools/config/outline.h"
 #include "tools/knownkeys.h"
 #include "tools/terminal.h"
@@ -30,8 +31,10 @@ namespace {
 /// Whether the file may be written, after a word with the person where there is a reason not to.
 bool isAllowed(const Call &call, const QString &reason)
 {
-    if (isatty(STDIN_FILENO) == 0)
-        return refuse(call, reason + "; --force writes it all the same"_L1) == Fine;
+    if (isatty(STDIN_FILENO) == 0) {
+        refuse(call, reason + "; --force writes it all the same"_L1);
+        return false;
+    }
     printError(call.command + ": "_L1 + reason + "; write it all the same? [y/N] "_L1);
     const int answer = std::getchar();
     return answer == 'y' || answer == 'Y';
@@ -98,26 +101,15 @@ int changeValues(const Call &call, CommandLine &line, bool sets)
 }
 
 /// What paper of 32, 40, 42 and 48 columns wants of the documents.
-struct PaperNumbers
-{
-    QLatin1StringView word;
-    std::array<int, 4> byPaper;
-};
-constexpr std::array<PaperNumbers, 5> paperNumbers = {{{"paperWidth"_L1, {32, 40, 42, 48}},
-                                                       {"priceFieldWidth"_L1, {7, 8, 8, 9}},
-                                                       {"totalPriceFieldWidth"_L1, {8, 9, 9, 10}},
-                                                       {"topMargin"_L1, {1, 2, 2, 2}},
-                                                       {"descriptionWidth"_L1, {18, 20, 21, 24}}}};
+constexpr std::array<std::pair<QLatin1StringView, std::array<int, 4>>, 5> paperNumbers = {
+    {{"paperWidth"_L1, {32, 40, 42, 48}},
+     {"priceFieldWidth"_L1, {7, 8, 8, 9}},
+     {"totalPriceFieldWidth"_L1, {8, 9, 9, 10}},
+     {"topMargin"_L1, {1, 2, 2, 2}},
+     {"descriptionWidth"_L1, {18, 20, 21, 24}}}};
 
-/// The folder of the labels in a language: that of an installation, or the build's; empty where
-/// there are none.
-QString labelsFolder(const QString &language)
-{
-    const QString folder = translationsFolder();
-    return QFileInfo::exists(folder + "/zentaro_"_L1 + language + ".qm"_L1) ? folder : QString();
-}
-
-/// A complete configuration: the sample for 40 columns with other values.
+/// A complete configuration: the sample for 40 columns with other values. Labels are English in the
+/// program, and of other languages in files.
 QByteArray startingConfiguration(size_t paper, const QString &language)
 {
     initTemplate();
@@ -130,8 +122,8 @@ QByteArray startingConfiguration(size_t paper, const QString &language)
         for (const QString &group : groupsWith(QString(word)))
             set(keyOf(group, word), QString::number(byPaper[paper]));
     }
-    if (const QString folder = labelsFolder(language); !folder.isEmpty()) {
-        set(u"zentaro.language.basedir"_s, folder);
+    if (language != "en"_L1) {
+        set(u"zentaro.language.basedir"_s, translationsFolder());
         set(u"zentaro.language.file"_s, "/zentaro_"_L1 + language);
     }
     return content;
@@ -143,7 +135,8 @@ QString languageFor(const CommandLine &line)
 {
     const QString named = line.value(u"language"_s);
     QString language = named.isEmpty() ? QLocale::system().name().section(u'_', 0, 0) : named;
-    if (language == "en"_L1 || !labelsFolder(language).isEmpty())
+    const QString file = "/zentaro_"_L1 + language + ".qm"_L1;
+    if (language == "en"_L1 || QFileInfo::exists(translationsFolder() + file))
         return language;
     if (named.isEmpty())
         return u"en"_s;
@@ -222,7 +215,7 @@ int init(const Call &call)
     line.read(0, 0);
     const auto [file, format] = sourceOf(line);
     const QString columns = line.value(u"columns"_s);
-    const auto &papers = paperNumbers.front().byPaper;
+    const auto &papers = paperNumbers.front().second;
     const auto paper =
         size_t(std::ranges::find(papers, columns, [](int each) { return QString::number(each); })
                - papers.begin());
@@ -239,7 +232,7 @@ int init(const Call &call)
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
     if (error)
-        return tellTrouble(call, folder, qt_error_string(error.value()));
+        return tellTrouble(call, folder, text::systemMessage(error.value()));
     writeContent(call, file, startingConfiguration(paper, language));
     const bool isOwn = file == ZTConfiguration::userFile();
     return printOut(

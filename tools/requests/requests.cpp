@@ -4,11 +4,11 @@
 #include "app/syncsingleton.h"
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
+#include "text/localeencoding.h"
 #include "text/standardoutput.h"
 #include "tools/config/configcommand.h"
 #include "tools/config/outline.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <filesystem>
@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto standardInput = "-"_L1;
 constexpr auto notUtf8 = "its name is not UTF-8"_L1;
 
 void leaveOut(const Call &call, const QString &name, const QString &trouble, RequestFiles &files)
@@ -46,7 +47,7 @@ void addFolder(const Call &call, const QString &folder, RequestFiles &files)
             leaveOut(call, name, notUtf8, files);
     }
     if (error)
-        leaveOut(call, folder, QString::fromStdString(error.message()), files);
+        leaveOut(call, folder, text::systemMessage(error.value()), files);
     else if (found.isEmpty())
         leaveOut(call, folder, u"holds no file whose name ends in .xml"_s, files);
     found.sort();
@@ -62,9 +63,9 @@ RequestFiles requestFiles(const Call &call, const QStringList &words)
         const QFileInfo named(word);
         if (word.contains(QChar::ReplacementCharacter))
             leaveOut(call, word, notUtf8, files);
-        else if (word != StandardInput && !named.exists())
+        else if (word != standardInput && !named.exists())
             leaveOut(call, word, u"No such file or directory"_s, files);
-        else if (word != StandardInput && named.isDir())
+        else if (word != standardInput && named.isDir())
             addFolder(call, word, files);
         else
             files.names.append(word);
@@ -75,9 +76,8 @@ RequestFiles requestFiles(const Call &call, const QStringList &words)
 std::unique_ptr<QFile> openedRequest(const Call &call, const QString &name)
 {
     auto file = std::make_unique<QFile>(name);
-    const bool opened = name == StandardInput ? file->open(stdin, QIODevice::ReadOnly)
-                                              : file->open(QIODevice::ReadOnly);
-    if (opened)
+    if (name == standardInput ? file->open(stdin, QIODevice::ReadOnly)
+                              : file->open(QIODevice::ReadOnly))
         return file;
     tellTrouble(call, name, reasonOf(*file));
     return nullptr;
@@ -95,9 +95,9 @@ bool useConfiguration(const Call &call, const QString &fileName, QTranslator &la
 {
     const bool isOwn = fileName.isEmpty();
     const QString path = isOwn ? ZTConfiguration::userFile() : fileName;
-    const QString format = isOwn ? u"cfg"_s : configtool::formatOf(path);
+    const QString format = configtool::formatOf(path);
     const bool isThere = !isOwn || !configtool::isMissing(path);
-    const QByteArray content = isThere ? configtool::contentOf(call, {path, format}) : QByteArray();
+    const QByteArray content = isThere ? configtool::contentOf(call, path) : QByteArray();
     // The first use reads the user's own file, whose absence is told by whoever minds it.
     const QScopedValueRollback<std::FILE *> quiet(text::diagnostics, nullptr);
     ZTConfiguration *const configuration = SyncSingleton<ZTConfiguration>::instance();

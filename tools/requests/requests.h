@@ -6,13 +6,8 @@
 #include <QFile>
 #include <QTranslator>
 
-#include <memory>
-
 /// The print requests that the words of a command name, and what they are printed with.
 namespace tools {
-
-/// What stands for standard input among the names.
-constexpr QLatin1StringView StandardInput("-");
 
 struct RequestFiles
 {
@@ -20,9 +15,9 @@ struct RequestFiles
     bool isWhole = true; ///< whether nothing that was named is missing
 };
 
-/// The files that the words name, in their order: a folder stands for the files in it and its
-/// folders whose names end in `.xml`, sorted by path. A word that names no file, a folder without
-/// one and a file whose name is not UTF-8 are told and left out.
+/// The files that the words name, in their order: `-` stands for standard input, a folder for the
+/// files in it and its folders whose names end in `.xml`, sorted by path. A word that names no
+/// file, a folder without one and a file whose name is not UTF-8 are told and left out.
 RequestFiles requestFiles(const Call &call, const QStringList &words);
 
 /// The file, or standard input, open for reading; null when it cannot be opened, which is told.
