@@ -252,10 +252,8 @@ protected:
     {
         QCoreApplication::processEvents();
         QStringList lines;
-        const auto &[title, rows, changed] = pane->shown();
-        for (size_t i = 0; i < rows.size(); ++i)
-            lines.append((i < changed.size() && changed[i] ? u"*"_s : u""_s)
-                         + preview::textOf(rows[i].text));
+        for (const preview::Row &row : pane->shown().rows)
+            lines.append((row.isChanged ? u"*"_s : u""_s) + preview::textOf(row.text));
         return lines;
     }
 

@@ -17,9 +17,9 @@ TEST(Difference, KeepsAsManyRowsAsThereCanBe)
     {
         const char *before;
         const char *after;
-        const char *lines; ///< ` ` in both, `-` and `+` in one
+        const char *lines; ///< ` ` in both, `-` and `+` in one; none where nothing differs
     } rows[] = {
-        {"abc", "abc", " a b c"},
+        {"abc", "abc", ""},
         {"abc", "", "-a-b-c"},
         {"", "ab", "+a+b"},
         {"abc", "axc", " a-b+x c"},
@@ -33,21 +33,23 @@ TEST(Difference, KeepsAsManyRowsAsThereCanBe)
         for (const char *letter = letters; *letter != 0; ++letter) {
             all.emplace_back();
             all.back().text = preview::Cells(1, char32_t(*letter));
+            all.back().width = 1;
         }
         return all;
     };
-    for (const auto &row : rows) {
-        std::string lines;
-        for (const auto &pair : preview::comparedRows(rowsOf(row.before), rowsOf(row.after))) {
-            lines += pair.before < 0 ? '+' : pair.after < 0 ? '-' : ' ';
-            lines += pair.before < 0 ? row.after[pair.after] : row.before[pair.before];
-        }
-        EXPECT_EQ(lines, row.lines);
-    }
-    const preview::TerminalDrawing drawing(nullptr, 0);
-    const QString coloured = preview::unifiedDifference(rowsOf("a"), rowsOf("b"), drawing, true);
+    const auto difference = [&rowsOf](const char *first, const char *second, bool inColours) {
+        std::vector<preview::Row> before = rowsOf(first);
+        std::vector<preview::Row> after = rowsOf(second);
+        preview::markChanges(before, after);
+        const preview::TerminalDrawing drawing(nullptr, 0);
+        return preview::unifiedDifference(before, after, drawing, inColours);
+    };
+    const QRegularExpression frame(u"@@.*\n|   │|│\n"_s);
+    for (const auto &row : rows)
+        EXPECT_EQ(difference(row.before, row.after, false).remove(frame).toStdString(), row.lines);
+    const QString coloured = difference("a", "b", true);
     EXPECT_EQ(QString(coloured).remove(QRegularExpression(u"\x1b\\[[0-9]*m"_s)),
-              preview::unifiedDifference(rowsOf("a"), rowsOf("b"), drawing, false));
+              difference("a", "b", false));
     EXPECT_EQ(coloured.count(u'\x1b'), 6);
 }
 

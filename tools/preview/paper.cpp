@@ -187,7 +187,7 @@ std::vector<Row> rowsOf(const Document &document, int columns, size_t most)
     return rows;
 }
 
-std::vector<RowPair> comparedRows(const std::vector<Row> &before, const std::vector<Row> &after)
+void markChanges(std::vector<Row> &before, std::vector<Row> &after)
 {
     const size_t rows = std::min(before.size(), MostRows);
     const size_t columns = std::min(after.size(), MostRows);
@@ -199,31 +199,13 @@ std::vector<RowPair> comparedRows(const std::vector<Row> &before, const std::vec
             at(i, j) = before[i].isSameAs(after[j]) ? quint16(at(i + 1, j + 1) + 1)
                                                     : std::max(at(i + 1, j), at(i, j + 1));
     }
-    std::vector<RowPair> pairs;
-    ptrdiff_t coming = 0; // pairs at the end that only the second sheet has: what goes stands first
     for (size_t i = 0, j = 0; i < rows || j < columns;) {
-        if (i < rows && j < columns && before[i].isSameAs(after[j])) {
-            pairs.push_back({qsizetype(i++), qsizetype(j++)});
-            coming = 0;
-        } else if (j == columns || (i < rows && at(i + 1, j) >= at(i, j + 1))) {
-            pairs.insert(pairs.end() - coming, {qsizetype(i++), -1});
-        } else {
-            pairs.push_back({-1, qsizetype(j++)});
-            ++coming;
-        }
-    }
-    return pairs;
-}
-
-void markChanges(Sheet &before, Sheet &after)
-{
-    before.changed.assign(before.rows.size(), false);
-    after.changed.assign(after.rows.size(), false);
-    for (const RowPair &pair : comparedRows(before.rows, after.rows)) {
-        if (pair.after < 0)
-            before.changed[size_t(pair.before)] = true;
-        else if (pair.before < 0)
-            after.changed[size_t(pair.after)] = true;
+        if (i < rows && j < columns && before[i].isSameAs(after[j]))
+            before[i++].isChanged = after[j++].isChanged = false;
+        else if (j == columns || (i < rows && at(i + 1, j) >= at(i, j + 1)))
+            before[i++].isChanged = true;
+        else
+            after[j++].isChanged = true;
     }
 }
 

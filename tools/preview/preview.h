@@ -141,6 +141,7 @@ struct Row
     int width = 0;          ///< of the paper, in cells
     QString note;           ///< stands behind the paper, in one line
     qint64 requestLine = 0; ///< where it comes from; 0 where that is unknown
+    bool isChanged = false; ///< whether a document that it was compared with lacks it
 
     bool begins() const { return kind < Kind::Line; }
     bool ends() const { return kind > Kind::Line; }
@@ -148,7 +149,7 @@ struct Row
     CellsView beyond() const { return CellsView(text).substr(onPaper().size()); }
     /// The cells beyond the paper's edge that should not be there.
     qsizetype overrun() const { return beyondEdge(text, width); }
-    /// The paper's own width is no difference of a row.
+    /// Whether it says the same, on paper of whatever width.
     bool isSameAs(const Row &other) const
     {
         return kind == other.kind && mark == other.mark && text == other.text && note == other.note;
@@ -160,7 +161,6 @@ struct Sheet
 {
     QString title;
     std::vector<Row> rows;
-    std::vector<bool> changed; ///< of each row; empty: none
 };
 
 /// The paper's measures.
@@ -195,19 +195,9 @@ void drawRows(const Document &document, int columns, const std::function<bool(Ro
 /// The first rows of a document, `most` of them.
 std::vector<Row> rowsOf(const Document &document, int columns, size_t most);
 
-/// A row that both of two sheets have, or one of them: its place in each, -1 where it has none.
-struct RowPair
-{
-    qsizetype before = -1;
-    qsizetype after = -1;
-};
-
-/// The rows of two sheets in order, at most MostRows of each, with as many in both as there can be;
-/// what differs between those is first all that goes, then all that comes.
-std::vector<RowPair> comparedRows(const std::vector<Row> &before, const std::vector<Row> &after);
-
-/// Marks the rows that only one of the sheets has.
-void markChanges(Sheet &before, Sheet &after);
+/// Marks the rows that only one of two documents has, and takes the mark from the others, of which
+/// there are as many as there can be in the same order. Looks at MostRows of each at most.
+void markChanges(std::vector<Row> &before, std::vector<Row> &after);
 
 /// The largest file, of requests and of what they print, that is held in memory: bytes.
 constexpr qint64 MostBytes = qint64(64) * 1'024 * 1'024;
@@ -243,9 +233,10 @@ private:
     const qsizetype numberWidth; // 0: no line numbers
 };
 
-/// The difference as `diff -u` prints it, with three rows around each change: `-` before what only
-/// the first sheet has, `+` before what only the second has; in colours for a terminal.
+/// The difference between two documents whose changes are marked, as `diff -u` prints it, with
+/// three rows around each change: `-` before what only the first has, `+` before what only the
+/// second has; in colours for a terminal.
 QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row> &after,
-                          const TerminalDrawing &drawing, bool coloured);
+                          const TerminalDrawing &drawing, bool inColours);
 
 } // namespace preview

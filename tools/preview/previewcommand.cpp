@@ -12,7 +12,6 @@
 #include <QFileInfo>
 #include <QTextCodec>
 
-#include <algorithm>
 #include <unistd.h>
 
 namespace preview {
@@ -45,19 +44,13 @@ void addOptions(tools::CommandLine &line)
     line.addPositionalArgument(u"FILE"_s, u"A print request or a print file."_s, u"FILE..."_s);
 }
 
-/// What a word of the command names: a print request, by its content, or a print file.
-struct Input
+/// A request, and its document with the first configuration.
+struct Compared
 {
     QString name;
-    QByteArray bytes;
-    bool isRequest = false;
+    QByteArray request;
+    Document before;
 };
-
-void print(const QString &text)
-{
-    if (tools::printOut(text) != tools::Fine)
-        throw tools::Ended{};
-}
 
 /// One call of the command.
 class Preview
@@ -105,14 +98,14 @@ public:
         status = files.isWhole ? tools::Fine : tools::Trouble;
         const bool compares = !second.isEmpty();
         for (const QString &name : files.names) {
-            std::optional<Input> input = read(name);
-            if (!input) {
+            const std::optional<QByteArray> bytes = read(name);
+            if (!bytes) {
                 status = tools::Trouble;
                 continue;
             }
-            Document document = documentOf(*input);
+            const Document document = documentOf(name, *bytes);
             if (compares)
-                compared.emplace_back(*std::move(input), std::move(document));
+                compared.push_back({name, *bytes, document});
             else
                 show(name, document, files.names.size() > 1);
         }
@@ -125,8 +118,9 @@ public:
     }
 
 private:
-    /// A file that can be drawn as the options say; what is wrong with another is told.
-    std::optional<Input> read(const QString &name) const
+    /// A request or print file that can be drawn as the options say; what is wrong with another is
+    /// told.
+    std::optional<QByteArray> read(const QString &name) const
     {
         constexpr qint64 PieceBytes = 65'536;
         const std::unique_ptr<QFile> file = tools::openedRequest(call, name);
@@ -141,14 +135,12 @@ private:
             fault = u"it has more than %1 bytes"_s.arg(MostBytes);
         else if (file->error() != QFile::NoError)
             fault = tools::reasonOf(*file);
-        else if (isRequest(bytes))
-            return Input{name, bytes, true};
-        else if (annotates)
+        else if (annotates && !isRequest(bytes))
             fault = u"a print file does not tell the lines of its request"_s;
-        else if (!second.isEmpty())
+        else if (!second.isEmpty() && !isRequest(bytes))
             fault = u"not a print request, which --against renders anew"_s;
         else
-            return Input{name, bytes};
+            return bytes;
         tools::tellTrouble(call, name, fault);
         return std::nullopt;
     }
@@ -156,22 +148,22 @@ private:
     /// The document of a print file, or of a request with the configuration that is in use, which
     /// is loaded when the first request comes. What cannot be printed to its end, or prints
     /// nothing, is told.
-    Document documentOf(const Input &input)
+    Document documentOf(const QString &name, const QByteArray &bytes)
     {
-        if (input.isRequest && !std::exchange(isConfigured, true)
+        const bool renders = isRequest(bytes);
+        if (renders && !std::exchange(isConfigured, true)
             && !tools::useConfiguration(call, first, labels))
             tools::tellTrouble(
                 call, nameOfFirst(),
                 u"no such file: every setting has its default; `zentaro config init` writes one"_s);
         const QScopedValueRollback<std::FILE *> errors(text::diagnostics, stderr);
-        Document document =
-            input.isRequest ? render(input.bytes, annotates) : Document{input.bytes, codec, {}, {}};
+        Document document = renders ? render(bytes, annotates) : Document{bytes, codec, {}, {}};
         if (!document.fault.isEmpty()) {
-            tools::tellTrouble(call, input.name, document.fault);
+            tools::tellTrouble(call, name, document.fault);
             status = qMax(status, int(tools::Findings));
         }
         if (document.printFile.isEmpty())
-            tools::tellTrouble(call, input.name, u"nothing is printed"_s);
+            tools::tellTrouble(call, name, u"nothing is printed"_s);
         return document;
     }
 
@@ -180,7 +172,7 @@ private:
     {
         constexpr qsizetype PieceSize = 65'536; // characters that are written at once
         if (drawsPicture()) {
-            sheets.push_back({QFileInfo(name).fileName(), rows(document), {}});
+            sheets.push_back({QFileInfo(name).fileName(), rows(document)});
             return;
         }
         QString text = isOneOfSeveral ? tools::inOneLine(name) + ":\n"_L1 : QString();
@@ -190,10 +182,10 @@ private:
         drawRows(document, columns, [&](const Row &row) {
             text += drawing.drawn(row) + u'\n';
             if (text.size() > PieceSize)
-                print(std::exchange(text, {}));
+                tools::printOut(std::exchange(text, {}));
             return true;
         });
-        print(text);
+        tools::printOut(text);
     }
 
     /// Renders the requests with the second configuration too, and shows those that change.
@@ -201,34 +193,34 @@ private:
     {
         tools::useConfiguration(call, second, labels);
         int changes = 0;
-        for (const auto &[request, before] : compared) {
-            const Document after = documentOf(request);
+        for (const auto &[name, request, before] : compared) {
+            const Document after = documentOf(name, request);
             if (after.printFile == before.printFile)
                 continue;
             ++changes;
             status = qMax(status, int(tools::Findings));
-            showChange(request.name, before, after);
+            showChange(name, before, after);
         }
-        print(u"%1 of %2 documents change\n"_s.arg(changes).arg(compared.size()));
+        tools::printOut(u"%1 of %2 documents change\n"_s.arg(changes).arg(compared.size()));
     }
 
     /// As text, and as two sheets of the picture.
     void showChange(const QString &name, const Document &before, const Document &after)
     {
         const QString title = QFileInfo(name).fileName() + ", "_L1;
-        Sheet old{title + QFileInfo(nameOfFirst()).fileName(), rows(before), {}};
-        Sheet changed{title + QFileInfo(second).fileName(), rows(after), {}};
+        Sheet old{title + QFileInfo(nameOfFirst()).fileName(), rows(before)};
+        Sheet changed{title + QFileInfo(second).fileName(), rows(after)};
+        markChanges(old.rows, changed.rows);
         const bool isColoured = isatty(STDOUT_FILENO) != 0
                                 && qEnvironmentVariableIsEmpty("NO_COLOR")
                                 && qgetenv("TERM") != "dumb";
         const QString line = u"%1 %2\t%3\n"_s;
-        print(line.arg(u"---"_s, tools::inOneLine(name), tools::inOneLine(nameOfFirst()))
-              + line.arg(u"+++"_s, tools::inOneLine(name), tools::inOneLine(second))
-              + unifiedDifference(old.rows, changed.rows, TerminalDrawing(text::localeCodec(), 0),
-                                  isColoured));
+        tools::printOut(line.arg(u"---"_s, tools::inOneLine(name), tools::inOneLine(nameOfFirst()))
+                        + line.arg(u"+++"_s, tools::inOneLine(name), tools::inOneLine(second))
+                        + unifiedDifference(old.rows, changed.rows,
+                                            TerminalDrawing(text::localeCodec(), 0), isColoured));
         if (std::max(old.rows.size(), changed.rows.size()) > MostRows)
-            print(u"... only the first %1 lines are shown\n"_s.arg(MostRows));
-        markChanges(old, changed);
+            tools::printOut(u"... only the first %1 lines are shown\n"_s.arg(MostRows));
         sheets.push_back(std::move(old));
         sheets.push_back(std::move(changed));
     }
@@ -248,10 +240,10 @@ private:
     int columns = 0;                         // of the paper; 0: not said
     PictureOptions picture;
     QTranslator labels;
-    bool isConfigured = false;                        // print files need no configuration
-    int status = tools::Fine;                         // so far
-    std::vector<std::pair<Input, Document>> compared; // with the first configuration
-    std::vector<Sheet> sheets;                        // of a picture
+    bool isConfigured = false; // print files need no configuration
+    int status = tools::Fine;  // so far
+    std::vector<Compared> compared;
+    std::vector<Sheet> sheets; // of a picture
 };
 
 } // namespace

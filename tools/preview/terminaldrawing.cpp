@@ -12,13 +12,37 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// `begin,count` of one sheet's rows in a hunk, counted from 1.
-QString rangeOf(std::span<const RowPair> above, std::span<const RowPair> hunk,
-                qsizetype RowPair::*member)
+/// A row of a difference: `-` or `+` where only one document has it, else a blank.
+struct SignedRow
 {
-    const auto has = [member](const RowPair &pair) { return pair.*member >= 0; };
+    QChar sign;
+    const Row *row;
+};
+
+/// `begin,count` of one document's rows in a hunk, counted from 1; it lacks those of a sign.
+QString rangeOf(std::span<const SignedRow> above, std::span<const SignedRow> hunk, QChar lacks)
+{
+    const auto has = [lacks](const SignedRow &row) { return row.sign != lacks; };
     const auto count = std::ranges::count_if(hunk, has);
     return u"%1,%2"_s.arg(std::ranges::count_if(above, has) + (count > 0 ? 1 : 0)).arg(count);
+}
+
+/// Between what both have, first all that goes, then all that comes.
+std::vector<SignedRow> signedRows(const std::vector<Row> &before, const std::vector<Row> &after)
+{
+    std::vector<SignedRow> rows;
+    const size_t most = std::min(before.size(), MostRows);
+    for (size_t i = 0, j = 0; i < most || j < std::min(after.size(), MostRows);) {
+        if (i < most && before[i].isChanged)
+            rows.push_back({u'-', &before[i++]});
+        else if (i == most || after[j].isChanged)
+            rows.push_back({u'+', &after[j++]});
+        else {
+            rows.push_back({u' ', &before[i++]});
+            ++j;
+        }
+    }
+    return rows;
 }
 
 QString coloured(const QString &line)
@@ -109,12 +133,11 @@ QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row>
                           const TerminalDrawing &drawing, bool inColours)
 {
     constexpr size_t Context = 3;
-    const auto isChange = [](const RowPair &pair) { return pair.before < 0 || pair.after < 0; };
-    const std::vector<RowPair> pairs = comparedRows(before, after);
-    std::vector<bool> isShown(pairs.size());
-    for (size_t i = 0; i < pairs.size(); ++i) {
-        const size_t last = std::min(pairs.size(), i + Context + 1);
-        for (size_t j = i - std::min(i, Context); j < last && isChange(pairs[i]); ++j)
+    const std::vector<SignedRow> rows = signedRows(before, after);
+    std::vector<bool> isShown(rows.size());
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const size_t last = std::min(rows.size(), i + Context + 1);
+        for (size_t j = i - std::min(i, Context); j < last && rows[i].row->isChanged; ++j)
             isShown[j] = true;
     }
     QString text;
@@ -126,16 +149,11 @@ QString unifiedDifference(const std::vector<Row> &before, const std::vector<Row>
         if (begin == isShown.end())
             return text;
         end = std::find(begin, isShown.end(), false);
-        const auto above = std::span(pairs).first(size_t(begin - isShown.begin()));
-        const auto hunk = std::span(pairs).subspan(above.size(), size_t(end - begin));
-        addLine(u"@@ -%1 +%2 @@"_s.arg(rangeOf(above, hunk, &RowPair::before),
-                                       rangeOf(above, hunk, &RowPair::after)));
-        for (const RowPair &pair : hunk) {
-            const QChar sign = pair.after < 0 ? u'-' : pair.before < 0 ? u'+' : u' ';
-            addLine(sign
-                    + drawing.drawn(pair.before >= 0 ? before[size_t(pair.before)]
-                                                     : after[size_t(pair.after)]));
-        }
+        const auto above = std::span(rows).first(size_t(begin - isShown.begin()));
+        const auto hunk = std::span(rows).subspan(above.size(), size_t(end - begin));
+        addLine(u"@@ -%1 +%2 @@"_s.arg(rangeOf(above, hunk, u'+'), rangeOf(above, hunk, u'-')));
+        for (const auto &[sign, row] : hunk)
+            addLine(sign + drawing.drawn(*row));
     }
 }
 

@@ -73,8 +73,9 @@ PaperPane::PaperPane(ConfigTree &tree)
     fading.setSingleShot(true);
     fading.setInterval(MarkedFor);
     connect(&fading, &QTimer::timeout, this, [this] {
+        for (preview::Row &row : sheet.rows)
+            row.isChanged = false;
         settled = sheet.rows;
-        sheet.changed.clear();
         view->viewport()->update();
     });
     addSamples();
@@ -220,29 +221,26 @@ std::vector<preview::Row> PaperPane::printed()
 
 void PaperPane::draw()
 {
-    preview::Sheet before{{}, settled, {}};
-    sheet = {{}, printed(), {}};
+    sheet.rows = printed();
     if (settled.empty())
         settled = sheet.rows; // of another document
     else
-        preview::markChanges(before, sheet);
+        preview::markChanges(settled, sheet.rows);
     layOut();
     fading.start();
 }
 
-bool PaperPane::shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row)
+bool PaperPane::shapes(QTreeWidgetItem *item, std::vector<preview::Row> &rows, size_t row)
 {
     const Setting *const setting = tree.settingOf(item);
     const QString text = item->text(0);
     const auto [key, value] = libconfig::settingOf(text);
     for (const QString &other : setting ? otherValues(*setting, value) : QStringList()) {
         item->setText(0, libconfig::settingText(key, other));
-        const std::vector<preview::Row> others = printed();
+        std::vector<preview::Row> others = printed();
         item->setText(0, text);
-        const auto pairs = preview::comparedRows(rows, others);
-        if (std::ranges::any_of(pairs, [row](const preview::RowPair &pair) {
-                return pair.before == qsizetype(row) && pair.after < 0;
-            }))
+        preview::markChanges(rows, others);
+        if (row < rows.size() && rows[row].isChanged)
             return true;
     }
     return false;
@@ -253,7 +251,7 @@ void PaperPane::explain(size_t row)
 {
     QList<QTreeWidgetItem *> shaping;
     QStringList names;
-    const std::vector<preview::Row> rows = printed();
+    std::vector<preview::Row> rows = printed();
     for (QTreeWidgetItem *const group : tree.groups()) {
         for (int i = 0; groups.contains(group->text(0)) && i < group->childCount(); ++i) {
             QTreeWidgetItem *const item = group->child(i);

@@ -46,7 +46,7 @@ private:
     void layOut();
     void explain(size_t row);
     std::vector<preview::Row> printed();
-    bool shapes(QTreeWidgetItem *item, const std::vector<preview::Row> &rows, size_t row);
+    bool shapes(QTreeWidgetItem *item, std::vector<preview::Row> &rows, size_t row);
 
     ConfigTree &tree;
     ZTConfiguration configuration{{}, {}}; // the tree's, unsaved, which the print run asks

@@ -184,9 +184,8 @@ void SheetPainter::paintRow(QPainter &painter, const Colours &colours, size_t in
 {
     const Row &row = sheet.rows[index];
     const int y = top(index);
-    const bool isChanged = index < sheet.changed.size() && sheet.changed[index];
-    const Colours::Ground &paper = isChanged ? colours.changed : colours.paper;
-    if (isChanged)
+    const Colours::Ground &paper = row.isChanged ? colours.changed : colours.paper;
+    if (row.isChanged)
         painter.fillRect(left + line, y, paperWidth - 2 * line, 2 * cell, paper.ground);
     const auto &[mark, note, offset] = asides[index];
     write(painter, QPointF(left - (int(mark.size()) + 1) * cell, y), mark, colours.desk.ink);
