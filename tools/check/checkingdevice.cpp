@@ -5,8 +5,6 @@
 
 #include <QTextCodec>
 
-#include <algorithm>
-
 namespace requestcheck {
 
 using namespace Qt::StringLiterals;
@@ -56,7 +54,7 @@ bool CheckingDevice::startElement(const QString &, const QString &, const QStrin
     elementName = qName;
     atts = ownAttributes(attributes);
     row = nullptr;
-    hasPrinted = false;
+    lastLine.reset();
     if (qName != element::method)
         checkElement();
     else if (!startMethod())

@@ -4,9 +4,6 @@
 #include "render/vocabulary.h"
 #include "tools/terminal.h"
 
-#include <algorithm>
-#include <array>
-
 namespace requestcheck {
 
 using namespace Qt::StringLiterals;
@@ -35,8 +32,6 @@ constexpr quint16 Invoices = FullInvoice | AbstractInvoice;
 constexpr quint16 Fiscals = FullFiscal | AbstractFiscal;
 constexpr quint16 WithCustomer = Tickets | Full | FullReceipt | Invoices;
 constexpr quint16 Lists = WithCustomer | Receipts | Report | Sold | Statement;
-
-constexpr quint16 Types = AbstractReceipt | AbstractInvoice;
 
 // In the order of documentMethods.
 constexpr std::array summaries{
@@ -192,7 +187,7 @@ constexpr auto rows = std::to_array<ElementRow>({
     {element::receipe, FullReceipt | FullInvoice,
      "the column titles above the first item, and the item"_L1, pricedItem, Role::Item},
     {element::variant, Full, change, pricedVariant},
-    {element::receipeType, Types,
+    {element::receipeType, AbstractReceipt | AbstractInvoice,
      "the column titles above the first line, and the type with its amount"_L1, itemType,
      Role::Item},
     {element::total, Full | Receipts, "an empty line and the total"_L1, total, Role::Total},
@@ -333,9 +328,8 @@ Fate fateOf(const ElementRow &row, const QXmlAttributes &atts, int position,
     const QString name = atts.qName(position);
     const AttributeUse *const use = row.find(name);
     const bool isNamed = use && atts.index(name) == position; // the first where two bear the name
-    constexpr int FirstOfTriples = 2;
-    const bool isInOrder =
-        row.rest == Rest::InOrder || (row.rest == Rest::Triples && position >= FirstOfTriples);
+    const bool isInOrder = (row.rest == Rest::InOrder || row.rest == Rest::Triples)
+                           && position >= int(row.attributes.size());
     if (!isNamed && !isInOrder)
         return Fate::Unread;
     if (isNamed && !use->isPrinted)

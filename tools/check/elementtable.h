@@ -42,8 +42,8 @@ struct AttributeUse
 /// What an element reads beside its named attributes.
 enum class Rest {
     Nothing,
-    InOrder, ///< all of them, one after the other, whatever their names
-    Triples, ///< from the third on, three for each document, whatever their names
+    InOrder, ///< those behind them, one after the other, whatever their names
+    Triples, ///< likewise, three for each document
     Ignored, ///< the element prints nothing, and takes any
 };
 

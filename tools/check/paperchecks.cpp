@@ -7,7 +7,6 @@
 
 #include <QTextCodec>
 
-#include <algorithm>
 #include <cmath>
 
 namespace requestcheck {
@@ -144,9 +143,8 @@ void CheckingDevice::println(unsigned int indent, const QString &text)
     CompanyPrinterDriver::println(0, {});
     const qsizetype pad = paper.size() - size - Frame;
     lastLine = paper.sliced(1 + pad, size);
-    hasPrinted = true;
-    if (!hasControl(lastLine) && !preview::isRule(lastLine, settings.paperWidth))
-        checkLine(lastLine, pad);
+    if (!hasControl(*lastLine) && !preview::isRule(*lastLine, settings.paperWidth))
+        checkLine(*lastLine, pad);
 }
 
 void CheckingDevice::checkLine(const QString &text, qsizetype pad)
@@ -223,7 +221,7 @@ void CheckingDevice::tellTooLong(const QString &text)
 /// Whether the description of an item stands whole in the line that it was printed in last.
 void CheckingDevice::checkDescription()
 {
-    if (!row || !hasPrinted)
+    if (!row || !lastLine)
         return;
     const auto uses = row->attributes;
     const auto use = std::ranges::find(uses, Column::Description, &AttributeUse::column);
@@ -232,10 +230,10 @@ void CheckingDevice::checkDescription()
     QString text = valueOf(atts, use->name);
     if (row->element == element::statement)
         text = tr(text.toUtf8().constData()); // the only description that is translated
-    if (hasControl(text) || lastLine.contains(asPrinted(text)))
+    if (hasControl(text) || lastLine->contains(asPrinted(text)))
         return;
     qsizetype printed = qBound(qsizetype(0), qsizetype(settings.paperWidth), text.size());
-    while (printed > 0 && !lastLine.contains(asPrinted(text.first(printed))))
+    while (printed > 0 && !lastLine->contains(asPrinted(text.first(printed))))
         --printed;
     tellCut(use->name, text.sliced(printed));
 }

@@ -91,7 +91,7 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
         if (asJson)
             kept.push_back(std::move(file));
         else
-            status = qMax(status, tools::printOut(findingLines(file.fileName, file.findings)));
+            tools::printOut(findingLines(file.fileName, file.findings));
     };
     if (!isConfigured)
         add({ZTConfiguration::userFile(),
@@ -111,7 +111,9 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
         }
         add(std::move(file));
     }
-    return asJson ? qMax(status, tools::printBytes(tools::findingsAsJson(kept))) : status;
+    if (asJson)
+        tools::printBytes(tools::findingsAsJson(kept));
+    return status;
 }
 
 } // namespace

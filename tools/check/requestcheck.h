@@ -144,8 +144,7 @@ private:
     const bool isConfigured;
     QTextCodec *requestCodec = nullptr; // of eight bits, which the request names; null: another
     QString paper;                      // what was written since it was last looked at
-    QString lastLine;                   // printed for the element, without its frame
-    bool hasPrinted = false;            // the element
+    std::optional<QString> lastLine;    // printed for the element, without its frame
     bool isPrinterName = false;
     std::vector<std::pair<QString, qint64>> open; // elements and their lines, the innermost last
     std::optional<tools::Finding> unlessGroup;    // about the innermost, unless it groups others

@@ -7,7 +7,6 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-#include <algorithm>
 #include <bit>
 
 namespace schema {
