@@ -18,7 +18,6 @@ public:
     HLogManager() = default;
     HLogManager(const HLogManager &) = delete;
     HLogManager &operator=(const HLogManager &) = delete;
-    ~HLogManager();
 
     /// Stores a new Logger(name) under the key. A Logger that was there stays alive, its file open,
     /// as long as the manager: who took it may go on using it.
@@ -28,6 +27,6 @@ public:
     Logger *getLog(QString const &key);
 
 private:
-    QMap<QString, Logger *> loggers;               // owned; an entry may be null
-    std::vector<std::unique_ptr<Logger>> replaced; // by later ones under the same key
+    QMap<QString, Logger *> loggers;            // an entry may be null
+    std::vector<std::unique_ptr<Logger>> owned; // also those that later ones have replaced
 };

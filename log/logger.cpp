@@ -46,8 +46,6 @@ Logger::Logger(QString const &)
     debug(u"Start Logger"_s);
 }
 
-Logger::~Logger() = default;
-
 void Logger::setLevel(QString const &levelName)
 {
     level = DEBUG;
@@ -83,15 +81,10 @@ void Logger::write(Logger::Level lvl, QString const &text)
     }
 }
 
-HLogManager::~HLogManager() { qDeleteAll(loggers); }
-
 void HLogManager::set(QString const &name, QString const &key)
 {
-    auto logger = std::make_unique<Logger>(name);
-    Logger *&entry = loggers[key.isEmpty() ? QString(DefaultKey) : key];
-    if (entry)
-        replaced.emplace_back(entry);
-    entry = logger.release();
+    loggers[key.isEmpty() ? QString(DefaultKey) : key] =
+        owned.emplace_back(std::make_unique<Logger>(name)).get();
 }
 
 Logger *HLogManager::getLog(QString const &key)

@@ -28,7 +28,6 @@ public:
     explicit Logger(QString const &name);
     Logger(const Logger &) = delete;
     Logger &operator=(const Logger &) = delete;
-    ~Logger();
 
     /// Sets the threshold, below which lines are dropped, by its name in any letter case ("DEBUG"
     /// to "FATAL"). Any other text gives DEBUG.
