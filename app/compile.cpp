@@ -27,13 +27,6 @@ namespace {
     std::_Exit(0);
 }
 
-void printRequest(const QString &requestName, const QString &printName)
-{
-    CompanyPrinterDriver driver(printName);
-    QFile request(requestName);
-    requestreader::read(request, driver); // a fault ends the document where it stands
-}
-
 /// What must not end the run, or reach the print file, from outside of it.
 void shieldFromEnvironment()
 {
@@ -63,5 +56,7 @@ void compile(int argc, char **argv)
     QTranslator translator; // without a translation the texts stay as they are
     loadTranslation(translator, *SyncSingleton<ZTConfiguration>::instance());
     QCoreApplication::installTranslator(&translator);
-    printRequest(requestName, printName);
+    CompanyPrinterDriver driver(printName);
+    QFile request(requestName);
+    requestreader::read(request, driver); // a fault ends the document where it stands
 }

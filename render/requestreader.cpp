@@ -20,11 +20,6 @@ public:
     {
     }
 
-    /// Why the reading was stopped from here, if it was.
-    std::optional<Stop> reason() const { return stop; }
-    /// The reader's word for the fault that it met.
-    const QString &fault() const { return faultText; }
-
     bool startDTD(const QString &, const QString &, const QString &) override
     {
         source.setInDocumentType(true);
@@ -42,7 +37,7 @@ public:
     }
     bool fatalError(const QXmlParseException &exception) override
     {
-        faultText = exception.message();
+        fault = exception.message();
         return false;
     }
 
@@ -53,9 +48,8 @@ public:
                       const QXmlAttributes &atts) override
     {
         source.elementBegan();
-        if (!go(++depth <= MaxDepth, Stop::Depth))
-            return false;
-        return go(target.startElement(namespaceURI, localName, qName, atts), Stop::Refused);
+        return go(++depth <= MaxDepth, Stop::Depth)
+               && go(target.startElement(namespaceURI, localName, qName, atts), Stop::Refused);
     }
     bool endElement(const QString &namespaceURI, const QString &localName,
                     const QString &qName) override
@@ -71,19 +65,20 @@ public:
     /// No document reads text; a handler learns here where the tag after it begins.
     bool characters(const QString &text) override { return target.characters(text); }
 
+    Stop reason = Stop::Fault; ///< why the reading was stopped, where it was
+    QString fault;             ///< the reader's word for the one that it met
+
 private:
     /// Answers `fine`, and keeps the reason where it is not.
     bool go(bool fine, Stop otherwise)
     {
         if (!fine)
-            stop = otherwise;
+            reason = otherwise;
         return fine;
     }
 
     QXmlContentHandler &target;
     RequestSource &source;
-    std::optional<Stop> stop;
-    QString faultText;
     int depth = 0; // of the element that is being read; the root has 1
 };
 
@@ -129,13 +124,12 @@ bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer)
     reader.setLexicalHandler(&filter);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
-    if (observer)
-        reader.setErrorHandler(&filter);
+    reader.setErrorHandler(&filter);
     const bool complete = reader.parse(&source);
     if (complete)
         source.tell();
     else
-        source.tellStop(filter.reason(), filter.fault());
+        source.tellStop(filter.reason, filter.fault);
     return complete;
 }
 

@@ -56,8 +56,7 @@ public:
     virtual ~Observer() = default;
     /// What the reader took since it was last told, a piece of it at most: told before the handler
     /// gets an element, whose tag it then ends with, or an undeclared entity, and when the reading
-    /// ends. `utf8`: whether
-    /// the request is in UTF-8.
+    /// ends. `utf8`: whether the request is in UTF-8.
     virtual void taken(QStringView text, bool utf8) = 0;
     /// The reading ended early, at the last character taken; `fault` is the reader's word for it.
     virtual void stopped(Stop why, const QString &fault) = 0;
@@ -65,9 +64,8 @@ public:
 
 /// Hands the elements of a request, and the text between them, to `handler` until its end, the
 /// first fault in the XML, or the first event that the handler answers with false. Declarations of
-/// name spaces come as attributes: ownAttributes() tells them apart. `request` need
-/// not be open; one that cannot be opened or read is an empty request. Answers whether the end was
-/// reached.
+/// name spaces come as attributes: ownAttributes() tells them apart. `request` need not be open;
+/// one that cannot be opened or read is an empty request. Answers whether the end was reached.
 bool read(QIODevice &request, QXmlContentHandler &handler, Observer *observer = nullptr);
 
 } // namespace requestreader

@@ -35,13 +35,13 @@ RequestSource::RequestSource(QIODevice &request, Observer *observer)
         request.open(QIODevice::ReadOnly | QIODevice::Unbuffered); // else there is nothing to read
 }
 
-void RequestSource::tellStop(std::optional<Stop> otherwise, const QString &fault)
+void RequestSource::tellStop(Stop otherwise, const QString &fault)
 {
     if (!observer)
         return;
     tell();
     const bool endMark = at != text.cbegin() && isEndMark(at[-1]);
-    observer->stopped(stop ? *stop : otherwise.value_or(Stop::Fault),
+    observer->stopped(stop.value_or(otherwise),
                       endMark ? QStringLiteral("a character that XML does not allow") : fault);
 }
 

@@ -53,7 +53,7 @@ public:
     }
     /// Tells it that the reading ended early: by the source's own limits, for `otherwise`, or at a
     /// fault, for which `fault` is the reader's word.
-    void tellStop(std::optional<Stop> otherwise, const QString &fault);
+    void tellStop(Stop otherwise, const QString &fault);
 
 private:
     static constexpr int PieceBytes = 16 * 1'024;
