@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "render/companyprinterdriver.h"
 
-#include "render/rowlayout.h"
 #include "render/vocabulary.h"
 
 #include <QStringBuilder>

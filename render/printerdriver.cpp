@@ -7,8 +7,6 @@
 #include "text/localeencoding.h"
 #include "text/standardoutput.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,10 +27,7 @@ PrinterDriver::PrinterDriver(const QString &fileName, bool append)
     : PrinterDriver(limitedFile(fileName))
 {
     // The stream gathers what is written; a second buffer would forget why a write failed.
-    QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    if (append)
-        mode |= QIODevice::Append;
-    if (file->open(mode))
+    if (file->open((append ? QIODevice::Append : QIODevice::WriteOnly) | QIODevice::Unbuffered))
         stream = std::make_unique<QTextStream>(file.get());
     else
         text::printLine("PrintManager::printAbstractOrder(...): Unable To Open File");
@@ -52,15 +47,15 @@ PrinterDriver::~PrinterDriver()
 {
     if (!stream)
         return; // that the file could not be opened was told
+    QString fault;
     stream->flush();
-    bool isWhole = stream->status() == QTextStream::Ok && file->error() == QFileDevice::NoError;
-    QString fault = file->errorString(); // closing forgets it
+    if (stream->status() != QTextStream::Ok || file->error() != QFileDevice::NoError)
+        fault = file->errorString(); // closing forgets it
     file->close();
-    if (isWhole && file->error() != QFileDevice::NoError) { // a server's disk may tell so late
-        isWhole = false;
+    if (fault.isEmpty()
+        && file->error() != QFileDevice::NoError) // a server's disk may tell so late
         fault = file->errorString();
-    }
-    if (!isWhole)
+    if (!fault.isEmpty())
         tellIncomplete(text::toLocale(fault));
 }
 
@@ -135,7 +130,7 @@ void PrinterDriver::loadValues(const QString &type)
     if (settings.paperWidth == 0)
         settings.paperWidth = int(getPaperWidth());
     settings.style = setting("style"_L1);
-    descriptionWidth = {};
+    descriptionWidth.reset();
 }
 
 /// The setting of the current document type; empty when the configuration has none.

@@ -158,12 +158,10 @@ protected:
     std::unique_ptr<QTextStream> stream; ///< all output; null when the file could not be opened
     bool duplicate = false;
     bool oneTimeDone = false;
-    QString justify;     ///< "left" or "center"
-    QString docPath;     ///< prefix of the configuration keys, as "zentaro.doc."
-    QString printerInfo; ///< the printer's name
-    QString charsize;    ///< as the request gives it; not read
-    QString ipaddress;   ///< as the request gives it; not read
-    QString port;        ///< as the request gives it; not read
+    QString justify;                   ///< "left" or "center"
+    QString docPath;                   ///< prefix of the configuration keys, as "zentaro.doc."
+    QString printerInfo;               ///< the printer's name
+    QString charsize, ipaddress, port; ///< as the request gives them; not read
     DocumentSettings settings;
     QString credit; ///< the order's credit, when it is printed
 
@@ -189,5 +187,5 @@ private:
     QString methodName;                     ///< currentMethod, when the method was last needed
     const DocumentMethod *method = nullptr; ///< the one of that name, or null
     std::optional<ColumnTitles> translatedTitles; ///< once they were needed
-    std::pair<QString, int> descriptionWidth;     ///< characters, and the docPath that they are of
+    std::optional<int> descriptionWidth;          ///< characters, once it was needed
 };

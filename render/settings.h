@@ -80,8 +80,7 @@ enum class SettingKind {
 /// A setting of the suite's configuration, `zentaro.GROUP.WORD`.
 struct Setting
 {
-    QLatin1StringView
-        group; ///< empty for a setting of documents, which the groups of their types have
+    QLatin1StringView group; ///< empty for a setting of documents: each type of them has its own
     QLatin1StringView word;
     SettingKind kind;
     QLatin1StringView byDefault; ///< what counts where the configuration gives none
