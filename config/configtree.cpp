@@ -102,10 +102,9 @@ std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &e
     std::vector<Attribute> result;
     for (const QString &name : names.value(Identity::of(element))) {
         if (present.contains(name))
-            result.push_back({name, present.take(name)});
+            result.emplace_back(name, present.take(name));
     }
-    for (const auto &[name, value] : present.asKeyValueRange())
-        result.push_back({name, value});
+    result.insert(result.end(), present.constKeyValueBegin(), present.constKeyValueEnd());
     return result;
 }
 

@@ -45,11 +45,7 @@ void walkElements(QDomNode node, Enter enter, Leave leave = {})
 class ConfigTree : public Config::Tree
 {
 public:
-    struct Attribute
-    {
-        QString name;
-        QString value;
-    };
+    using Attribute = std::pair<QString, QString>; ///< name and value
 
     ConfigTree() = default;
     Q_DISABLE_COPY_MOVE(ConfigTree)

@@ -99,11 +99,8 @@ QString HLibrary::dataPath() { return QFile::decodeName(text::homeFolder()); }
 
 void HLibrary::touch(const QString &path)
 {
-    if (path.isEmpty()) // of which the toolkit complains on standard error
-        return;
-    QFile file(text::nameOfNewFile(QFile::encodeName(path)));
-    if (file.open(QIODevice::WriteOnly))
-        file.close();
+    if (!path.isEmpty()) // of which the toolkit complains on standard error
+        QFile(text::nameOfNewFile(QFile::encodeName(path))).open(QIODevice::WriteOnly);
 }
 
 QString HLibrary::getNewRand()
@@ -159,9 +156,9 @@ QString HLibrary::pathWithBinaryFile(const QString &file)
 
 QString HLibrary::getCoreFile()
 {
-    const QStringList names =
-        QDir::current().entryList({u"core*"_s}, QDir::Files | QDir::CaseSensitive);
-    return names.value(0, u""_s);
+    return QDir::current()
+        .entryList({u"core*"_s}, QDir::Files | QDir::CaseSensitive)
+        .value(0, u""_s);
 }
 
 void HLibrary::askForSheet()

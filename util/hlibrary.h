@@ -48,8 +48,8 @@ public:
     ///
     /// Asking is a message box in a program with windows, which the application's thread shows: a
     /// copy on another thread waits for that, so the application's thread must not wait for the
-    /// copy, or both stand still. Elsewhere, if standard input is a
-    /// terminal, a line on it and a wait for Enter; otherwise a line on standard output.
+    /// copy, or both stand still. Elsewhere, if standard input is a terminal, a line on it and a
+    /// wait for Enter; otherwise a line on standard output.
     ///
     /// Answers false when a file does not open, when reading or writing fails, and for a file on
     /// itself, which stays as it is.
