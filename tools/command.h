@@ -16,26 +16,24 @@ namespace configtool {
 struct Source;
 }
 
+// The commands, as `zentaro check`: what each does stands in the table of them. All answer an exit
+// status.
+
 namespace preview {
 struct Sheet;
 struct PictureOptions;
-/// `zentaro preview`: shows what will be printed, on the terminal or in a picture.
 int run(const tools::Call &call);
 } // namespace preview
 
 namespace requestcheck {
-/// `zentaro check`: tells what is wrong with print requests.
 int run(const tools::Call &call);
 } // namespace requestcheck
 
 namespace schema {
-/// `zentaro schema`: the form of print requests, for editors and validators.
 int run(const tools::Call &call);
 } // namespace schema
 
 namespace queuetool {
-/// `zentaro queue`: the print scheduler's queues of receipt printers, through the scheduler's own
-/// commands, which get names and addresses as arguments and are shown with `--verbose`.
 int run(const tools::Call &call);
 } // namespace queuetool
 

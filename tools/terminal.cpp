@@ -131,16 +131,10 @@ void FindingStore::add(Finding finding)
         kept.push_back(std::move(finding));
 }
 
-bool FindingStore::isFull(QLatin1StringView code) const
-{
-    const auto count = counts.find(code);
-    return count != counts.end() && count->second >= MostOfACode;
-}
-
 std::vector<Finding> FindingStore::take()
 {
     sortByPlace(kept);
-    for (const auto &[code, count] : std::exchange(counts, {})) {
+    for (const auto &[code, count] : std::exchange(counts, {}).toStdMap()) {
         if (count > MostOfACode)
             kept.push_back(
                 {Severity::Note, code, Finding::tr("%1 more like this").arg(count - MostOfACode)});

@@ -3,9 +3,9 @@
 
 #include <QCoreApplication>
 #include <QFileDevice>
+#include <QMap>
 
 #include <compare>
-#include <map>
 #include <span>
 #include <vector>
 
@@ -76,14 +76,14 @@ class FindingStore
 public:
     void add(Finding finding);
     /// Whether another finding of this code would only be counted.
-    bool isFull(QLatin1StringView code) const;
+    bool isFull(QLatin1StringView code) const { return counts.value(code) >= MostOfACode; }
     /// The findings in the order of their places; a last one of a code counts those left out. The
     /// store is empty then.
     std::vector<Finding> take();
 
 private:
     std::vector<Finding> kept;
-    std::map<QLatin1StringView, qint64> counts;
+    QMap<QLatin1StringView, qint64> counts;
 };
 
 /// The findings in the order of their places, a hundred of a code at most, as a FindingStore has

@@ -29,7 +29,8 @@ QString inShell(QString word)
                : word;
 }
 
-/// The options and arguments of a command about queues, and the scheduler's commands that do it.
+/// The options and arguments of a command about queues, and the scheduler's commands that do it,
+/// which get names and addresses as arguments.
 struct QueueCommand : CommandLine
 {
     QueueCommand(const Call &call, const QString &description)

@@ -11,6 +11,7 @@
 
 #include <QFileInfo>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace tools {
@@ -64,7 +65,7 @@ RequestFiles requestFiles(const Call &call, const QStringList &words)
         if (word.contains(QChar::ReplacementCharacter))
             leaveOut(call, word, notUtf8, files);
         else if (word != standardInput && !named.exists())
-            leaveOut(call, word, u"No such file or directory"_s, files);
+            leaveOut(call, word, text::systemMessage(ENOENT), files);
         else if (word != standardInput && named.isDir())
             addFolder(call, word, files);
         else
