@@ -275,9 +275,6 @@ TEST_F(Paper, IsDrawnAnewWithWhatIsTyped)
     EXPECT_TRUE(drawn().contains(u" Table: 7"_s)); // not marked
     choose(u"Undo"_s);                             // all that was typed
     EXPECT_EQ(tree->currentItem()->text(0), u"paperWidth = 40");
-    select(u"printTable"_s);
-    choose(u"Switch On or Off"_s);
-    EXPECT_FALSE(drawn().contains(u" Table: 7"_s));
     EXPECT_TRUE(QTest::qWaitFor([this] { return drawn().filter(u"*"_s).isEmpty(); }));
 
     const QByteArray before = saved();

@@ -51,11 +51,6 @@ bool nestsTooDeep(const Outline &outline)
     return std::ranges::any_of(levels, [](int level) { return level > Most; });
 }
 
-std::pair<qint64, qint64> placeOf(const auto &found)
-{
-    return {found.at.begin.line, found.at.begin.column};
-}
-
 /// The item in the tree below `file` that stands for an entry; null where the store has dropped it.
 QTreeWidgetItem *itemOf(const Outline &outline, qsizetype index, QTreeWidgetItem *file)
 {
@@ -268,8 +263,9 @@ void ConfigEditor::showFinding(int row)
         listFindings();
     QTreeWidgetItem *item = subjects.value(row);
     if (row >= 0 && size_t(row) < asRead.faults.size()) { // it stands in or behind its subject
-        const auto next = std::ranges::upper_bound(
-            asRead.entries, placeOf(asRead.faults[size_t(row)]), {}, placeOf<Entry>);
+        const auto next =
+            std::ranges::upper_bound(asRead.entries, asRead.faults[size_t(row)].at.begin, {},
+                                     [](const Entry &entry) { return entry.at.begin; });
         item = itemOf(asRead, next - asRead.entries.begin() - 1, tree->fileItem());
     }
     if (item)

@@ -252,14 +252,15 @@ void PaperPane::explain(size_t row)
     QList<QTreeWidgetItem *> shaping;
     QStringList names;
     std::vector<preview::Row> rows = printed();
-    for (QTreeWidgetItem *const group : tree.groups()) {
-        for (int i = 0; groups.contains(group->text(0)) && i < group->childCount(); ++i) {
-            QTreeWidgetItem *const item = group->child(i);
-            if (!shapes(item, rows, row))
+    for (const QTreeWidgetItem *const group : tree.groups()) {
+        if (!groups.contains(group->text(0)))
+            continue;
+        for (int i = 0; i < group->childCount(); ++i) {
+            if (!shapes(group->child(i), rows, row))
                 continue;
-            shaping.append(item);
-            names.append(libconfig::settingOf(item->text(0)).first);
-            tree.scrollToItem(item);
+            shaping.append(group->child(i));
+            names.append(tree.settingOf(shaping.last())->word);
+            tree.scrollToItem(shaping.last());
         }
     }
     tree.shade(shaping);
