@@ -237,7 +237,7 @@ void CheckingDevice::checkAttributes()
                                        elementName, currentMethod));
         return;
     }
-    const bool isHidden = row->isHidden(atts);
+    const bool isHidden = row->hidesMarked && valueOf(atts, "name"_L1).startsWith(u'=');
     const bool isRowOff = isOff(settings, row->onlyIf);
     if (isHidden)
         tell("hidden-item", u"an item whose name begins with `=` is not printed"_s,

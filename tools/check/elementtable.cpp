@@ -249,11 +249,6 @@ const AttributeUse *ElementRow::find(QStringView name) const
     return found == attributes.end() ? nullptr : &*found;
 }
 
-bool ElementRow::isHidden(const QXmlAttributes &atts) const
-{
-    return hidesMarked && valueOf(atts, "name"_L1).startsWith(u'=');
-}
-
 bool ElementRow::hasColumns() const
 {
     return std::ranges::any_of(attributes,

@@ -63,8 +63,6 @@ struct ElementRow
     QLatin1StringView setting{}; ///< the key word of another that shapes it, beside the widths
     bool hidesMarked = false;    ///< an item whose name begins with `=` is never printed
 
-    /// Whether it prints nothing with these attributes, whatever the settings.
-    bool isHidden(const QXmlAttributes &atts) const;
     /// The attribute of this name, or null.
     const AttributeUse *find(QStringView name) const;
     /// Whether it is a command of the fiscal printer, which is checked as such.

@@ -224,7 +224,7 @@ public:
     QString drawn(const Row &row) const;
 
 private:
-    QString cellsOf(CellsView cells) const;
+    QString drawnCells(CellsView cells) const;
     QString notesOn(const Row &row) const;
     bool isShown(char32_t c) const;
 

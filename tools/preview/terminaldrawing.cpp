@@ -75,9 +75,9 @@ QString TerminalDrawing::drawn(const Row &row) const
     }};
     constexpr qsizetype MarkWidth = 3; // the longest is `1T`
     const QStringView signs = rows[size_t(row.kind)][frames ? 0 : 1];
-    QString line = row.mark.leftJustified(MarkWidth) + signs[0] + cellsOf(row.onPaper())
+    QString line = row.mark.leftJustified(MarkWidth) + signs[0] + drawnCells(row.onPaper())
                    + QString(row.width - qsizetype(row.onPaper().size()), signs[1]) + signs[2]
-                   + cellsOf(row.beyond());
+                   + drawnCells(row.beyond());
     if (numberWidth > 0)
         line.prepend((row.requestLine > 0 ? QString::number(row.requestLine) : QString())
                          .rightJustified(numberWidth - 1)
@@ -94,7 +94,7 @@ bool TerminalDrawing::isShown(char32_t c) const
     return fillsOneColumn(c) && (!codec || c < 0x80 || codec->canEncode(QString::fromUcs4(&c, 1)));
 }
 
-QString TerminalDrawing::cellsOf(CellsView cells) const
+QString TerminalDrawing::drawnCells(CellsView cells) const
 {
     QString text;
     text.reserve(qsizetype(cells.size()));
