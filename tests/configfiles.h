@@ -2,33 +2,38 @@
 #pragma once
 
 #include "config/config.h"
-#include "tests/support.h"
+#include "tools/config/outline.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
 
-/// Files of configurations, written and read again.
+/// Configurations, written and read again.
 namespace support {
 
 /// The tree of a file with this content, below the file element, whose name is the file's.
-inline QString treeOf(const QByteArray &content, const QString &format = QStringLiteral("cfg"))
+inline QString treeOf(const QByteArray &content, const QString &form = QStringLiteral("cfg"))
 {
-    const Folder folder;
-    const QString path = folder.path(QStringLiteral("file"));
-    writeFile(path, content);
-    return libconfig::Config(path, format).configTreeText().section(u'\n', 2);
+    libconfig::Config config;
+    config.readContent(content, QStringLiteral("conf"), form);
+    return config.configTreeText().section(u'\n', 2);
 }
 
-/// What a file of this content is written as.
-inline QByteArray rewritten(const QByteArray &content, const QString &from = QStringLiteral("cfg"),
-                            const QString &to = QStringLiteral("cfg"))
+/// What a file of the form `from` is written as in the form `to`.
+inline QByteArray rewritten(const QByteArray &content, const QString &from, const QString &to)
 {
-    const Folder folder;
-    const QString out = folder.path(QStringLiteral("out"));
-    writeFile(folder.path(QStringLiteral("in")), content);
-    libconfig::Config config(folder.path(QStringLiteral("in")), from);
-    EXPECT_TRUE(to == QLatin1StringView("cfg") ? config.buildConfigFile(out)
-                                               : config.buildConfigXmlFile(out));
-    return readFile(out);
+    libconfig::Config config;
+    config.readContent(content, QStringLiteral("conf"), from);
+    return config.writtenAs(to).value();
+}
+
+/// Whether the losses are of what the reader dropped already, and the tree is written as it is.
+inline bool areOfTheReader(const std::vector<configtool::Finding> &losses,
+                           const configtool::Outline &outline)
+{
+    return std::ranges::all_of(losses, [&](const configtool::Finding &loss) {
+        return loss.code == QLatin1StringView("lost-duplicate")
+               || (loss.code == QLatin1StringView("lost-group") && !outline.keepsEmptyGroups
+                   && !outline.entries[size_t(loss.subject)].hasMember);
+    });
 }
 
 } // namespace support

@@ -111,7 +111,7 @@ TEST(Completion, KnowsKeysAndValues)
         {u"preview --width-mm 5"_s, u"58"_s},
     };
     for (const auto &[words, offers] : rows)
-        EXPECT_EQ(offered(QStringList(QStringLiteral(ZENTARO_PROGRAM)) + words.split(u' '), home),
+        EXPECT_EQ(offered(QStringList(support::zentaroProgram()) + words.split(u' '), home),
                   offers.split(u' '))
             << words.toStdString();
 }
@@ -126,10 +126,9 @@ TEST(Readme, SetsUpAShop)
         page.section(u"\n## A shop in five minutes\n"_s, 1).section(u"\n## "_s, 0, 0);
     const QString lines = shop.section(u"```sh\n"_s, 2).section(u"```"_s, 0, 0);
     EXPECT_TRUE(lines.startsWith("zentaro config init --columns 42 --language it\n"_L1));
-    const Outcome outcome =
-        support::run(u"sh"_s, {u"-ec"_s, "cd \"$HOME\"\n"_L1 + lines}, home,
-                     {u"PATH="_s + QFileInfo(QStringLiteral(ZENTARO_PROGRAM)).path() + u':'
-                      + qEnvironmentVariable("PATH")});
+    const Outcome outcome = support::run(u"sh"_s, {u"-ec"_s, "cd \"$HOME\"\n"_L1 + lines}, home,
+                                         {u"PATH="_s + QFileInfo(support::zentaroProgram()).path()
+                                          + u':' + qEnvironmentVariable("PATH")});
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors, "");
     EXPECT_FALSE(outcome.output.contains("warning")) << outcome.output.toStdString();

@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/rowlayout.h"
 #include "tests/recordingdevice.h"
-#include "text/localeencoding.h"
-
-#include <QTextCodec>
 
 #include <gtest/gtest.h>
-
-#include <sys/mman.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using support::RecordingDevice;
@@ -114,15 +108,6 @@ TEST(Driver, HeedsADeviceThatDerivesFromIt)
         "\nj\n\"<\n\"<\n\"<\n\" x d<\n\"<\n\" TOTAL<\n\"Num DescriptionPriceAmount<\n\" n<\n");
 }
 
-TEST(Driver, PrintsAMarginWithinReason)
-{
-    support::configure("doc:{printGeometry=true; topMargin=2000000000;};");
-    RecordingDevice device;
-    device.loadValues(u"order"_s);
-    device.printGeometry({});
-    EXPECT_EQ(device.takeCalls(), QByteArray("||\n").repeated(1'000));
-}
-
 /// The print file of a fiscal document.
 template <typename Write>
 QByteArray fiscal(Write write)
@@ -163,31 +148,6 @@ TEST(Device, WritesFiscalCommands)
                   device.print(1, u"never ended"_s);
               }),
               "\na\"@\n\"b\"@\n");
-}
-
-TEST(Device, WritesOnADescriptorInAnyEncoding)
-{
-    const int descriptor = memfd_create("print file", MFD_CLOEXEC);
-    auto file = std::make_unique<text::LocaleFile>(QString(), QTextCodec::codecForName("IBM850"));
-    ASSERT_TRUE(file->open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered));
-    {
-        CompanyPrinterDriver device(std::move(file));
-        device.println(u"Caff\u00E8"_s);
-    }
-    QByteArray bytes(32, '\0');
-    bytes.truncate(pread(descriptor, bytes.data(), size_t(bytes.size()), 0));
-    EXPECT_EQ(bytes, "Caff\x8A\"@\n");
-    ::close(descriptor);
-}
-
-TEST(LocaleEncoding, LosesNoCharacter)
-{
-    EXPECT_EQ(text::encoded(u"\u00E8\U0001F355\u0416", QTextCodec::codecForName("GB18030")),
-              "\xA8\xA8\x94\x39\xB8\x33\xA7\xA8");
-    EXPECT_EQ(text::encoded(u"a\U0001F355", QTextCodec::codecForName("ISO-8859-1")), "a?");
-    EXPECT_EQ(text::encoded(u"\u200B\uFE0F\uFEFF|", QTextCodec::codecForName("ISO-8859-15")),
-              "???|");
-    EXPECT_EQ(text::encoded(u"a\U0001F355", nullptr), "a\U0001F355");
 }
 
 } // namespace

@@ -58,6 +58,36 @@ void expectReference(const QString &reference, const QByteArray &found)
     ADD_FAILURE() << diff.readAll().toStdString();
 }
 
+void expectCases(
+    const QString &reference, const QByteArray &heading, const QByteArray &mark,
+    const std::function<QByteArray(const QByteArray &heading, const QByteArray &lines)> &outcomeOf)
+{
+    QByteArray told;
+    QByteArray before; // of every case
+    QByteArray title;
+    QByteArray lines;
+    const auto finish = [&] {
+        if (title.isEmpty())
+            before = lines;
+        else
+            told += outcomeOf(title, before + lines);
+        lines.clear();
+    };
+    for (const QByteArray &line : readFile(reference).split('\n')) {
+        if (line.startsWith(heading)) {
+            finish();
+            title = line;
+        } else if (line.startsWith(mark)) {
+            lines += line.sliced(mark.size()) + '\n';
+        } else {
+            continue;
+        }
+        told += line + '\n';
+    }
+    finish();
+    expectReference(reference, told);
+}
+
 Folder::~Folder()
 {
     std::error_code ignored; // the toolkit's own removal leaves names that are not UTF-8
@@ -98,11 +128,6 @@ Outcome run(const QString &program, const QStringList &words, const Home &home,
 
 QString zentaroPrintProgram() { return QStringLiteral(ZENTARO_PRINT_PROGRAM); }
 
-Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables)
-{
-    return run(zentaroPrintProgram(), words, home, variables);
-}
-
 QString zentaroProgram() { return QStringLiteral(ZENTARO_PROGRAM); }
 
 Outcome zentaro(const QStringList &words, const Home &home, const QStringList &variables)
@@ -110,13 +135,13 @@ Outcome zentaro(const QStringList &words, const Home &home, const QStringList &v
     return run(zentaroProgram(), words, home, variables);
 }
 
-QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables)
+QByteArray printed(const QByteArray &request, const Home &home)
 {
     const Folder folder;
-    writeFile(folder.path(u"request.xml"_s), request);
+    const QString file = folder.path(u"request.xml"_s);
     const QString printFile = folder.path(u"print.out"_s);
-    const Outcome outcome =
-        zentaroPrint({folder.path(u"request.xml"_s), printFile}, home, variables);
+    writeFile(file, request);
+    const Outcome outcome = run(zentaroPrintProgram(), {file, printFile}, home);
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors, "");

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <ostream>
 
 /// What the tests share: files of their own, and the real programs run as a till runs them.
@@ -26,6 +27,11 @@ void updateReference(const QString &reference, const QByteArray &found);
 /// Fails the test with a diff when what was found is not what the reference file holds, which may
 /// be updated before.
 void expectReference(const QString &reference, const QByteArray &found);
+/// Holds a file of cases against what `outcomeOf` tells anew: under each heading stand the lines of
+/// a case, and then what comes of it. The lines before the first heading go before those of each.
+void expectCases(
+    const QString &reference, const QByteArray &heading, const QByteArray &mark,
+    const std::function<QByteArray(const QByteArray &heading, const QByteArray &lines)> &outcomeOf);
 
 /// A folder that is gone with the object.
 class Folder
@@ -64,9 +70,6 @@ Outcome run(const QString &program, const QStringList &words, const Home &home,
 /// The path of the print compiler.
 QString zentaroPrintProgram();
 
-/// Runs the print compiler.
-Outcome zentaroPrint(const QStringList &words, const Home &home, const QStringList &variables = {});
-
 /// The path of the companion program.
 QString zentaroProgram();
 
@@ -75,7 +78,7 @@ Outcome zentaro(const QStringList &words, const Home &home, const QStringList &v
 
 /// The print file of a request, printed by the real program; fails the test when the program says
 /// anything or its exit status is not 0.
-QByteArray printed(const QByteArray &request, const Home &home, const QStringList &variables = {});
+QByteArray printed(const QByteArray &request, const Home &home);
 
 } // namespace support
 

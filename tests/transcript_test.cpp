@@ -55,30 +55,9 @@ QByteArray outcomeOf(const QByteArray &commands)
 
 TEST_P(Transcripts, AreTrue)
 {
-    const QString path = transcripts.filePath(GetParam());
-    QByteArray told;
-    QByteArray before; // of every case
-    QByteArray commands;
-    bool isInCase = false;
-    const auto finish = [&] {
-        if (isInCase)
-            told += outcomeOf(before + commands);
-        else
-            before = commands;
-        commands.clear();
-    };
-    for (const QByteArray &line : support::readFile(path).split('\n')) {
-        if (line.startsWith("# ")) {
-            finish();
-            isInCase = true;
-            told += line + '\n';
-        } else if (line.startsWith("$ ")) {
-            commands += line.sliced(2) + '\n';
-            told += line + '\n';
-        }
-    }
-    finish();
-    support::expectReference(path, told);
+    support::expectCases(
+        transcripts.filePath(GetParam()), "# ", "$ ",
+        [](const QByteArray &, const QByteArray &commands) { return outcomeOf(commands); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Golden, Transcripts,
