@@ -38,6 +38,7 @@ public:
     }
 
     QString path() const { return folder.path(u"test.conf"_s); }
+    QByteArray written() const { return support::readFile(path()); }
 
 private:
     support::Folder folder;
@@ -205,21 +206,6 @@ TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)
     EXPECT_FALSE(config.getStrValue(u"zentaro.missing"_s).isNull());
 }
 
-class ConfigViews : public testing::Test
-{
-protected:
-    /// The path of the file, with this text.
-    QString file(const QByteArray &text)
-    {
-        support::writeFile(path, text);
-        return path;
-    }
-    QByteArray written() const { return support::readFile(path); }
-
-    support::Folder folder;
-    const QString path = folder.path(u"zentaro.conf"_s);
-};
-
 using View = std::unique_ptr<QTreeWidget>;
 
 /// The texts of an item and those below it, indented.
@@ -231,26 +217,26 @@ QString shown(const QTreeWidgetItem &item, int depth = 0)
     return text;
 }
 
-TEST_F(ConfigViews, ShowTheTreeAndSaveWhatAPersonMakesOfIt)
+TEST(ConfigViews, ShowTheTreeAndSaveWhatAPersonMakesOfIt)
 {
     const QByteArray text =
         "t = \"1\";\nz: \n{\n    b = \" x=y \";\n    a = \"\";\n    n: \n    {\n"
         "        c = \"2\";\n    };\n\n};\n\n";
-    ZTConfiguration config(file(text + "y : { d = 3; };"), u"cfg"_s);
+    Loaded config(text + "y : { d = 3; };");
     const View view(config.newConfigListView());
     EXPECT_EQ(view->columnCount(), 1);
     EXPECT_EQ(view->headerItem()->text(0), u"ConfigurationFile"_s);
     ASSERT_EQ(view->topLevelItemCount(), 1);
     QTreeWidgetItem *const top = view->topLevelItem(0);
-    EXPECT_EQ(shown(*top), path
+    EXPECT_EQ(shown(*top), config.path()
                                + u"\n  t = 1\n  z\n    b =  x=y \n    a = \n    n\n      c = 2\n"
                                  "  y\n    d = 3\n"_s);
     EXPECT_FALSE(top->flags() & Qt::ItemIsEditable);
     EXPECT_TRUE(top->child(1)->flags() & Qt::ItemIsEditable);
     delete top->takeChild(2);
-    file("overwritten");
+    support::writeFile(config.path(), "overwritten");
     EXPECT_TRUE(config.loadListView(view.get()));
-    EXPECT_EQ(written(), text);
+    EXPECT_EQ(config.written(), text);
 
     QTreeWidgetItem *const z = top->child(1);
     z->child(0)->setText(0, u" b=new"_s); // a person sets other blanks
@@ -262,31 +248,32 @@ TEST_F(ConfigViews, ShowTheTreeAndSaveWhatAPersonMakesOfIt)
     z->child(2)->child(1)->addChild(new QTreeWidgetItem({u"x = 1"_s}));
     z->child(2)->child(1)->addChild(new QTreeWidgetItem({u"empty"_s}));
     EXPECT_TRUE(config.loadListView(view.get()));
-    EXPECT_EQ(written(), "t = \"1\";\nz: \n{\n    b = \"new\";\n    a = \"\";\n    m: \n    {\n"
-                         "        k = \" two\";\n        group: \n        {\n"
-                         "            x = \"1\";\n            empty: \n            {\n            "
-                         "};\n\n        };\n\n    };\n\n};\n\n");
+    EXPECT_EQ(config.written(),
+              "t = \"1\";\nz: \n{\n    b = \"new\";\n    a = \"\";\n    m: \n    {\n"
+              "        k = \" two\";\n        group: \n        {\n"
+              "            x = \"1\";\n            empty: \n            {\n            "
+              "};\n\n        };\n\n    };\n\n};\n\n");
     EXPECT_EQ(config.lookup(u"z.m.k"_s), u" two"_s);
 }
 
-TEST_F(ConfigViews, SaveInTheFormatOfTheFile)
+TEST(ConfigViews, SaveInTheFormatOfTheFile)
 {
     const QByteArray text =
         "\n<z\n    b = \" x=y \">\n\n    <n\n        c = \"2\">\n    </n>\n</z>\n";
     for (const auto &[format, saved] : {std::pair{u"xml"_s, true}, {u"other"_s, false}}) {
-        Config config(file(text), format);
+        Loaded config(text, format);
         const QString tree = config.configTreeText();
         const View view(config.buildConfigListView());
-        file("overwritten");
+        support::writeFile(config.path(), "overwritten");
         EXPECT_EQ(config.loadListView(view.get()), saved);
-        EXPECT_EQ(written(), saved ? text : "overwritten");
+        EXPECT_EQ(config.written(), saved ? text : "overwritten");
         EXPECT_EQ(config.configTreeText(), tree);
     }
 }
 
-TEST_F(ConfigViews, AcceptWhatIsNotThere)
+TEST(ConfigViews, AcceptWhatIsNotThere)
 {
-    Config config(file("z : { a = 1; };"), u"cfg"_s);
+    Loaded config("z : { a = 1; };");
     EXPECT_FALSE(config.loadListView(static_cast<QTreeWidget *>(nullptr)));
     config.loadListView(nullptr, static_cast<QDomDocument *>(nullptr));
     QDomDocument document;
@@ -297,14 +284,13 @@ TEST_F(ConfigViews, AcceptWhatIsNotThere)
     EXPECT_EQ(config.lookup(u"z.a"_s), u"1"_s);
     QTreeWidget view; // without items
     EXPECT_TRUE(config.loadListView(&view));
-    EXPECT_EQ(written(), "");
+    EXPECT_EQ(config.written(), "");
 }
 
-TEST_F(ConfigViews, NestToAnyDepth)
+TEST(ConfigViews, NestToAnyDepth)
 {
     constexpr int Depth = 100'000;
-    Config config(file(QByteArray("g:{").repeated(Depth) + "k=1;"), u"none"_s);
-    config.readFile(path, u"cfg"_s);
+    Loaded config(QByteArray("g:{").repeated(Depth) + "k=1;");
     const View view(config.buildConfigListView());
     QDomDocument document;
     config.loadListView(view->topLevelItem(0), &document);
