@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "render/rowlayout.h"
 #include "tests/recordingdevice.h"
 
 #include <gtest/gtest.h>
@@ -32,24 +31,6 @@ TEST(RowLayout, LaysOutWhatNoDocumentAsksFor)
     for (const auto &[layout, line] : rows)
         EXPECT_EQ(device.descriptionRow(u"2"_s, u"Pizza"_s, u"7.50"_s, u"15.00"_s, u'.', layout),
                   line);
-}
-
-TEST(RowLayout, SurvivesWidthsThatDoNotFit)
-{
-    constexpr int Huge = std::numeric_limits<int>::max();
-    RecordingDevice device;
-    DocumentSettings &settings = device.settings;
-    settings.paperWidth = 10;
-    settings.totalPriceFieldWidth = 20; // the description's width is negative: kept whole
-    EXPECT_EQ(device.descriptionRow(u"1"_s, u"Pizza"_s, u"7.50"_s, u"15.00"_s, u'.', u"qdpt"_s),
-              u"1 Pizza7.50               15.00"_s);
-    settings.quantityFieldWidth = settings.priceFieldWidth = -Huge;
-    settings.totalPriceFieldWidth = 0;
-    settings.paperWidth = Huge;
-    EXPECT_EQ(device.descriptionRow(u"1"_s, u"a"_s, u"b"_s, {}, u'.', u"qdpt"_s).size(),
-              2 + rowlayout::MaxPaddedWidth + 1);
-    EXPECT_EQ(rowlayout::Line().right(u"a", Huge, u' ').toString().size(),
-              rowlayout::MaxPaddedWidth);
 }
 
 TEST(Driver, TakesNoUnknownNames)
