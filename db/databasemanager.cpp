@@ -76,16 +76,6 @@ void DatabaseManager::closeConnections()
     connections.clear();
 }
 
-void DatabaseManager::closeConnectionsAtExit()
-{
-    // Made after the toolkit's own record of connections, and so gone before that: even a
-    // connection that is not open needs it.
-    static const auto closer = qScopeGuard([] {
-        if (DatabaseManager *const manager = SyncSingleton<DatabaseManager>::instance_pointer)
-            manager->closeConnections();
-    });
-}
-
 QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QString &dbname,
                                                 const QString &username, const QString &password,
                                                 const QString &hostname,
@@ -95,7 +85,12 @@ QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QSt
     QSqlDatabase &connection = connections[name];
     connection = QSqlDatabase(); // the toolkit complains when it removes a connection in use
     QSqlDatabase::removeDatabase(name);
-    closeConnectionsAtExit();
+    // Made after the toolkit's own record of connections, and so gone before that: even a
+    // connection that is not open needs it.
+    static const auto closeAtExit = qScopeGuard([] {
+        if (DatabaseManager *const manager = SyncSingleton<DatabaseManager>::instance_pointer)
+            manager->closeConnections();
+    });
 
     // The toolkit knows this driver by one name only.
     const QString toolkitName = driver == "QPSQL7"_L1 ? u"QPSQL"_s : driver;

@@ -122,7 +122,6 @@ private:
     void logError(const QString &method, const QString &subject, const QString &databaseText);
     void log(Logger::Level level, const QString &text);
     void closeConnections();
-    static void closeConnectionsAtExit();
 
     Logger *const logger;                        // the log manager's; null: nothing is logged
     std::map<QString, QSqlDatabase> connections; // a map: its entries stay where they are

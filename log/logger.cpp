@@ -21,8 +21,7 @@ constexpr std::array levelNames = {"DEBUG"_L1, "INFO"_L1, "WARNING"_L1, "ERROR"_
 
 QLatin1StringView nameOf(Logger::Level level)
 {
-    const bool known = level >= Logger::DEBUG && level <= Logger::FATAL;
-    return known ? levelNames[size_t(level)] : QLatin1StringView();
+    return size_t(level) < levelNames.size() ? levelNames[size_t(level)] : QLatin1StringView();
 }
 
 constexpr auto DefaultKey = "default"_L1;

@@ -2,8 +2,6 @@
 #include "render/rowlayout.h"
 #include "render/vocabulary.h"
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 using rowlayout::Line;
 
