@@ -58,10 +58,7 @@ TEST(Config, AnswersDottedKeys)
     };
 };
 )");
-    const struct
-    {
-        QString key, value;
-    } rows[] = {
+    const std::pair<QString, QString> rows[] = {
         {u"zentaro.logger.level"_s, u"WARNING"_s},
         {u"zentaro.logger.filename"_s, u"print.log"_s},
         {u"zentaro.language.basedir"_s, u" /usr/share/pos/lang "_s},
@@ -77,9 +74,9 @@ TEST(Config, AnswersDottedKeys)
         {u"zentaro.logger.level.x"_s, u""_s},
         {u" zentaro.logger.level"_s, u""_s},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(config.lookup(row.key), row.value) << row.key.toStdString();
-        EXPECT_FALSE(config.lookup(row.key).isNull()) << row.key.toStdString();
+    for (const auto &[key, value] : rows) {
+        EXPECT_EQ(config.lookup(key), value) << key.toStdString();
+        EXPECT_FALSE(config.lookup(key).isNull()) << key.toStdString();
     }
     EXPECT_EQ(config.lookup(QDomNode(), u"zentaro.logger.level"_s), u""_s);
     EXPECT_EQ(Config().lookup(u"zentaro.logger.level"_s), u""_s);
@@ -162,7 +159,7 @@ TEST(Config, TakesInAFileThatIsReadBesideAnother)
     }
 }
 
-TEST(ConfigWriter, PrintsTheTree)
+TEST(ConfigWriter, PrintsTheTreeAndNeedsANameForAFile)
 {
     const support::Folder folder;
     const QString path = folder.path(u"t\u00e9st"_s);
@@ -174,7 +171,10 @@ TEST(ConfigWriter, PrintsTheTree)
               "Tree \n" + path.toLatin1().toStdString() + "\nt = 1\ng\nk\xE9 = \xFC\nn\nx = y\n");
     testing::internal::CaptureStdout();
     Config().printConfigTree();
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Tree \n");
+    EXPECT_FALSE(Config().buildConfigFile({}));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Tree \n"
+              "Error in the method Config::buildConfigFile(  ): No such file or directory\n");
 }
 
 TEST(ConfigWriter, WritesGroupsNestedToAnyDepth)
@@ -186,14 +186,6 @@ TEST(ConfigWriter, WritesGroupsNestedToAnyDepth)
     const QByteArray deep = rewritten(nested(500), u"cfg"_s, u"cfg"_s);
     EXPECT_EQ(treeOf(deep), treeOf(nested(500)));
     EXPECT_TRUE(rewritten(deep, u"cfg"_s, u"xml"_s).endsWith("\n    </g>\n</g>\n"));
-}
-
-TEST(ConfigWriter, NeedsAName)
-{
-    testing::internal::CaptureStdout();
-    EXPECT_FALSE(Config().buildConfigFile({}));
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "Error in the method Config::buildConfigFile(  ): No such file or directory\n");
 }
 
 TEST(ZTConfiguration, ReadsTheUsersFileInLatin1)
