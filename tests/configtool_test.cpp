@@ -4,12 +4,10 @@
 #include "tools/knownkeys.h"
 
 #include <QDir>
-#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace configtool;
