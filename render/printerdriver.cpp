@@ -130,7 +130,7 @@ void PrinterDriver::loadValues(const QString &type)
     if (settings.paperWidth == 0)
         settings.paperWidth = int(getPaperWidth());
     settings.style = setting("style"_L1);
-    descriptionWidth.reset();
+    descriptionWidth = {};
 }
 
 /// The setting of the current document type; empty when the configuration has none.

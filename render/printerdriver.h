@@ -187,5 +187,5 @@ private:
     QString methodName;                     ///< currentMethod, when the method was last needed
     const DocumentMethod *method = nullptr; ///< the one of that name, or null
     std::optional<ColumnTitles> translatedTitles; ///< once they were needed
-    std::optional<int> descriptionWidth;          ///< characters, once it was needed
+    std::pair<QString, int> descriptionWidth;     ///< characters, and the docPath that they are of
 };

@@ -51,16 +51,20 @@ void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttrib
 
 void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttributes &atts)
 {
-    printPartialOrder(qName, atts);
+    if (qName == element::customer)
+        printCustomerHeader(atts);
+    else
+        printPartialOrder(qName, atts);
 }
 
 void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &atts)
 {
     if (qName == element::receipe) {
-        // Looked up once: that takes longer the larger the configuration is.
-        if (!descriptionWidth)
-            descriptionWidth = numberSetting("descriptionWidth"_L1);
-        const qint64 width = *descriptionWidth == 0 ? qint64(getPaperWidth()) : *descriptionWidth;
+        // Looked up once for a prefix: that takes longer the larger the configuration is.
+        if (std::exchange(descriptionWidth.first, docPath) != docPath)
+            descriptionWidth.second = numberSetting("descriptionWidth"_L1);
+        const int setWidth = descriptionWidth.second;
+        const qint64 width = setWidth == 0 ? qint64(getPaperWidth()) : setWidth;
         const QString name = valueOf(atts, "name"_L1);
         printRowFiscal(valueOf(atts, "department"_L1), valueOf(atts, "number"_L1),
                        rowlayout::cut(name, width).toString(), valueOf(atts, "price"_L1));

@@ -10,7 +10,6 @@
 #include <QBuffer>
 #include <QTextCodec>
 
-#include <array>
 #include <cwchar>
 #include <locale.h>
 #include <sys/mman.h>

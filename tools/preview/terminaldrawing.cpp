@@ -3,7 +3,6 @@
 
 #include <QTextCodec>
 
-#include <array>
 #include <span>
 
 namespace preview {

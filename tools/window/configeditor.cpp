@@ -11,7 +11,6 @@
 #include <QListWidget>
 #include <QStatusBar>
 
-#include <algorithm>
 #include <cerrno>
 #include <unistd.h>
 

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
-#include <algorithm>
 #include <utility>
 
 namespace configtool {

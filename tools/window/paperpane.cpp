@@ -8,7 +8,6 @@
 #include "text/standardoutput.h"
 #include "tools/check/elementtable.h"
 #include "tools/knownkeys.h"
-#include "tools/preview/preview.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -18,8 +17,6 @@
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QXmlStreamReader>
-
-#include <algorithm>
 
 namespace configtool {
 

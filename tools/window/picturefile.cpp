@@ -8,8 +8,6 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
-#include <algorithm>
-#include <array>
 #include <limits>
 #include <span>
 

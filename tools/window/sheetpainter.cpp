@@ -3,8 +3,6 @@
 
 #include <QRawFont>
 
-#include <algorithm>
-
 namespace preview {
 
 using namespace Qt::StringLiterals;
