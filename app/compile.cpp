@@ -6,8 +6,7 @@
 #include "app/ztconfiguration.h"
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
-#include "text/filename.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 
 #include <QFile>
 #include <QTranslator>

@@ -2,7 +2,7 @@
 #include "app/translation.h"
 
 #include "app/ztconfiguration.h"
-#include "text/filename.h"
+#include "text/system.h"
 
 #include <QLocale>
 #include <QTranslator>

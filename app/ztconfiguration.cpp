@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ztconfiguration.h"
 
-#include "text/filename.h"
+#include "text/system.h"
 
 #include <QFile>
 

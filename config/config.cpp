@@ -3,8 +3,7 @@
 #include "config/config.h"
 
 #include "config/cfgscanner.h"
-#include "text/filename.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 
 #include <QFile>
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "config/configtree.h"
-#include "text/filename.h"
 #include "text/localeencoding.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 
 #include <QBuffer>
 #include <QFile>

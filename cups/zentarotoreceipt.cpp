@@ -9,7 +9,7 @@
 #include "render/companyprinterdriver.h"
 #include "render/requestreader.h"
 #include "text/localeencoding.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

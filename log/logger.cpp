@@ -3,9 +3,8 @@
 
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
-#include "text/filename.h"
 #include "text/localeencoding.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 
 #include <QDateTime>
 #include <QFileInfo>

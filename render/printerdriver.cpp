@@ -5,7 +5,7 @@
 #include "app/ztconfiguration.h"
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 
 using namespace Qt::StringLiterals;
 

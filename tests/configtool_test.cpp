@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/configfiles.h"
 #include "tests/support.h"
-#include "tools/knownkeys.h"
+#include "tools/config/outline.h"
 
 #include <QDir>
 

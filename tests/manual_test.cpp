@@ -2,7 +2,7 @@
 #include "render/vocabulary.h"
 #include "tests/support.h"
 #include "tools/check/requestcheck.h"
-#include "tools/knownkeys.h"
+#include "tools/config/outline.h"
 
 #include <QDir>
 #include <QFileInfo>

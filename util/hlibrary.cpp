@@ -4,9 +4,8 @@
 #include "app/syncsingleton.h"
 #include "app/ztconfiguration.h"
 #include "db/databasemanager.h"
-#include "text/filename.h"
 #include "text/localeencoding.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 #include "util/sleepthread.h"
 
 #include <QApplication>

@@ -4,7 +4,6 @@
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "tools/command.h"
-#include "tools/requests/requests.h"
 
 namespace requestcheck {
 

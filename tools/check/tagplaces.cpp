@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/check/tagplaces.h"
-
-#include <utility>
+#include "tools/check/requestcheck.h"
 
 namespace requestcheck {
 

@@ -3,10 +3,7 @@
 
 #include "app/ztconfiguration.h"
 #include "tools/config/outline.h"
-#include "tools/knownkeys.h"
 #include "tools/terminal.h"
-
-#include <QFile>
 
 #include <array>
 #include <filesystem>

@@ -6,7 +6,6 @@
 #include <QHash>
 #include <QXmlStreamReader>
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 

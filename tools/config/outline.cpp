@@ -6,9 +6,6 @@
 
 #include <QXmlStreamReader>
 
-#include <algorithm>
-#include <array>
-
 namespace configtool {
 
 using namespace Qt::StringLiterals;

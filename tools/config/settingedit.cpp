@@ -2,11 +2,8 @@
 #include "tools/config/outline.h"
 
 #include "config/config.h"
-#include "tools/knownkeys.h"
 
 #include <QFile>
-
-#include <algorithm>
 
 namespace configtool {
 

@@ -4,10 +4,8 @@
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
 #include "tools/config/outline.h"
-#include "tools/knownkeys.h"
 #include "tools/terminal.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 

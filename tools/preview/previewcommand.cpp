@@ -4,9 +4,8 @@
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
 #include "text/localeencoding.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 #include "tools/command.h"
-#include "tools/requests/requests.h"
 #include "tools/terminal.h"
 
 #include <QFileInfo>

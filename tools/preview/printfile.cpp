@@ -5,7 +5,7 @@
 #include "render/requestreader.h"
 #include "render/vocabulary.h"
 #include "text/localeencoding.h"
-#include "tools/check/tagplaces.h"
+#include "tools/check/requestcheck.h"
 
 #include <QBuffer>
 #include <QTextCodec>

@@ -4,7 +4,6 @@
 #include "app/ztconfiguration.h"
 #include "tools/terminal.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>

@@ -2,7 +2,6 @@
 #include "tools/window/configtree.h"
 
 #include "config/configviews.h"
-#include "tools/knownkeys.h"
 
 #include <QCompleter>
 #include <QLineEdit>

@@ -5,9 +5,8 @@
 #include "app/translation.h"
 #include "config/configviews.h"
 #include "render/vocabulary.h"
-#include "text/standardoutput.h"
+#include "text/system.h"
 #include "tools/check/elementtable.h"
-#include "tools/knownkeys.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -3,7 +3,6 @@
 
 #include "config/configviews.h"
 #include "tools/command.h"
-#include "tools/knownkeys.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,12 +2,17 @@
 #pragma once
 
 #include <QByteArray>
+#include <QScopedValueRollback>
 #include <QString>
 
-/// File names as the system has them, bytes, in a form that the toolkit opens: it takes every name
-/// for UTF-8, and one that begins with ":" for a resource of its own. A name that is not UTF-8 is
-/// looked up here and stands as the path of a descriptor, which stays open until the process ends.
+#include <cstdio>
+
+/// What a process has of the system as bytes: names of files, and the standard streams.
 namespace text {
+
+// File names as the system has them, bytes, in a form that the toolkit opens: it takes every name
+// for UTF-8, and one that begins with ":" for a resource of its own. A name that is not UTF-8 is
+// looked up here and stands as the path of a descriptor, which stays open until the process ends.
 
 /// The name of a file or folder that is there; of one that is not, a name that is not there either.
 QString nameOfFile(const QByteArray &bytes);
@@ -27,5 +32,17 @@ inline QByteArray bytesOf(const QString &setting) { return setting.toLatin1(); }
 
 /// The user's home folder: `HOME`, or the user database's where that is not set; "/" without both.
 QByteArray homeFolder();
+
+/// Where diagnostic lines go: standard output, unless a QScopedValueRollback puts another stream
+/// here, or null, which drops them.
+extern std::FILE *diagnostics;
+
+/// Writes one diagnostic line, `line` and a line end, and lets it out at once. Where the stream
+/// takes nothing the line is lost, which is no failure.
+void printLine(QByteArrayView line);
+
+/// Opens the standard streams that whoever started the process has closed, on the null device: a
+/// file opened later would take the place of standard output and get the diagnostic lines.
+void reserveStandardStreams();
 
 } // namespace text

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text/filename.h"
+#include "text/system.h"
 
 #include <QFile>
 
@@ -79,6 +79,25 @@ QByteArray homeFolder()
         return home;
     const passwd *const user = getpwuid(getuid());
     return user && user->pw_dir ? QByteArray(user->pw_dir) : QByteArray("/");
+}
+
+std::FILE *diagnostics = stdout;
+
+void printLine(QByteArrayView line)
+{
+    if (!diagnostics)
+        return;
+    std::fwrite(line.data(), 1, size_t(line.size()), diagnostics);
+    std::fputc('\n', diagnostics);
+    std::fflush(diagnostics);
+}
+
+void reserveStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) == -1)
+            open("/dev/null", O_RDWR); // takes the lowest number that is free, which is this one
+    }
 }
 
 } // namespace text
