@@ -67,15 +67,19 @@ public:
 
 TEST(Driver, HeedsADeviceThatDerivesFromIt)
 {
-    support::configure("doc:{printGeometry=true; topMargin=1;}; solddoc:{topMargin=2;};");
+    support::configure("doc:{printGeometry=true; topMargin=1; descriptionWidth=1;};"
+                       "solddoc:{topMargin=2; descriptionWidth=2;};");
     const support::Folder folder;
     {
         WilfulDevice device(folder.path(u"out"_s));
-        const QXmlAttributes item = attributes({{u"name"_s, u"n"_s}, {u"description"_s, u"d"_s}});
+        const QXmlAttributes item = attributes({{u"name"_s, u"na"_s}, {u"description"_s, u"d"_s}});
         device.startElement({}, {}, u"method"_s, attributes({{u"name"_s, u"printPartialOrder"_s}}));
         for (const QString &prefix : {u"zentaro.doc."_s, u"zentaro.solddoc."_s}) {
             device.docPath = prefix;
+            device.currentMethod = u"printPartialOrder"_s;
             device.startElement({}, {}, u"geometry"_s, {});
+            device.currentMethod = u"printFullOrderFiscal"_s;
+            device.startElement({}, {}, u"receipe"_s, item);
         }
         for (const QString &method : {u"printSold"_s, u""_s, u"printFullOrder"_s}) {
             device.currentMethod = method;
@@ -84,9 +88,9 @@ TEST(Driver, HeedsADeviceThatDerivesFromIt)
         }
     }
     QByteArray printed = support::readFile(folder.path(u"out"_s));
-    EXPECT_EQ(
-        printed.replace("  ", QByteArray()).replace("..", QByteArray()),
-        "\nj\n\"<\n\"<\n\"<\n\" x d<\n\"<\n\" TOTAL<\n\"Num DescriptionPriceAmount<\n\" n<\n");
+    EXPECT_EQ(printed.replace("  ", QByteArray()).replace("..", QByteArray()),
+              "\nj\n\"<\n\"n\"*HR\r\n\"<\n\"<\n\"na\"*HR\r\n\" x d<\n\"<\n\" TOTAL<\n"
+              "\"Num DescriptionPriceAmount<\n\" na.<\n");
 }
 
 /// The print file of a fiscal document.
