@@ -118,7 +118,8 @@ private:
         }
         std::ranges::reverse(steps); // the other way round next time
         QTreeWidgetItem *changed = first.item;
-        if (first.outside) // what stands in its place now, or the group where nothing is left
+        // What stands in its place now, or the group where nothing is left.
+        if (first.parent && first.outside)
             changed = first.parent->child(qMin(first.index, first.parent->childCount() - 1));
         tree.showItem(shown ? shown : changed ? changed : first.parent);
     }
