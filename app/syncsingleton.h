@@ -4,7 +4,6 @@
 #include <QMutex>
 
 #include <atomic>
-#include <memory>
 
 /// The one object of a class in this process: created on first use, deleted at exit. Any thread may
 /// ask for it; `T` needs a default constructor. What may be done with the object is `T`'s to say: a
@@ -29,15 +28,20 @@ public:
     static void createInstance()
     {
         const QMutexLocker lock(&instance_mutex);
-        if (instance_pointer)
-            return;
-        instance_destroyer = std::make_unique<T>();
-        instance_pointer = instance_destroyer.get();
+        if (!instance_pointer)
+            instance_pointer = instance_destroyer.instance = new T;
     }
 
     static inline std::atomic<T *> instance_pointer = nullptr; ///< null before first use
 
 private:
+    /// Deletes the object when the process's static objects go.
+    struct Destroyer
+    {
+        ~Destroyer() { delete instance; }
+        T *instance;
+    };
+
     static inline QMutex instance_mutex;
-    static inline std::unique_ptr<T> instance_destroyer; // goes with the process's static objects
+    static inline Destroyer instance_destroyer{nullptr};
 };
