@@ -226,6 +226,7 @@ TEST_F(Editor, StartsAFileAndSavesItElsewhereWhereItCannotBeWritten)
     choose(u"Add Setting"_s, {}, u"a = 1"_s);
     EXPECT_TRUE(isRefused(editor.save(), u"Not a directory"_s));
     EXPECT_TRUE(editor.saveTo({path, u"cfg"_s}));
+    EXPECT_EQ(editor.windowTitle(), u"zentaro.conf[*] - Configuration");
     EXPECT_EQ(saved(), "zentaro: \n{\n    a = \"1\";\n};\n\n"); // it is this file now
     for (const QString &bad : {folder.path(), deep}) {
         EXPECT_FALSE(editor.open({bad, u"cfg"_s}));
