@@ -22,7 +22,7 @@ namespace {
 /// Where memory runs out nothing more can be printed, but the loss must not be silent.
 [[noreturn]] void endWithoutMemory()
 {
-    PrinterDriver::tellIncomplete("Cannot allocate memory");
+    text::printLine("The document was not written completely: Cannot allocate memory"); // as it is
     std::_Exit(0);
 }
 

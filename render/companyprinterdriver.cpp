@@ -91,7 +91,7 @@ void CompanyPrinterDriver::printRowFiscal(const QString &name, const QXmlAttribu
     if (name != element::totals)
         return;
     for (const auto &[attribute, before, after] : payments) {
-        const QString value = withDecimalComma(valueOf(atts, attribute));
+        const QString value = withDecimalComma(atts.value(attribute));
         if (isAmount(value))
             write(before % value % after);
     }

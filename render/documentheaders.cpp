@@ -46,7 +46,7 @@ void printLabelRows(PrinterDriver &device, std::span<const LabelRow> rows,
 {
     for (const LabelRow &row : rows) {
         if (settings.*row.printed)
-            printLabelLine(device, PrinterDriver::tr(row.label), valueOf(atts, row.attribute));
+            printLabelLine(device, PrinterDriver::tr(row.label), atts.value(row.attribute));
     }
 }
 
@@ -112,19 +112,19 @@ void PrinterDriver::printCompanyHeader(const QXmlAttributes &atts)
 
 void PrinterDriver::printReceiptHeader(const QXmlAttributes &atts)
 {
-    println(1, tr("Serial Number: ") + valueOf(atts, "serialnumber"_L1));
+    println(1, tr("Serial Number: ") + atts.value("serialnumber"_L1));
     printSeparatorLine();
 }
 
 void PrinterDriver::printInvoiceHeader(const QXmlAttributes &atts)
 {
-    printLabelLine(*this, tr("Invoice Number:"), valueOf(atts, "serialnumber"_L1));
+    printLabelLine(*this, tr("Invoice Number:"), atts.value("serialnumber"_L1));
     printSeparatorLine();
 }
 
 void PrinterDriver::printDeliveryHeader(const QXmlAttributes &atts)
 {
-    printLabelLine(*this, tr("Delivery Number:"), valueOf(atts, "serialnumber"_L1));
+    printLabelLine(*this, tr("Delivery Number:"), atts.value("serialnumber"_L1));
     printSeparatorLine();
 }
 
@@ -133,7 +133,7 @@ void PrinterDriver::printOrderInfo(const QXmlAttributes &atts)
     setCharSize();
     printLabelRows(*this, orderRows, settings, atts);
     if (settings.printCredit)
-        credit = valueOf(atts, "credit"_L1);
+        credit = atts.value("credit"_L1);
     printSeparatorLine();
 }
 
@@ -142,11 +142,11 @@ void PrinterDriver::printCustomerHeader(const QXmlAttributes &atts)
     if (!settings.printCustomer)
         return;
     println(tr("CUSTOMER"));
-    println(1, valueOf(atts, "name"_L1));
+    println(1, atts.value("name"_L1));
     if (settings.printBillingAddress)
-        printAddress(*this, valueOf(atts, "billingaddress"_L1));
+        printAddress(*this, atts.value("billingaddress"_L1));
     if (settings.printDeliveryAddress)
-        printAddress(*this, valueOf(atts, "deliveryaddress"_L1));
+        printAddress(*this, atts.value("deliveryaddress"_L1));
     printLabelRows(*this, customerRows, settings, atts);
     printSeparatorLine();
 }
@@ -156,10 +156,10 @@ bool PrinterDriver::printSections(const QString &name, const QXmlAttributes &att
     if (name == element::receipe)
         return false; // as most elements are
     if (name == element::printers) {
-        printerInfo = valueOf(atts, "name"_L1);
-        charsize = valueOf(atts, "charsize"_L1);
-        ipaddress = valueOf(atts, "ipaddress"_L1);
-        port = valueOf(atts, "port"_L1);
+        printerInfo = atts.value("name"_L1);
+        charsize = atts.value("charsize"_L1);
+        ipaddress = atts.value("ipaddress"_L1);
+        port = atts.value("port"_L1);
         initPrinter();
     } else if (name == element::geometry) {
         printGeometry(atts);

@@ -72,9 +72,8 @@ void PrinterDriver::printPricedItem(const QXmlAttributes &atts, const QString &l
 {
     const ColumnTitles &titles = columnTitles();
     printColumnsHeader(titles.number, titles.description, titles.price, titles.amount);
-    println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1),
-                           valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
-                           layout));
+    println(descriptionRow(atts.value("number"_L1), atts.value("name"_L1), atts.value("price"_L1),
+                           atts.value("totalPrice"_L1), u'.', layout));
 }
 
 /// One item type of an abstract document. Its amount stands in the total column, under "Price".
@@ -82,8 +81,8 @@ void PrinterDriver::printItemType(const QXmlAttributes &atts)
 {
     const ColumnTitles &titles = columnTitles();
     printColumnsHeader(titles.number, titles.description, {}, titles.price);
-    println(descriptionRow(valueOf(atts, "number"_L1), valueOf(atts, "name"_L1), {},
-                           valueOf(atts, "price"_L1), u'.', u"qxdpt"_s));
+    println(descriptionRow(atts.value("number"_L1), atts.value("name"_L1), {},
+                           atts.value("price"_L1), u'.', u"qxdpt"_s));
 }
 
 /// A title and the amount that belongs to it, with dots between them.

@@ -20,7 +20,7 @@ QString variantSign(const QString &quantity)
 
 QString variantText(const QXmlAttributes &atts)
 {
-    return variantSign(valueOf(atts, "quantity"_L1)) + u' ' + valueOf(atts, "name"_L1);
+    return variantSign(atts.value("quantity"_L1)) + u' ' + atts.value("name"_L1);
 }
 
 } // namespace
@@ -30,16 +30,16 @@ void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes
     if (printSections(qName, atts))
         return;
     const auto printItem = [&](const QString &description) {
-        println(descriptionRow(valueOf(atts, "number"_L1), description, {}, {}, u'.', u"qd"_s));
+        println(descriptionRow(atts.value("number"_L1), description, {}, {}, u'.', u"qd"_s));
     };
     if (qName == element::customer) {
         printCustomerHeader(atts);
     } else if (qName == element::receipe) {
         setCharSize();
-        printItem(valueOf(atts, "name"_L1));
+        printItem(atts.value("name"_L1));
     } else if (qName == element::otherReceipe) {
         setCharSize(1);
-        printItem(valueOf(atts, "name"_L1));
+        printItem(atts.value("name"_L1));
     } else if (qName == element::variant) {
         printItem(variantText(atts));
     }
@@ -52,15 +52,14 @@ void PrinterDriver::printFullOrder(const QString &qName, const QXmlAttributes &a
     if (qName == element::customer) {
         printCustomerHeader(atts);
     } else if (qName == element::receipe) {
-        if (!valueOf(atts, "name"_L1).startsWith(u'=')) // such an item is never printed
+        if (!atts.value("name"_L1).startsWith(u'=')) // such an item is never printed
             printPricedItem(atts, u"qdpt"_s);
     } else if (qName == element::variant) {
-        println(descriptionRow(valueOf(atts, "number"_L1), variantText(atts),
-                               valueOf(atts, "price"_L1), valueOf(atts, "totalPrice"_L1), u'.',
-                               u"qdpt"_s));
+        println(descriptionRow(atts.value("number"_L1), variantText(atts), atts.value("price"_L1),
+                               atts.value("totalPrice"_L1), u'.', u"qdpt"_s));
     } else if (qName == element::total) {
         println(u""_s);
         setBold();
-        printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+        printTitledRow(tr("TOTAL"), atts.value("price"_L1));
     }
 }

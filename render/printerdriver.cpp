@@ -56,12 +56,7 @@ PrinterDriver::~PrinterDriver()
         && file->error() != QFileDevice::NoError) // a server's disk may tell so late
         fault = file->errorString();
     if (!fault.isEmpty())
-        tellIncomplete(text::toLocale(fault));
-}
-
-void PrinterDriver::tellIncomplete(const QByteArray &reason)
-{
-    text::printLine("The document was not written completely: " + reason);
+        text::printLine("The document was not written completely: " + text::toLocale(fault));
 }
 
 bool PrinterDriver::startDocument()
@@ -82,7 +77,7 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
     if (stream && stream->status() != QTextStream::Ok)
         return false; // nothing more would be written
     if (qName == element::method)
-        return startMethod(valueOf(atts, "name"_L1));
+        return startMethod(atts.value("name"_L1));
     if (currentMethod != methodName) {
         methodName = currentMethod;
         method = documentMethod(methodName);

@@ -38,11 +38,8 @@ public:
     explicit PrinterDriver(std::unique_ptr<QFile> printFile);
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
+    /// Tells in one line where the print file holds only a part of the document, and why.
     ~PrinterDriver() override;
-
-    /// Tells, once a document, that its print file holds only a part of it, and why (in the
-    /// encoding of the locale).
-    static void tellIncomplete(const QByteArray &reason);
 
     // The reader's events.
 

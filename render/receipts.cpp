@@ -7,17 +7,17 @@ using namespace Qt::StringLiterals;
 void PrinterDriver::printTotal(const QXmlAttributes &atts)
 {
     println(u""_s);
-    printTitledRow(tr("TOTAL"), valueOf(atts, "price"_L1));
+    printTitledRow(tr("TOTAL"), atts.value("price"_L1));
 }
 
 void PrinterDriver::printInvoiceTotals(const QXmlAttributes &atts)
 {
     setBold();
     println(u""_s);
-    printTitledRow(tr("Taxable"), valueOf(atts, "taxable"_L1));
-    printTitledRow(tr("TaxRate"), valueOf(atts, "taxrate"_L1));
-    printTitledRow(tr("Tax"), valueOf(atts, "tax"_L1));
-    printTitledRow(tr("TOTAL"), valueOf(atts, "total"_L1));
+    printTitledRow(tr("Taxable"), atts.value("taxable"_L1));
+    printTitledRow(tr("TaxRate"), atts.value("taxrate"_L1));
+    printTitledRow(tr("Tax"), atts.value("tax"_L1));
+    printTitledRow(tr("TOTAL"), atts.value("total"_L1));
     setCharSize();
 }
 
@@ -33,7 +33,7 @@ void PrinterDriver::printFullOrderReceipt(const QString &qName, const QXmlAttrib
         printTotal(atts);
     } else if (qName == element::notPaid) {
         println(u""_s);
-        println(tr("    Amount not paid: ") + valueOf(atts, "price"_L1));
+        println(tr("    Amount not paid: ") + atts.value("price"_L1));
     }
 }
 
@@ -65,9 +65,9 @@ void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttribu
             descriptionWidth.second = numberSetting("descriptionWidth"_L1);
         const int setWidth = descriptionWidth.second;
         const qint64 width = setWidth == 0 ? qint64(getPaperWidth()) : setWidth;
-        const QString name = valueOf(atts, "name"_L1);
-        printRowFiscal(valueOf(atts, "department"_L1), valueOf(atts, "number"_L1),
-                       rowlayout::cut(name, width).toString(), valueOf(atts, "price"_L1));
+        const QString name = atts.value("name"_L1);
+        printRowFiscal(atts.value("department"_L1), atts.value("number"_L1),
+                       rowlayout::cut(name, width).toString(), atts.value("price"_L1));
     } else if (qName == element::total) {
         printRowFiscal(qName, atts);
     }
@@ -84,7 +84,7 @@ void PrinterDriver::printAbstractOrderReceipt(const QString &qName, const QXmlAt
     } else if (qName == element::notPaid) {
         println(u""_s);
         // This title is Italian in every language.
-        println("   Corrispettivo non pagato: "_L1 + valueOf(atts, "price"_L1));
+        println("   Corrispettivo non pagato: "_L1 + atts.value("price"_L1));
     }
 }
 
@@ -103,8 +103,8 @@ void PrinterDriver::printAbstractOrderInvoice(const QString &qName, const QXmlAt
 void PrinterDriver::printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &atts)
 {
     if (qName == element::receipeType)
-        printRowFiscal(valueOf(atts, "department"_L1), u"1"_s, valueOf(atts, "name"_L1),
-                       valueOf(atts, "price"_L1));
+        printRowFiscal(atts.value("department"_L1), u"1"_s, atts.value("name"_L1),
+                       atts.value("price"_L1));
     else if (qName == element::total)
         printRowFiscal(qName, atts);
 }

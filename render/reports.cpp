@@ -116,7 +116,7 @@ public:
             printCancelledRow(valueAt(i), valueAt(i + 1), valueAt(i + 2));
     }
 
-    QString value(QLatin1StringView attribute) const { return valueOf(atts, attribute); }
+    QString value(QLatin1StringView attribute) const { return atts.value(attribute); }
     /// The value of the attribute at `position`, from 0 in document order; empty past the last.
     QString valueAt(int position) const
     {
@@ -195,8 +195,8 @@ void PrinterDriver::printSold(const QString &qName, const QXmlAttributes &atts)
     if (printSections(qName, atts) || qName != element::receipe)
         return;
     setBold();
-    println(descriptionRow(valueOf(atts, "quantity"_L1), valueOf(atts, "description"_L1), {},
-                           valueOf(atts, "amount"_L1), u'.', u"qxdpt"_s));
+    println(descriptionRow(atts.value("quantity"_L1), atts.value("description"_L1), {},
+                           atts.value("amount"_L1), u'.', u"qxdpt"_s));
     setCharSize();
 }
 
@@ -212,8 +212,8 @@ void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttr
         reset();
     } else if (qName == element::statement) {
         // The request sends the type of a movement as a source text of the translation.
-        const QByteArray type = valueOf(atts, "type"_L1).toUtf8();
-        println(descriptionRow(valueOf(atts, "date"_L1) + ": "_L1, tr(type.constData()),
-                               valueOf(atts, "amount"_L1), {}, u'.', layout));
+        const QByteArray type = atts.value("type"_L1).toUtf8();
+        println(descriptionRow(atts.value("date"_L1) + ": "_L1, tr(type.constData()),
+                               atts.value("amount"_L1), {}, u'.', layout));
     }
 }

@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <array>
 
-// The words of a print request: its elements, how their attributes are asked for, and the document
-// methods that its `method` element chooses from.
+// The words of a print request: its elements, and the document methods that its `method` element
+// chooses from.
 
 /// The names of the elements, spelled as the suite sends them. They are compared for every element:
 /// views of UTF-16 are what the toolkit compares fastest.
@@ -49,13 +49,6 @@ constexpr QStringView statementList = u"statement_list";
 constexpr QStringView statement = u"statement";
 
 } // namespace element
-
-/// The value of the attribute `name`, the first where two bear it; empty text without one.
-inline QString valueOf(const QXmlAttributes &atts, QLatin1StringView name)
-{
-    const int position = atts.index(name);
-    return position < 0 ? QString() : atts.value(position);
-}
 
 /// The attributes without the declarations of name spaces: what a document takes by position.
 QXmlAttributes ownAttributes(const QXmlAttributes &atts);

@@ -121,7 +121,7 @@ void CheckingDevice::checkDeclaration()
 
 bool CheckingDevice::startMethod()
 {
-    const QString name = valueOf(atts, "name"_L1);
+    const QString name = atts.value("name"_L1);
     const DocumentMethod *const chosen = documentMethod(name);
     if (!chosen) {
         tell("unknown-method",
@@ -237,7 +237,7 @@ void CheckingDevice::checkAttributes()
                                        elementName, currentMethod));
         return;
     }
-    const bool isHidden = row->hidesMarked && valueOf(atts, "name"_L1).startsWith(u'=');
+    const bool isHidden = row->hidesMarked && atts.value("name"_L1).startsWith(u'=');
     const bool isRowOff = isOff(settings, row->onlyIf);
     if (isHidden)
         tell("hidden-item", u"an item whose name begins with `=` is not printed"_s,

@@ -227,7 +227,7 @@ void CheckingDevice::checkDescription()
     const auto use = std::ranges::find(uses, Column::Description, &AttributeUse::column);
     if (use == uses.end())
         return;
-    QString text = valueOf(atts, use->name);
+    QString text = atts.value(use->name);
     if (row->element == element::statement)
         text = tr(text.toUtf8().constData()); // the only description that is translated
     if (hasControl(text) || lastLine->contains(asPrinted(text)))
@@ -249,7 +249,7 @@ void CheckingDevice::printRowFiscal(const QString &department, const QString &qu
                                     const QString &description, const QString &price)
 {
     CompanyPrinterDriver::printRowFiscal(department, quantity, description, price);
-    const QString name = valueOf(atts, "name"_L1);
+    const QString name = atts.value("name"_L1);
     if (description.size() < name.size())
         tellCut("name"_L1, name.sliced(description.size()));
     if (description.contains(u'"'))
