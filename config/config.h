@@ -191,8 +191,8 @@ private:
 /// Writes a file anew, all at once; answers what hindered it, in the system's words, or empty text.
 /// One that exists is replaced as a whole where the new one can have its owner, group, mode and
 /// links, so that a process that dies leaves no half of it. Otherwise it is written where it
-/// stands, after its room is made sure of: one of another owner or with several names, one in a
-/// folder that takes no new file, a device or a pipe.
+/// stands, after its room is made sure of: one of another owner, with several names or an access
+/// list, one in a folder that takes no new file, a device or a pipe.
 QString replaceFile(const QString &path, const QByteArray &content);
 
 } // namespace libconfig

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QMap>
+#include <QSet>
 #include <QXmlStreamReader>
 
 namespace libconfig {
@@ -96,15 +97,19 @@ void ConfigTree::note(const QDomElement &element, const QStringList &attributes)
 std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &element) const
 {
     const QDomNamedNodeMap attributes = element.attributes();
-    QMap<QString, QString> present;
-    for (int i = 0; i < attributes.length(); ++i)
-        present.insert(attributes.item(i).nodeName(), attributes.item(i).nodeValue());
     std::vector<Attribute> result;
+    QSet<QString> listed;
     for (const QString &name : names.value(Identity::of(element))) {
-        if (present.contains(name))
-            result.emplace_back(name, present.take(name));
+        if (element.hasAttribute(name) && !listed.contains(name))
+            result.emplace_back(*listed.insert(name), element.attribute(name));
     }
-    result.insert(result.end(), present.constKeyValueBegin(), present.constKeyValueEnd());
+    QMap<QString, QString> others;
+    // The toolkit counts its way to an attribute by index.
+    for (int i = 0; listed.size() + others.size() < attributes.length(); ++i) {
+        if (const QDomNode other = attributes.item(i); !listed.contains(other.nodeName()))
+            others.insert(other.nodeName(), other.nodeValue());
+    }
+    result.insert(result.end(), others.constKeyValueBegin(), others.constKeyValueEnd());
     return result;
 }
 

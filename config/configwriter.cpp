@@ -13,6 +13,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace libconfig {
@@ -84,7 +85,7 @@ QString writeInPlace(const QByteArray &name, const QByteArray &content)
         return text::systemMessage(reason);
     }
     if (file.write(content) != content.size() || (isFile && !file.resize(content.size())))
-        return file.errorString();
+        return text::reasonOf(file);
     return isFile && fsync(descriptor) != 0 ? text::systemMessage(errno) : QString();
 }
 
@@ -92,12 +93,12 @@ QString writeInPlace(const QByteArray &name, const QByteArray &content)
 
 QString replaceFile(const QString &path, const QByteArray &content)
 {
-    if (path.isEmpty())
-        return text::systemMessage(ENOENT);
     const QByteArray name = QFile::encodeName(path);
     struct stat now = {};
     const bool exists = stat(name.constData(), &now) == 0;
-    if (!exists || (S_ISREG(now.st_mode) && now.st_nlink == 1)) {
+    if (!exists
+        || (S_ISREG(now.st_mode) && now.st_nlink == 1
+            && getxattr(name.constData(), "system.posix_acl_access", nullptr, 0) < 0)) {
         QSaveFile file(path);
         if (file.open(QIODevice::WriteOnly)
             && (!exists
@@ -106,7 +107,7 @@ QString replaceFile(const QString &path, const QByteArray &content)
             && file.write(content) == content.size() && file.commit())
             return {};
         if (!exists)
-            return file.errorString();
+            return text::reasonOf(file);
     }
     return writeInPlace(name, content); // also one that is mounted alone, which cannot be replaced
 }

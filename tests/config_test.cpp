@@ -106,9 +106,10 @@ TEST(Config, ReadsAgainWhateverTheFirstReadingLeft)
     for (const QString &unreadable : {config.path() + u".missing"_s, support::sourceDir()}) {
         testing::internal::CaptureStdout();
         config.readFile(unreadable, u"cfg"_s);
-        EXPECT_EQ(testing::internal::GetCapturedStdout(), "Error in the method FileReader::open( "
-                                                              + unreadable.toStdString()
-                                                              + " ): File Not Found\n");
+        EXPECT_FALSE(config.openFile());
+        const std::string told = "Error in the method FileReader::open( " + unreadable.toStdString()
+                                 + " ): File Not Found\n";
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), told + told);
         EXPECT_EQ(config.configTreeText(), noTree);
     }
     config.readFile(u"/missing.xml"_s, u"xml"_s);
@@ -144,6 +145,7 @@ TEST(Config, ReadsAnOpenStreamPieceByPiece)
     EXPECT_EQ(config.lookup(u"z\u00FF.m.k"_s), u"2"_s);
     EXPECT_EQ(config.rest(), " }; the rest");
     EXPECT_FALSE(config.jump('}'));
+    ASSERT_TRUE(config.openFile());
     config.load("z:{k=1;};");
     EXPECT_EQ(config.rest(), ""); // closed at the end of the file
 }
@@ -183,6 +185,9 @@ TEST(ConfigWriter, WritesGroupsNestedToAnyDepth)
         return QByteArray("g:{").repeated(depth) + "k=1;" + QByteArray("};").repeated(depth);
     };
     EXPECT_EQ(treeOf(nested(100'000)), u"g\n"_s.repeated(100'000) + u"k = 1\n"_s);
+    Config tooDeep;
+    tooDeep.readContent(nested(4'000), u"conf"_s, u"cfg"_s);
+    EXPECT_FALSE(tooDeep.writtenAs(u"cfg"_s)); // 96 MB of blanks
     const QByteArray deep = rewritten(nested(500), u"cfg"_s, u"cfg"_s);
     EXPECT_EQ(treeOf(deep), treeOf(nested(500)));
     EXPECT_TRUE(rewritten(deep, u"cfg"_s, u"xml"_s).endsWith("\n    </g>\n</g>\n"));
@@ -281,7 +286,7 @@ TEST(ConfigViews, AcceptWhatIsNotThere)
 
 TEST(ConfigViews, NestToAnyDepth)
 {
-    constexpr int Depth = 100'000;
+    constexpr int Depth = 150'000;
     Loaded config(QByteArray("g:{").repeated(Depth) + "k=1;");
     const View view(config.buildConfigListView());
     QDomDocument document;

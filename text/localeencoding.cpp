@@ -54,6 +54,12 @@ QString systemMessage(int error)
     return localeCodec() ? localeCodec()->toUnicode(message) : QString::fromUtf8(message);
 }
 
+QString reasonOf(const QFileDevice &file)
+{
+    const int error = errno; // of the system, unless the toolkit says something of its own
+    return file.errorString() == qt_error_string(error) ? systemMessage(error) : file.errorString();
+}
+
 QByteArray Encoder::encode(QStringView text)
 {
     if (!codec)
@@ -79,7 +85,7 @@ bool Encoder::isKnown(char32_t character)
     if (const auto seen = known.constFind(character); seen != known.cend())
         return *seen;
     const auto text = QChar::fromUcs4(character);
-    return *known.insert(character, codec->canEncode(text) && !codec->fromUnicode(text).isEmpty());
+    return *known.insert(character, codec->canEncode(text));
 }
 
 qint64 LocaleFile::writeData(const char *data, qint64 length)

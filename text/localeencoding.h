@@ -22,6 +22,8 @@ QTextCodec *localeCodec();
 /// What the system calls an error, a value of `errno`, in the user's language, whatever locale the
 /// process is in.
 QString systemMessage(int error);
+/// Why the last operation on the file failed, in the user's language where the system says it.
+QString reasonOf(const QFileDevice &file);
 
 /// Encodes one text after the other with `codec`; null means UTF-8. A character that the codec
 /// lacks becomes one `?`, also where it is a surrogate pair. Which characters it has is remembered:

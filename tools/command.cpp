@@ -236,7 +236,7 @@ std::unique_ptr<QFile> openedRequest(const Call &call, const QString &name)
     if (name == standardInput ? file->open(stdin, QIODevice::ReadOnly)
                               : file->open(QIODevice::ReadOnly))
         return file;
-    tellTrouble(call, name, reasonOf(*file));
+    tellTrouble(call, name, text::reasonOf(*file));
     return nullptr;
 }
 

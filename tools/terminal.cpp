@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdio>
 #include <utility>
 
@@ -67,13 +66,6 @@ int printBytes(const QByteArray &bytes)
 }
 
 void printError(const QString &text) { std::fputs(text::toLocale(text).constData(), stderr); }
-
-QString reasonOf(const QFileDevice &file)
-{
-    const int error = errno; // of the system, unless the toolkit says something of its own
-    return file.errorString() == qt_error_string(error) ? text::systemMessage(error)
-                                                        : file.errorString();
-}
 
 QString inOneLine(const QString &text)
 {

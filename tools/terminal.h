@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QFileDevice>
 #include <QMap>
 
 #include <compare>
@@ -19,9 +18,6 @@ int printOut(const QString &text);
 int printBytes(const QByteArray &bytes);
 /// Writes to standard error.
 void printError(const QString &text);
-
-/// Why the last operation on the file failed, in the user's language where the system says it.
-QString reasonOf(const QFileDevice &file);
 
 /// The text in one line: line ends, tabs and other control characters as `\n`, `\t`, `\x1b`.
 QString inOneLine(const QString &text);

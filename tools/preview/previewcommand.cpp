@@ -133,7 +133,7 @@ private:
         if (bytes.size() > MostBytes)
             fault = u"it has more than %1 bytes"_s.arg(MostBytes);
         else if (file->error() != QFile::NoError)
-            fault = tools::reasonOf(*file);
+            fault = text::reasonOf(*file);
         else if (annotates && !isRequest(bytes))
             fault = u"a print file does not tell the lines of its request"_s;
         else if (!second.isEmpty() && !isRequest(bytes))

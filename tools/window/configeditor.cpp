@@ -20,12 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray contentOfFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Why the file cannot be written, or made where it is missing; empty when it can.
 QString whyUnwritable(const QString &path)
 {
@@ -97,7 +91,7 @@ bool ConfigEditor::open(const Source &file)
     if (info.size() > MaxContentBytes)
         return refuse(trouble, tr("It has more than 64 MiB."));
     if (info.exists() && !present.open(QIODevice::ReadOnly))
-        return refuse(tr("%1 cannot be read.").arg(file.path), present.errorString());
+        return refuse(tr("%1 cannot be read.").arg(file.path), text::reasonOf(present));
     const QByteArray content = present.isOpen() ? present.readAll() : QByteArray();
     Outline outline = readOutline(content, file.format);
     if (nestsTooDeep(outline))
@@ -177,7 +171,9 @@ bool ConfigEditor::saveTo(const Source &target)
 bool ConfigEditor::confirmSaving(const Source &target)
 {
     constexpr auto Choice = QMessageBox::Save | QMessageBox::Cancel;
-    if (target.path == source.path && contentOfFile(target.path) != written
+    QFile present(target.path);
+    if (target.path == source.path
+        && (present.open(QIODevice::ReadOnly) ? present.readAll() : QByteArray()) != written
         && ask(tr("%1 has changed since it was opened.").arg(target.path),
                tr("Saving replaces it with what this window shows."), Choice)
                != QMessageBox::Save)

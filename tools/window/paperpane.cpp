@@ -5,6 +5,7 @@
 #include "app/translation.h"
 #include "config/configviews.h"
 #include "render/vocabulary.h"
+#include "text/localeencoding.h"
 #include "text/system.h"
 #include "tools/check/elementtable.h"
 
@@ -138,7 +139,7 @@ QString PaperPane::openRequest(const QString &path)
     constexpr qint64 MostBytes = qint64(1'024) * 1'024; // it is printed at every key stroke
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return text::reasonOf(file);
     if (file.size() > MostBytes)
         return tr("It has more than 1 MiB.");
     if (!preview::isRequest(file.readAll()))
