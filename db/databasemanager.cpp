@@ -39,9 +39,9 @@ bool copiesThroughConnection(const QString &text)
         return false;
     // What holds no statement: quoted text and names, comments.
     static const QRegularExpression aside(
-        uR"(\bE'(?:[^'\\]++|\\.|'')*+'|'(?:[^']++|'')*+'|"[^"]*+"|\$(\w*+)\$.*?\$\1\$|--[^\n]*+|)"
+        uR"(\b[eE]'(?:[^'\\]++|\\.|'')*+'|'(?:[^']++|'')*+'|"[^"]*+"|(?<![\w$])\$(\w*+)\$.*?\$\1\$|--[^\n\r]*+|)"
         uR"((/\*(?:[^*/]++|(?2)|/(?!\*)|\*(?!/))*+\*/))"_s,
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+        QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression copy(
         uR"((?:^|;)\s*copy\b[^;]*\b(?:from|to)\s+(?:stdin|stdout)\b)"_s,
         QRegularExpression::CaseInsensitiveOption);

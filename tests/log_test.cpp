@@ -30,7 +30,7 @@ protected:
 
     /// Sets the configuration of every Logger from now on; "HERE" stands for the test's folder.
     void configure(QByteArray settings = "level = info; type = append; basedir = \"HERE\";"
-                                         " filename = \"print.log\";")
+                                         " filename = \"caff\u00e8\";")
     {
         settings.replace("HERE", folder.path().toUtf8());
         const support::Home home("zentaro : { logger : { " + settings + " }; };");
@@ -40,7 +40,7 @@ protected:
     QByteArray lines() const { return support::withoutTimeStamps(support::readFile(file)); }
 
     const support::Folder folder;
-    const QString file = folder.path(u"print.log"_s);
+    const QString file = folder.path(u"caff\u00e8"_s);
 };
 
 } // namespace
@@ -50,7 +50,7 @@ TEST_F(Log, IsWhatTheConfigurationSays)
     const QByteArray all =
         "DEBUG: Start Logger\nDEBUG: d\nINFO: i\nWARNING: w\nERROR: e\nFATAL: f\n: ?\n";
     const auto from = [&](const char *name) { return all.mid(all.indexOf(name)); };
-    const QByteArray print = "basedir = \"HERE\"; filename = \"print.log\"; ";
+    const QByteArray print = "basedir = \"HERE\"; filename = \"caff\u00e8\"; ";
     const QByteArray error = "Error in the method Logger::setType(";
     const std::tuple<QByteArray, QByteArray, QByteArray> cases[] = {
         {print + "level = debug; type = append;", "", "old\n" + all},
@@ -63,10 +63,11 @@ TEST_F(Log, IsWhatTheConfigurationSays)
         {print + "level = Fatal; type = append;", "", "old\n" + from("FATAL")},
         {print + "type = replace;", "", "old\n"},
         {print, "", "old\n"},
-        {"type = append; basedir = \"\"; filename = \"./HERE/print.log\";", "", "old\n" + all},
+        {"type = append; basedir = \"\"; filename = \"./HERE/caff\u00e8\";", "", "old\n" + all},
         {"type = Append; basedir = \"HERE/missing\"; filename = x;", error + "Append)\n", "old\n"},
         {"type = OVERwrite; basedir = \"HERE\";", error + "OVERwrite)\n", "old\n"}, // the folder
-        {"type = append;", error + "append)\n", "old\n"},                           // "/"
+        {"type = append; basedir = \"HERE/\xE8\"; filename = x;", error + "append)\n", "old\n"},
+        {"type = append;", error + "append)\n", "old\n"}, // "/"
         {"type = append; basedir = \"/dev\"; filename = full;", "", "old\n"}};
     for (const auto &[settings, output, content] : cases) {
         support::writeFile(file, "old\n");
@@ -138,10 +139,10 @@ TEST_F(Log, TheManagerKeepsLoggersByKey)
     Logger *const replaced = manager.getLog(u"default"_s);
     EXPECT_NE(manager.getLog(u"sales"_s), replaced);
     manager.set({}, u"default"_s);
-    replaced->info(u"replaced"_s); // each has the file open for itself
     manager.getLog(u"sales"_s)->info(u"sales"_s);
+    replaced->info(u"replaced"_s); // each has the file open for itself
     manager.getLog({})->info(u"default"_s);
-    EXPECT_EQ(lines(), "INFO: replaced\nINFO: sales\nINFO: default\n");
+    EXPECT_EQ(lines(), "INFO: sales\nINFO: replaced\nINFO: default\n");
     EXPECT_NE(manager.getLog({}), replaced);
 }
 

@@ -166,6 +166,7 @@ TEST_F(Copy, ShowsAMessageBoxInAProgramWithWindows)
     QTimer watcher;
     QObject::connect(&watcher, &QTimer::timeout, [&] {
         if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            EXPECT_EQ(box->thread(), application.thread());
             shown += u"%1|%2|%3|%4"_s.arg(box->windowTitle(), box->text())
                          .arg(box->buttons().size())
                          .arg(QString::fromUtf8(support::readFile(target)));
