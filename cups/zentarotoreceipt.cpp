@@ -215,13 +215,6 @@ bool send(int descriptor, int copies)
     return bytes != nullptr;
 }
 
-/// Shows in the state of the printer whether its last request was faulty.
-void tellState(bool faulty)
-{
-    if (faulty || qgetenv("PRINTER_STATE_REASONS").contains(FaultyReason))
-        std::fprintf(stderr, "STATE: %c%s\n", faulty ? '+' : '-', FaultyReason);
-}
-
 /// Prints the job of these arguments; answers the exit status.
 int printJob(int argc, char **argv)
 {
@@ -234,7 +227,9 @@ int printJob(int argc, char **argv)
     ReceiptPrinter printer(printFile(descriptor, codecOf(option(argv[5], "Encoding"))));
     requestreader::read(request, printer, &printer);
     const QString fault = printer.end();
-    tellState(!fault.isEmpty());
+    // The state of the printer shows whether its last request was faulty.
+    if (!fault.isEmpty() || qgetenv("PRINTER_STATE_REASONS").contains(FaultyReason))
+        std::fprintf(stderr, "STATE: %c%s\n", fault.isEmpty() ? '-' : '+', FaultyReason);
     if (!printer.hasSection || (!fault.isEmpty() && option(argv[5], "Faulty") == "hold")) {
         tell("ERROR", "Not printed: "_L1 + fault);
         return EXIT_FAILURE;

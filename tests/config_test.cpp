@@ -12,7 +12,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
 
 using namespace Qt::StringLiterals;
 using libconfig::Config;
@@ -177,6 +181,27 @@ TEST(ConfigWriter, PrintsTheTreeAndNeedsANameForAFile)
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "Tree \n"
               "Error in the method Config::buildConfigFile(  ): No such file or directory\n");
+}
+
+TEST(ConfigWriter, KeepsWhoMayReadTheFile)
+{
+    Loaded config("z:{k=1;};");
+    const QByteArray path = QFile::encodeName(config.path());
+    ASSERT_EQ(chmod(path.constData(), 0440), 0); // root may write it all the same
+    EXPECT_TRUE(config.buildConfigFile({}));
+    struct stat now = {};
+    ASSERT_EQ(stat(path.constData(), &now), 0);
+    EXPECT_EQ(now.st_mode & 07777, 0440U);
+    // An access list: rw for the owner, r for the user 1, nothing for the group and the others.
+    const quint16 list[] = {2, 0,      1,      6,  0xFFFF, 0xFFFF, 2,      4,  1, 0,      4,
+                            0, 0xFFFF, 0xFFFF, 16, 4,      0xFFFF, 0xFFFF, 32, 0, 0xFFFF, 0xFFFF};
+    if (setxattr(path.constData(), "system.posix_acl_access", list, sizeof list, 0) != 0)
+        GTEST_SKIP() << "the file system has no access lists";
+    EXPECT_TRUE(config.buildConfigFile({}));
+    quint16 kept[std::size(list)] = {};
+    EXPECT_EQ(getxattr(path.constData(), "system.posix_acl_access", kept, sizeof kept),
+              ssize_t(sizeof list));
+    EXPECT_TRUE(std::ranges::equal(kept, list));
 }
 
 TEST(ConfigWriter, WritesGroupsNestedToAnyDepth)

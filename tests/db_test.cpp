@@ -119,7 +119,10 @@ TEST_F(Database, Queries)
                              u"update item set price = 0; --\0 where id = 1"_s,
                              u"copy item to stdout"_s,
                              u"select 'a;' ; /* /* ; */ */ COPY (select ';') -- ;\n TO/**/STDOUT"_s,
-                             u"select E'\\''; copy item from stdin; select ''"_s};
+                             u"select E'\\''; copy item from stdin; select ''"_s,
+                             u"select 1 as a$x$; copy item to stdout; select 1 as b$x$"_s,
+                             u"select $x$a$X$b$x$; copy item to stdout; select $x$c$x$"_s,
+                             u"select 1 --\r; copy item to stdout"_s};
     for (const QString &query : never)
         tell(manager.executeQuery(query, db));
     const QString fine =

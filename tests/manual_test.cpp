@@ -104,6 +104,8 @@ TEST(Completion, KnowsKeysAndValues)
         {u"config get zentaro.doc.paper"_s, u"zentaro.doc.paperWidth zentaro.doc.paperRows"_s},
         {u"config set zentaro.doc.printTime "_s, u"true false"_s},
         {u"config set --all printTime t"_s, u"true"_s},
+        {u"config set --all paper"_s, u"paperWidth paperRows"_s},
+        {u"config unset zentaro.doc.printTime zentaro.doc.paperW"_s, u"zentaro.doc.paperWidth"_s},
         {u"config --format = x"_s, u"xml"_s},
         {u"config init --columns ="_s, u"32 40 42 48"_s},
         {u"config init -l i"_s, u"it"_s},

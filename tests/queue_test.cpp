@@ -271,6 +271,7 @@ TEST_F(Queue, IsSetUpByOneCommand)
                               "\" 32 paperWidth"))
         << page.data();
     EXPECT_TRUE(page.contains("\x85\x83\x84\xa0\xc6\x86\x91\x87\x8a\x82\x88\x89\x8d\xa1\x8c\x8b"));
+    EXPECT_TRUE(page.contains("encoding unknown")) << page.data();
     queue({u"remove"_s, u"k\u00fcche;x"_s});
     const std::pair<QStringList, QByteArray> rows[] = {
         {{u"add"_s, u"a/b"_s, uri}, "`a/b` cannot be the name of a queue"},

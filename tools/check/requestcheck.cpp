@@ -3,6 +3,7 @@
 
 #include "app/translation.h"
 #include "app/ztconfiguration.h"
+#include "text/localeencoding.h"
 #include "tools/command.h"
 
 namespace requestcheck {
@@ -43,6 +44,7 @@ QString CheckingDevice::faultToTell() const
          u"the XML declaration holds `version`, `encoding` and `standalone` in this order, in "
          "quotes, and ends with `?>`"_s},
         {root.begin.line > 0, u"something stands behind the end of the root element"_s},
+        {head.contains("<!DOCTYPE"_L1), fault.endsWith(u'.') ? fault.chopped(1) : fault},
         {true, u"no element begins here: the request is another file, or not in the encoding that "
                "it names"_s},
     };
@@ -108,7 +110,10 @@ int checkFiles(const tools::Call &call, const tools::RequestFiles &files,
             if (told.severity == tools::Severity::Warning && line.isSet(u"werror"_s))
                 told.severity = tools::Severity::Error;
         }
-        add(std::move(file));
+        if (request->error() != QFile::NoError)
+            status = tools::tellTrouble(call, name, text::reasonOf(*request));
+        else
+            add(std::move(file));
     }
     if (asJson)
         tools::printBytes(tools::findingsAsJson(kept));

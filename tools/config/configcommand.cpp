@@ -2,6 +2,7 @@
 #include "tools/config/configcommand.h"
 
 #include "app/ztconfiguration.h"
+#include "text/localeencoding.h"
 #include "tools/config/outline.h"
 #include "tools/terminal.h"
 
@@ -61,7 +62,7 @@ QByteArray contentOf(const Call &call, const QString &path)
         file.open(QIODevice::ReadOnly) ? libconfig::limitedContent(file) : QByteArray();
     QString trouble;
     if (file.error() != QFile::NoError)
-        trouble = reasonOf(file);
+        trouble = text::reasonOf(file);
     else if (content.size() > MaxContentBytes)
         trouble = u"more than 64 MiB, which nothing reads"_s;
     if (isMissing(path))
@@ -101,7 +102,8 @@ int getValues(const Call &call)
     bool complete = true;
     for (const QString &key : line.positionalArguments()) {
         const QByteArray value = file.config.lookup(key).toLatin1();
-        values += QString::fromLatin1(value) + u'\n';
+        values += namesFile(settingOf(key)) ? QFile::decodeName(value) : QString::fromLatin1(value);
+        values += u'\n';
         const QString unread = unreadKey(key);
         if (!unread.isEmpty())
             refuse(call, unread);

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include <QFile>
 #include <QStringList>
 
 /// The groups and keys that the suite reads from its configuration: `zentaro.GROUP.WORD`.
@@ -37,6 +38,18 @@ QStringList knownWords(QStringView group);
 /// A setting, also by its dotted key; null for an unknown one.
 const Setting *findSetting(QStringView group, QStringView word);
 const Setting *settingOf(const QString &key);
+/// Whether the value of a setting, which may be null, names a file or folder by its bytes.
+inline bool namesFile(const Setting *setting)
+{
+    return setting
+           && (setting->kind == SettingKind::Folder || setting->kind == SettingKind::FileName);
+}
+/// Such a value as a path, and the other way.
+inline QString pathIn(const QString &value) { return QFile::decodeName(value.toLatin1()); }
+inline QString valueFor(const QString &path)
+{
+    return QString::fromLatin1(QFile::encodeName(path));
+}
 /// The words that a value of a kind has to be one of, in any letter case; none for other kinds.
 QStringList wordsOf(SettingKind kind);
 /// The groups in which a key word is known.

@@ -174,9 +174,7 @@ EditedContent verified(const KeyInFile &before, const QByteArray &edited, const 
 
 EditedContent withSetting(const QByteArray &content, const QString &key, const QString &value)
 {
-    const Setting *const known = settingOf(key);
-    const bool isFile =
-        known && (known->kind == SettingKind::Folder || known->kind == SettingKind::FileName);
+    const bool isFile = namesFile(settingOf(key));
     const QByteArray bytes = isFile ? QFile::encodeName(value) : value.toLatin1();
     const QString stored = QString::fromLatin1(bytes);
     if (!isFile && stored != value)

@@ -80,6 +80,8 @@ int changeValues(const Call &call, CommandLine &line, bool sets)
     for (qsizetype i = 0; i < words.size(); i += step) {
         const QStringList keys = line.isSet(u"all"_s) ? keysOfAll(words[i]) : QStringList(words[i]);
         const QString unread = unreadKey(keys.value(0, words[i]));
+        if (keys.isEmpty() && unread.isEmpty())
+            line.wrongUsage("--all takes key words, as paperWidth, not `"_L1 + words[i] + u'`');
         if (!unread.isEmpty() && (keys.isEmpty() || !line.isSet(u"force"_s)))
             return refuse(call, unread, Findings);
         for (const QString &key : keys) {

@@ -193,7 +193,8 @@ QByteArray testPage(const QString &queue, const QString &encoding)
         return text;
     };
     QString request = "<print>"_L1 + method(u"printPartialOrder"_s, u"zentaro.doc."_s);
-    for (const QString &text : {queue, isReadable ? path : u"no settings"_s, encoding})
+    for (const QString &text : {queue, isReadable ? path : u"no settings"_s,
+                                encoding.isEmpty() ? u"encoding unknown"_s : encoding})
         request += item({}, text);
     for (const char16_t *const row : characters)
         request += item({}, QString::fromUtf16(row));

@@ -85,7 +85,8 @@ void SettingPane::showCurrent()
         editor->hide();
         editor->deleteLater();
     }
-    editor = isGroup ? nullptr : newEditor(setting, value);
+    editor = isGroup ? nullptr
+                     : newEditor(setting, tools::namesFile(setting) ? tools::pathIn(value) : value);
     if (!editor)
         return;
     title->setBuddy(editor);
@@ -107,14 +108,16 @@ void SettingPane::toggleSwitch()
 }
 
 /// Gives the current setting the value that the person gives it.
-void SettingPane::edit(const QString &value)
+void SettingPane::edit(const QString &text)
 {
     QTreeWidgetItem *const item = tree.currentItem();
+    const Setting *const setting = tree.settingOf(item);
+    const QString value = tools::namesFile(setting) ? tools::valueFor(text) : text;
     shown = libconfig::settingText(tree.keyOf(item), value); // in the editor, as it is typed
-    if (isLanguage(tree.settingOf(item)))
-        tree.setValues(
-            {{item->parent(), u"basedir"_s, value.isEmpty() ? QString() : labelsFolder()},
-             {item->parent(), u"file"_s, value}});
+    if (isLanguage(setting))
+        tree.setValues({{item->parent(), u"basedir"_s,
+                         value.isEmpty() ? QString() : tools::valueFor(labelsFolder())},
+                        {item->parent(), u"file"_s, value}});
     else
         tree.setValue(item, value);
 }
@@ -124,7 +127,8 @@ QString SettingPane::labelsFolder() const
 {
     const QTreeWidgetItem *const item =
         ConfigTree::childOf(tree.currentItem()->parent(), false, u"basedir"_s);
-    const QString folder = item ? libconfig::settingOf(item->text(0)).second : QString();
+    const QString folder =
+        item ? tools::pathIn(libconfig::settingOf(item->text(0)).second) : QString();
     const bool isUsed = !folder.isEmpty() && !QDir(folder, u"*.qm"_s).isEmpty();
     return isUsed ? folder : tools::translationsFolder();
 }

@@ -27,7 +27,7 @@ public:
     void toggleSwitch();
 
 private:
-    void edit(const QString &value);
+    void edit(const QString &text);
     QString labelsFolder() const;
     QStringList languages() const;
     QWidget *newEditor(const Setting *setting, const QString &value);
