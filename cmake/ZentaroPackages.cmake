@@ -67,8 +67,8 @@ set(CPACK_COMPONENT_DESKTOP_DESCRIPTION
 What zentaro-tools needs to draw pictures of printed documents, and to edit the
 configuration in a window.")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "zentaro-tools ${same_version}")
-# The pictures of a preview are drawn with it.
-set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS fonts-dejavu-core)
+# The pictures of a preview are drawn with the font; the window's buttons are in the translations.
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-translations-l10n")
 
 set(CPACK_DEBIAN_CUPS_PACKAGE_NAME zentaro-cups)
 set(CPACK_COMPONENT_CUPS_DESCRIPTION

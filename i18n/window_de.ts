@@ -485,6 +485,78 @@
         <source> (did you mean `%1`?)</source>
         <translation> (war `%1` gemeint?)</translation>
     </message>
+    <message>
+        <source>without its line end</source>
+        <translation>ohne Zeilenende</translation>
+    </message>
+    <message>
+        <source>ends with a carriage return</source>
+        <translation>endet mit einem Wagenrücklauf</translation>
+    </message>
+    <message>
+        <source>without its carriage return</source>
+        <translation>ohne Wagenrücklauf</translation>
+    </message>
+    <message>
+        <source>fiscal</source>
+        <translation>fiskalisch</translation>
+    </message>
+    <message>
+        <source>closes what was not opened</source>
+        <translation>schließt, was nicht geöffnet war</translation>
+    </message>
+    <message>
+        <source>the section is not closed</source>
+        <translation>der Abschnitt ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>outside of a section</source>
+        <translation>außerhalb eines Abschnitts</translation>
+    </message>
+    <message>
+        <source>a double quote ends the name early</source>
+        <translation>ein Anführungszeichen beendet den Namen vorzeitig</translation>
+    </message>
+    <message>
+        <source>quantity and price take digits and at most one point</source>
+        <translation>Menge und Preis bestehen aus Ziffern und höchstens einem Punkt</translation>
+    </message>
+    <message>
+        <source>the department is no number</source>
+        <translation>die Abteilung ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>empty line</source>
+        <translation>leere Zeile</translation>
+    </message>
+    <message>
+        <source>ends at its first &quot;@</source>
+        <translation>endet beim ersten &quot;@</translation>
+    </message>
+    <message>
+        <source>without its opening quote</source>
+        <translation>ohne Anführungszeichen am Anfang</translation>
+    </message>
+    <message>
+        <source>without its closing &quot;@</source>
+        <translation>ohne &quot;@ am Ende</translation>
+    </message>
+    <message>
+        <source>not framed: a command to the printer</source>
+        <translation>nicht gerahmt: ein Befehl an den Drucker</translation>
+    </message>
+    <message>
+        <source>there is no memory for the print file</source>
+        <translation>für die Druckdatei fehlt der Speicher</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes would be printed</source>
+        <translation>es würden mehr als %1 Bytes gedruckt</translation>
+    </message>
+    <message>
+        <source>line %1: the print run stops reading here</source>
+        <translation>Zeile %1: Der Druck liest hier nicht weiter</translation>
+    </message>
 </context>
 <context>
     <name>PaperPane</name>

@@ -485,6 +485,78 @@
         <source> (did you mean `%1`?)</source>
         <translation> (¿quería decir `%1`?)</translation>
     </message>
+    <message>
+        <source>without its line end</source>
+        <translation>sin fin de línea</translation>
+    </message>
+    <message>
+        <source>ends with a carriage return</source>
+        <translation>termina con un retorno de carro</translation>
+    </message>
+    <message>
+        <source>without its carriage return</source>
+        <translation>sin retorno de carro</translation>
+    </message>
+    <message>
+        <source>fiscal</source>
+        <translation>fiscal</translation>
+    </message>
+    <message>
+        <source>closes what was not opened</source>
+        <translation>cierra lo que no estaba abierto</translation>
+    </message>
+    <message>
+        <source>the section is not closed</source>
+        <translation>la sección no está cerrada</translation>
+    </message>
+    <message>
+        <source>outside of a section</source>
+        <translation>fuera de una sección</translation>
+    </message>
+    <message>
+        <source>a double quote ends the name early</source>
+        <translation>unas comillas terminan antes el nombre</translation>
+    </message>
+    <message>
+        <source>quantity and price take digits and at most one point</source>
+        <translation>cantidad y precio llevan cifras y como mucho un punto</translation>
+    </message>
+    <message>
+        <source>the department is no number</source>
+        <translation>el departamento no es un número</translation>
+    </message>
+    <message>
+        <source>empty line</source>
+        <translation>línea vacía</translation>
+    </message>
+    <message>
+        <source>ends at its first &quot;@</source>
+        <translation>termina en el primer &quot;@</translation>
+    </message>
+    <message>
+        <source>without its opening quote</source>
+        <translation>sin las comillas iniciales</translation>
+    </message>
+    <message>
+        <source>without its closing &quot;@</source>
+        <translation>sin &quot;@ final</translation>
+    </message>
+    <message>
+        <source>not framed: a command to the printer</source>
+        <translation>sin marco: una orden a la impresora</translation>
+    </message>
+    <message>
+        <source>there is no memory for the print file</source>
+        <translation>no hay memoria para el archivo de impresión</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes would be printed</source>
+        <translation>se imprimirían más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>line %1: the print run stops reading here</source>
+        <translation>línea %1: la impresión deja de leer aquí</translation>
+    </message>
 </context>
 <context>
     <name>PaperPane</name>

@@ -485,6 +485,78 @@
         <source> (did you mean `%1`?)</source>
         <translation> (vouliez-vous dire `%1` ?)</translation>
     </message>
+    <message>
+        <source>without its line end</source>
+        <translation>sans fin de ligne</translation>
+    </message>
+    <message>
+        <source>ends with a carriage return</source>
+        <translation>se termine par un retour chariot</translation>
+    </message>
+    <message>
+        <source>without its carriage return</source>
+        <translation>sans retour chariot</translation>
+    </message>
+    <message>
+        <source>fiscal</source>
+        <translation>fiscal</translation>
+    </message>
+    <message>
+        <source>closes what was not opened</source>
+        <translation>ferme ce qui n&apos;était pas ouvert</translation>
+    </message>
+    <message>
+        <source>the section is not closed</source>
+        <translation>la section n&apos;est pas fermée</translation>
+    </message>
+    <message>
+        <source>outside of a section</source>
+        <translation>hors d&apos;une section</translation>
+    </message>
+    <message>
+        <source>a double quote ends the name early</source>
+        <translation>un guillemet termine le nom trop tôt</translation>
+    </message>
+    <message>
+        <source>quantity and price take digits and at most one point</source>
+        <translation>quantité et prix prennent des chiffres et au plus un point</translation>
+    </message>
+    <message>
+        <source>the department is no number</source>
+        <translation>le rayon n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>empty line</source>
+        <translation>ligne vide</translation>
+    </message>
+    <message>
+        <source>ends at its first &quot;@</source>
+        <translation>se termine au premier &quot;@</translation>
+    </message>
+    <message>
+        <source>without its opening quote</source>
+        <translation>sans guillemet ouvrant</translation>
+    </message>
+    <message>
+        <source>without its closing &quot;@</source>
+        <translation>sans &quot;@ final</translation>
+    </message>
+    <message>
+        <source>not framed: a command to the printer</source>
+        <translation>sans cadre : une commande à l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>there is no memory for the print file</source>
+        <translation>il n&apos;y a pas de mémoire pour le fichier d&apos;impression</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes would be printed</source>
+        <translation>plus de %1 octets seraient imprimés</translation>
+    </message>
+    <message>
+        <source>line %1: the print run stops reading here</source>
+        <translation>ligne %1 : l&apos;impression cesse de lire ici</translation>
+    </message>
 </context>
 <context>
     <name>PaperPane</name>

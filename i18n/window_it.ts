@@ -485,6 +485,78 @@
         <source> (did you mean `%1`?)</source>
         <translation> (s’intendeva `%1`?)</translation>
     </message>
+    <message>
+        <source>without its line end</source>
+        <translation>senza fine riga</translation>
+    </message>
+    <message>
+        <source>ends with a carriage return</source>
+        <translation>termina con un ritorno a capo</translation>
+    </message>
+    <message>
+        <source>without its carriage return</source>
+        <translation>senza il ritorno a capo</translation>
+    </message>
+    <message>
+        <source>fiscal</source>
+        <translation>fiscale</translation>
+    </message>
+    <message>
+        <source>closes what was not opened</source>
+        <translation>chiude ciò che non era aperto</translation>
+    </message>
+    <message>
+        <source>the section is not closed</source>
+        <translation>la sezione non è chiusa</translation>
+    </message>
+    <message>
+        <source>outside of a section</source>
+        <translation>fuori da una sezione</translation>
+    </message>
+    <message>
+        <source>a double quote ends the name early</source>
+        <translation>le virgolette terminano prima il nome</translation>
+    </message>
+    <message>
+        <source>quantity and price take digits and at most one point</source>
+        <translation>quantità e prezzo vogliono cifre e al massimo un punto</translation>
+    </message>
+    <message>
+        <source>the department is no number</source>
+        <translation>il reparto non è un numero</translation>
+    </message>
+    <message>
+        <source>empty line</source>
+        <translation>riga vuota</translation>
+    </message>
+    <message>
+        <source>ends at its first &quot;@</source>
+        <translation>termina al primo &quot;@</translation>
+    </message>
+    <message>
+        <source>without its opening quote</source>
+        <translation>senza le virgolette iniziali</translation>
+    </message>
+    <message>
+        <source>without its closing &quot;@</source>
+        <translation>senza &quot;@ finale</translation>
+    </message>
+    <message>
+        <source>not framed: a command to the printer</source>
+        <translation>senza cornice: un comando alla stampante</translation>
+    </message>
+    <message>
+        <source>there is no memory for the print file</source>
+        <translation>non c&apos;è memoria per il file di stampa</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes would be printed</source>
+        <translation>si stamperebbero più di %1 byte</translation>
+    </message>
+    <message>
+        <source>line %1: the print run stops reading here</source>
+        <translation>riga %1: la stampa smette di leggere qui</translation>
+    </message>
 </context>
 <context>
     <name>PaperPane</name>

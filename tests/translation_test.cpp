@@ -62,7 +62,8 @@ TEST(Translation, IsCompleteInEveryLanguage)
     expectComplete(u"zentaro"_s, {u"render"_s, u"util"_s}, 50);
     expectComplete(u"window"_s,
                    {u"tools/window"_s, u"tools/check/elementtable.cpp"_s, u"tools/config"_s,
-                    u"tools/terminal.cpp"_s, u"render/settings.h"_s},
+                    u"tools/terminal.cpp"_s, u"tools/preview/paper.cpp"_s,
+                    u"tools/preview/printfile.cpp"_s, u"render/settings.h"_s},
                    150);
 }
 

@@ -46,10 +46,7 @@ inline bool namesFile(const Setting *setting)
 }
 /// Such a value as a path, and the other way.
 inline QString pathIn(const QString &value) { return QFile::decodeName(value.toLatin1()); }
-inline QString valueFor(const QString &path)
-{
-    return QString::fromLatin1(QFile::encodeName(path));
-}
+inline QString valueOf(const QString &path) { return QString::fromLatin1(QFile::encodeName(path)); }
 /// The words that a value of a kind has to be one of, in any letter case; none for other kinds.
 QStringList wordsOf(SettingKind kind);
 /// The groups in which a key word is known.

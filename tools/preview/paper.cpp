@@ -21,11 +21,12 @@ QString escaped(CellsView cells)
 QString faultOfEnd(const PrintLine &line)
 {
     if (line.end == LineEnd::Missing)
-        return u"without its line end"_s;
+        return Finding::tr("without its line end");
     const bool hasReturn = line.end == LineEnd::CarriageReturn;
     if (hasReturn == (line.kind == LineKind::Fiscal))
         return {};
-    return hasReturn ? u"ends with a carriage return"_s : u"without its carriage return"_s;
+    return hasReturn ? Finding::tr("ends with a carriage return")
+                     : Finding::tr("without its carriage return");
 }
 
 /// The lines of a receipt, the right at the edge: two where it has no room behind the left.
@@ -110,7 +111,7 @@ private:
         if (opens) {
             section = opensFiscal ? Section::Fiscal : Section::Listing;
             add(Row::Kind::TopEdge, opensFiscal ? u""_s : u"j"_s,
-                joined({opensFiscal ? u"fiscal"_s : QString(), faultOfEnd(line)}));
+                joined({opensFiscal ? Finding::tr("fiscal") : QString(), faultOfEnd(line)}));
             return;
         }
         if (line.kind != SectionEnd && line.kind != FiscalEnd)
@@ -120,7 +121,7 @@ private:
         if (closed == Section::None)
             add(Row::Kind::TornTop, {}, {});
         add(Row::Kind::BottomEdge, line.kind == FiscalEnd ? u"1T"_s : u"J"_s,
-            joined({closed == opened ? QString() : u"closes what was not opened"_s,
+            joined({closed == opened ? QString() : Finding::tr("closes what was not opened"),
                     faultOfEnd(line)}));
     }
 
@@ -131,14 +132,14 @@ private:
         const Section closed = std::exchange(section, Section::None);
         if (closed != Section::None)
             add(Row::Kind::TornBottom, {},
-                closed == Section::Torn ? QString() : u"the section is not closed"_s);
+                closed == Section::Torn ? QString() : Finding::tr("the section is not closed"));
     }
 
     void print(PrintLine &line)
     {
         if (section == Section::None) {
             section = Section::Torn;
-            add(Row::Kind::TornTop, {}, u"outside of a section"_s);
+            add(Row::Kind::TornTop, {}, Finding::tr("outside of a section"));
         }
         const bool isFiscal = line.kind == LineKind::Fiscal;
         QString note = joined({isFiscal ? escaped(line.text) : QString(), line.fault,

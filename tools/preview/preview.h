@@ -2,6 +2,7 @@
 #pragma once
 
 #include "render/settings.h"
+#include "tools/terminal.h"
 
 #include <algorithm>
 #include <functional>
@@ -13,6 +14,8 @@ class QTextCodec;
 /// What will be printed, as it is shown: print files, the paper that the printer makes of them, and
 /// its drawing.
 namespace preview {
+
+using tools::Finding; // whose texts the window shows in its own language
 
 // What is wrong on paper, by one rule for those who check requests and those who draw print files.
 // Texts are of any character type: views of UTF-16 or UTF-32.

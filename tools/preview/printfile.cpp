@@ -50,11 +50,11 @@ void readItem(PrintLine &line)
     if (rest.size() > 3)
         line.receipt.emplace_back(U"  Adjustment", rest.substr(0, rest.size() - 3));
     if (name.find(U'"') != CellsView::npos)
-        line.fault = u"a double quote ends the name early"_s;
+        line.fault = Finding::tr("a double quote ends the name early");
     else if (!isFiscalNumber(quantity, U'.') || !isFiscalNumber(price, U','))
-        line.fault = u"quantity and price take digits and at most one point"_s;
+        line.fault = Finding::tr("quantity and price take digits and at most one point");
     else if (!isFiscalNumber(department))
-        line.fault = u"the department is no number"_s;
+        line.fault = Finding::tr("the department is no number");
 }
 
 /// Reads a discount or a payment.
@@ -95,20 +95,20 @@ void classify(PrintLine &line)
     const bool isClosed = text.ends_with(EndMark);
     if (command != std::end(commands)) {
         line.kind = command->second;
-        line.fault = line.kind == Empty ? u"empty line"_s : QString();
+        line.fault = line.kind == Empty ? Finding::tr("empty line") : QString();
     } else if (isOpened && isClosed && text.size() >= FrameSize) {
         line.kind = Printed;
         text = text.substr(1, text.size() - FrameSize);
         if (text.find(EndMark) != Cells::npos)
-            line.fault = u"ends at its first \"@"_s;
+            line.fault = Finding::tr("ends at its first \"@");
     } else {
         readItem(line);
         readValue(line);
         line.kind = line.receipt.empty() ? Unframed : Fiscal;
         if (line.kind == Unframed)
-            line.fault = isClosed   ? u"without its opening quote"_s
-                         : isOpened ? u"without its closing \"@"_s
-                                    : u"not framed: a command to the printer"_s;
+            line.fault = isClosed   ? Finding::tr("without its opening quote")
+                         : isOpened ? Finding::tr("without its closing \"@")
+                                    : Finding::tr("not framed: a command to the printer");
     }
 }
 
@@ -279,7 +279,7 @@ Document render(const QByteArray &request, bool traceElements)
     printFile->limitTo(MostBytes);
     if (!printFile->open(memfd_create("print file", MFD_CLOEXEC),
                          QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
-        document.fault = u"there is no memory for the print file"_s;
+        document.fault = Finding::tr("there is no memory for the print file");
         return document;
     }
     TracingDevice device(std::move(printFile), traceElements);
@@ -288,10 +288,10 @@ Document render(const QByteArray &request, bool traceElements)
     requestreader::read(source, device, &device.places);
     device.noteOrigin();
     if (!device.isWritten())
-        document.fault = u"more than %1 bytes would be printed"_s.arg(MostBytes);
+        document.fault = Finding::tr("more than %1 bytes would be printed").arg(MostBytes);
     else if (device.places.stop)
         document.fault =
-            u"line %1: the print run stops reading here"_s.arg(device.places.last().line);
+            Finding::tr("line %1: the print run stops reading here").arg(device.places.last().line);
     document.origins = std::move(device.origins);
     document.printFile = device.written();
     return document;

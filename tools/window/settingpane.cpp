@@ -112,11 +112,11 @@ void SettingPane::edit(const QString &text)
 {
     QTreeWidgetItem *const item = tree.currentItem();
     const Setting *const setting = tree.settingOf(item);
-    const QString value = tools::namesFile(setting) ? tools::valueFor(text) : text;
+    const QString value = tools::namesFile(setting) ? tools::valueOf(text) : text;
     shown = libconfig::settingText(tree.keyOf(item), value); // in the editor, as it is typed
     if (isLanguage(setting))
         tree.setValues({{item->parent(), u"basedir"_s,
-                         value.isEmpty() ? QString() : tools::valueFor(labelsFolder())},
+                         value.isEmpty() ? QString() : tools::valueOf(labelsFolder())},
                         {item->parent(), u"file"_s, value}});
     else
         tree.setValue(item, value);
