@@ -105,7 +105,8 @@ std::vector<ConfigTree::Attribute> ConfigTree::attributesOf(const QDomElement &e
     }
     QMap<QString, QString> others;
     // The toolkit counts its way to an attribute by index.
-    for (int i = 0; listed.size() + others.size() < attributes.length(); ++i) {
+    const qsizetype count = attributes.length();
+    for (int i = 0; i < count && listed.size() + others.size() < count; ++i) {
         if (const QDomNode other = attributes.item(i); !listed.contains(other.nodeName()))
             others.insert(other.nodeName(), other.nodeValue());
     }

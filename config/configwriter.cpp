@@ -93,6 +93,8 @@ QString writeInPlace(const QByteArray &name, const QByteArray &content)
 
 QString replaceFile(const QString &path, const QByteArray &content)
 {
+    if (path.isEmpty())
+        return text::systemMessage(ENOENT);
     const QByteArray name = QFile::encodeName(path);
     struct stat now = {};
     const bool exists = stat(name.constData(), &now) == 0;
@@ -102,9 +104,10 @@ QString replaceFile(const QString &path, const QByteArray &content)
         QSaveFile file(path);
         if (file.open(QIODevice::WriteOnly)
             && (!exists
-                || (fchown(file.handle(), now.st_uid, now.st_gid) == 0
+                || (fgetxattr(file.handle(), "system.posix_acl_access", nullptr, 0) < 0
+                    && fchown(file.handle(), now.st_uid, now.st_gid) == 0
                     && fchmod(file.handle(), now.st_mode & 07777) == 0))
-            && file.write(content) == content.size() && file.commit())
+            && file.write(content) == content.size() && file.flush() && file.commit())
             return {};
         if (!exists)
             return text::reasonOf(file);

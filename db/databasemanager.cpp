@@ -39,7 +39,8 @@ bool copiesThroughConnection(const QString &text)
         return false;
     // What holds no statement: quoted text and names, comments.
     static const QRegularExpression aside(
-        uR"(\b[eE]'(?:[^'\\]++|\\.|'')*+'|'(?:[^']++|'')*+'|"[^"]*+"|(?<![\w$])\$(\w*+)\$.*?\$\1\$|--[^\n\r]*+|)"
+        uR"((?<![\w$[:^ascii:]])[eE]'(?:[^'\\]++|\\.|'')*+'|'(?:[^']++|'')*+'|"[^"]*+"|)"
+        uR"((?<![\w$[:^ascii:]])\$([\w[:^ascii:]]*+)\$.*?\$\1\$|--[^\n\r]*+|)"
         uR"((/\*(?:[^*/]++|(?2)|/(?!\*)|\*(?!/))*+\*/))"_s,
         QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression copy(

@@ -491,11 +491,11 @@
     </message>
     <message>
         <source>ends with a carriage return</source>
-        <translation>termina con un ritorno a capo</translation>
+        <translation>termina con un ritorno carrello</translation>
     </message>
     <message>
         <source>without its carriage return</source>
-        <translation>senza il ritorno a capo</translation>
+        <translation>senza il ritorno carrello</translation>
     </message>
     <message>
         <source>fiscal</source>

@@ -20,14 +20,6 @@ constexpr QLatin1StringView payments[][3] = {
 
 QString withDecimalComma(QString text) { return text.replace(u'.', u','); }
 
-/// Whether the text, whose decimal point is a comma, reads as a number other than zero.
-bool isAmount(QString text)
-{
-    bool isNumber = false;
-    const double value = text.replace(u',', u'.').toDouble(&isNumber);
-    return isNumber && std::isfinite(value) && value != 0;
-}
-
 /// An item's command up to where an adjustment may follow.
 QString fiscalItem(const QString &department, const QString &quantity, const QString &description,
                    const QString &price)
@@ -92,7 +84,8 @@ void CompanyPrinterDriver::printRowFiscal(const QString &name, const QXmlAttribu
         return;
     for (const auto &[attribute, before, after] : payments) {
         const QString value = withDecimalComma(atts.value(attribute));
-        if (isAmount(value))
+        const double amount = QString(value).replace(u',', u'.').toDouble(); // 0 for no number
+        if (std::isfinite(amount) && amount != 0)
             write(before % value % after);
     }
 }

@@ -120,7 +120,7 @@ TEST_F(Database, Queries)
                              u"copy item to stdout"_s,
                              u"select 'a;' ; /* /* ; */ */ COPY (select ';') -- ;\n TO/**/STDOUT"_s,
                              u"select E'\\''; copy item from stdin; select ''"_s,
-                             u"select 1 as a$x$; copy item to stdout; select 1 as b$x$"_s,
+                             u"select 1 as \u00e9$x$; copy item to stdout; select 1 as b$x$"_s,
                              u"select $x$a$X$b$x$; copy item to stdout; select $x$c$x$"_s,
                              u"select 1 --\r; copy item to stdout"_s};
     for (const QString &query : never)

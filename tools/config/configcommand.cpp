@@ -101,9 +101,8 @@ int getValues(const Call &call)
     QString values;
     bool complete = true;
     for (const QString &key : line.positionalArguments()) {
-        const QByteArray value = file.config.lookup(key).toLatin1();
-        values += namesFile(settingOf(key)) ? QFile::decodeName(value) : QString::fromLatin1(value);
-        values += u'\n';
+        const auto value = QString::fromLatin1(file.config.lookup(key).toLatin1());
+        values += (namesFile(settingOf(key)) ? pathIn(value) : value) + u'\n';
         const QString unread = unreadKey(key);
         if (!unread.isEmpty())
             refuse(call, unread);
@@ -120,7 +119,8 @@ int listValues(const Call &call)
     const OpenedFile file(line, 0, 0);
     QString list;
     file.config.forEachSetting([&list](const QString &key, const QString &value) {
-        list += inOneLine(key + " = "_L1 + value) + u'\n';
+        list +=
+            inOneLine(key + " = "_L1 + (namesFile(settingOf(key)) ? pathIn(value) : value)) + u'\n';
     });
     return printOut(list);
 }

@@ -79,12 +79,6 @@ constexpr std::string_view IdleText = " \t\n\v\f\r\xA0;"; // white space, and se
 /// Whether nothing is lost with the text.
 bool isIdle(std::string_view text) { return text.find_first_not_of(IdleText) == text.npos; }
 
-bool beginsLikeComment(std::string_view text)
-{
-    constexpr std::array<std::string_view, 5> marks = {"#", "//", "/*", "--", "<!--"};
-    return std::ranges::any_of(marks, [text](auto mark) { return text.starts_with(mark); });
-}
-
 class CfgReader
 {
     Q_DECLARE_TR_FUNCTIONS(Finding)
@@ -262,7 +256,9 @@ bool CfgReader::checkName(bool isGroup)
 {
     const std::string_view name = nameText();
     const size_t lineEnd = name.rfind('\n');
-    const bool isComment = beginsLikeComment(name);
+    constexpr std::array<std::string_view, 5> marks = {"#", "//", "/*", "--", "<!--"};
+    const auto begins = [name](std::string_view mark) { return name.starts_with(mark); };
+    const bool isComment = std::ranges::any_of(marks, begins);
     const auto tellStray = [&](const QString &words, const auto &...arguments) {
         tellLoss("stray-text"_L1, name, words, arguments...);
         return false;

@@ -45,8 +45,12 @@ inline bool namesFile(const Setting *setting)
            && (setting->kind == SettingKind::Folder || setting->kind == SettingKind::FileName);
 }
 /// Such a value as a path, and the other way.
-inline QString pathIn(const QString &value) { return QFile::decodeName(value.toLatin1()); }
 inline QString valueOf(const QString &path) { return QString::fromLatin1(QFile::encodeName(path)); }
+inline QString pathIn(const QString &value)
+{
+    const QString path = QFile::decodeName(value.toLatin1());
+    return valueOf(path) == value ? path : value; // as it is where it is not UTF-8
+}
 /// The words that a value of a kind has to be one of, in any letter case; none for other kinds.
 QStringList wordsOf(SettingKind kind);
 /// The groups in which a key word is known.
