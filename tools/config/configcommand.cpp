@@ -102,7 +102,7 @@ int getValues(const Call &call)
     bool complete = true;
     for (const QString &key : line.positionalArguments()) {
         const auto value = QString::fromLatin1(file.config.lookup(key).toLatin1());
-        values += (namesFile(settingOf(key)) ? pathIn(value) : value) + u'\n';
+        values += shownValue(settingOf(key), value) + u'\n';
         const QString unread = unreadKey(key);
         if (!unread.isEmpty())
             refuse(call, unread);
@@ -119,8 +119,7 @@ int listValues(const Call &call)
     const OpenedFile file(line, 0, 0);
     QString list;
     file.config.forEachSetting([&list](const QString &key, const QString &value) {
-        list +=
-            inOneLine(key + " = "_L1 + (namesFile(settingOf(key)) ? pathIn(value) : value)) + u'\n';
+        list += inOneLine(key + " = "_L1 + shownValue(settingOf(key), value)) + u'\n';
     });
     return printOut(list);
 }

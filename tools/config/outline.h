@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include <QFile>
 #include <QStringList>
 
 /// The groups and keys that the suite reads from its configuration: `zentaro.GROUP.WORD`.
@@ -38,19 +37,10 @@ QStringList knownWords(QStringView group);
 /// A setting, also by its dotted key; null for an unknown one.
 const Setting *findSetting(QStringView group, QStringView word);
 const Setting *settingOf(const QString &key);
-/// Whether the value of a setting, which may be null, names a file or folder by its bytes.
-inline bool namesFile(const Setting *setting)
-{
-    return setting
-           && (setting->kind == SettingKind::Folder || setting->kind == SettingKind::FileName);
-}
-/// Such a value as a path, and the other way.
-inline QString valueOf(const QString &path) { return QString::fromLatin1(QFile::encodeName(path)); }
-inline QString pathIn(const QString &value)
-{
-    const QString path = QFile::decodeName(value.toLatin1());
-    return valueOf(path) == value ? path : value; // as it is where it is not UTF-8
-}
+/// The value of a setting, which may be null, as the file holds it and as a person has it: a file
+/// or folder is named by the bytes of its name, every other text is in ISO 8859-1.
+QString storedValue(const Setting *setting, const QString &text);
+QString shownValue(const Setting *setting, const QString &value);
 /// The words that a value of a kind has to be one of, in any letter case; none for other kinds.
 QStringList wordsOf(SettingKind kind);
 /// The groups in which a key word is known.

@@ -5,6 +5,7 @@
 #include "text/system.h"
 
 #include <QDir>
+#include <QFile>
 #include <QHash>
 #include <QTranslator>
 
@@ -79,6 +80,19 @@ const Setting *settingOf(const QString &key)
     const QStringList names = key.split(u'.');
     return names.size() == 3 && names[0] == ProductGroup ? findSetting(names[1], names[2])
                                                          : nullptr;
+}
+
+QString storedValue(const Setting *setting, const QString &text)
+{
+    const auto kind = setting ? setting->kind : SettingKind::Text;
+    const bool namesFile = kind == SettingKind::Folder || kind == SettingKind::FileName;
+    return namesFile ? QString::fromLatin1(QFile::encodeName(text)) : text;
+}
+
+QString shownValue(const Setting *setting, const QString &value)
+{
+    const QString path = QFile::decodeName(value.toLatin1());
+    return storedValue(setting, path) == value ? path : value; // as it is where it is no UTF-8
 }
 
 QStringList wordsOf(SettingKind kind)

@@ -174,10 +174,9 @@ EditedContent verified(const KeyInFile &before, const QByteArray &edited, const 
 
 EditedContent withSetting(const QByteArray &content, const QString &key, const QString &value)
 {
-    const bool isFile = namesFile(settingOf(key));
-    const QByteArray bytes = isFile ? QFile::encodeName(value) : value.toLatin1();
-    const QString stored = QString::fromLatin1(bytes);
-    if (!isFile && stored != value)
+    const QString stored = storedValue(settingOf(key), value);
+    const QByteArray bytes = stored.toLatin1();
+    if (QString::fromLatin1(bytes) != stored)
         return {content, u"the file holds ISO 8859-1 alone"_s};
     if (bytes.contains(';') || bytes.contains('"') || bytes.contains('\n'))
         return {content, u"a value can hold no `;`, no double quote and no line end"_s};

@@ -85,8 +85,7 @@ void SettingPane::showCurrent()
         editor->hide();
         editor->deleteLater();
     }
-    editor = isGroup ? nullptr
-                     : newEditor(setting, tools::namesFile(setting) ? tools::pathIn(value) : value);
+    editor = isGroup ? nullptr : newEditor(setting, tools::shownValue(setting, value));
     if (!editor)
         return;
     title->setBuddy(editor);
@@ -112,11 +111,11 @@ void SettingPane::edit(const QString &text)
 {
     QTreeWidgetItem *const item = tree.currentItem();
     const Setting *const setting = tree.settingOf(item);
-    const QString value = tools::namesFile(setting) ? tools::valueOf(text) : text;
+    const QString value = tools::storedValue(setting, text);
     shown = libconfig::settingText(tree.keyOf(item), value); // in the editor, as it is typed
     if (isLanguage(setting))
         tree.setValues({{item->parent(), u"basedir"_s,
-                         value.isEmpty() ? QString() : tools::valueOf(labelsFolder())},
+                         value.isEmpty() ? QString() : tools::storedValue(setting, labelsFolder())},
                         {item->parent(), u"file"_s, value}});
     else
         tree.setValue(item, value);
@@ -128,7 +127,8 @@ QString SettingPane::labelsFolder() const
     const QTreeWidgetItem *const item =
         ConfigTree::childOf(tree.currentItem()->parent(), false, u"basedir"_s);
     const QString folder =
-        item ? tools::pathIn(libconfig::settingOf(item->text(0)).second) : QString();
+        item ? tools::shownValue(tree.settingOf(item), libconfig::settingOf(item->text(0)).second)
+             : QString();
     const bool isUsed = !folder.isEmpty() && !QDir(folder, u"*.qm"_s).isEmpty();
     return isUsed ? folder : tools::translationsFolder();
 }
